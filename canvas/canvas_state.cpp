@@ -1,0 +1,37 @@
+#include "canvas/canvas_state.h"
+
+void load(Form1& form)
+{
+    form.controls.setCaption(" - Schemlet 2.0 "
+                             " New File ");
+    form.confirm.fill(1);
+    form.canvasBackColor = white;
+    form.wireColor = black;
+    form.eraseMode = 0;
+    form.resist = form.induc = form.capac = 0;
+    form.supplyVoltage = form.supplyCurrent = 0;
+    form.blinkCount = 0;
+    form.controls.setText(control::sb, " Press F1 for Help ");
+    // Before the pen gets its place: the first free-hand line starts at (0, 0), and after a reset at the old pen.
+    form.surface.setCurrent(static_cast<float>(form.x), static_cast<float>(form.y));
+    form.x = 1600;
+    form.y = 1500;
+    form.savedMark = 100;
+    placeMarker(form, form.x);
+    form.heading = heading::right;
+}
+
+void placeMarker(Form1& form, double left)
+{
+    form.controls.setLeft(control::Picture1, left);
+    form.controls.setTop(control::Picture1, form.y - markerRise);
+}
+
+void Timer2(Form1& form)
+{
+    form.controls.setVisible(control::Picture1, form.blinkCount % 50 == 0);
+    form.blinkCount += 25;
+    if (form.blinkCount >= 10000) {
+        form.blinkCount = 50; // a visible tick like 10000, so the wrap keeps the phase
+    }
+}

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/surface.h"
+#include "platform/window.h"
+
+#include <array>
+
+/// The controls on and around the canvas, by the names they have in the form.
+namespace control {
+inline constexpr Name Picture1 = "Picture1"; ///< the pen marker
+inline constexpr Name Shape1 = "Shape1";     ///< the eraser's outline
+inline constexpr Name Label27 = "Label27";   ///< says that erase mode is on
+inline constexpr Name rc = "rc";             ///< the right-click menu
+inline constexpr Name sb = "sb";             ///< panel 1 of the status bar, the hint
+inline constexpr Name sbPen = "sbPen";
+inline constexpr Name sbHeading = "sbHeading";
+inline constexpr Name sbTool = "sbTool";
+inline constexpr Name sbErase = "sbErase";
+inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
+} // namespace control
+
+/// Directions of the pen. A heading variable may hold other numbers too; nothing is drawn for those.
+namespace heading {
+inline constexpr int right = 1;
+inline constexpr int left = 2;
+inline constexpr int up = 3;
+inline constexpr int down = 4;
+} // namespace heading
+
+/// The families that can ask before they draw, in the order of their switches.
+enum Confirm : std::size_t {
+    motorsConfirm,
+    generatorsConfirm,
+    transformersConfirm,
+    armatureConfirm,
+    fieldConfirm,
+    pnpConfirm,
+    npnConfirm,
+    jfetConfirm,
+    thyristorsConfirm,
+    gatesConfirm,
+    diodesConfirm,
+    bufferConfirm,
+    opampConfirm,
+    confirmCount
+};
+
+/// Everything the program knows besides the ink. One plain field per fact, 0 until something sets it; switches are
+/// 1 or 0; lengths are twips.
+struct CanvasState {
+    double x = 0; ///< the pen: where the next wire or symbol starts
+    double y = 0;
+    int heading = 0;
+    int penMoved = 0; ///< 1 once an arrow key was pressed
+
+    int eraseMode = 0;
+    int eraseHint = 0; ///< nothing sets it, so the hint it stands for never shows
+    int lineTool = 0;  ///< at most one of the three tools is 1
+    int rectTool = 0;
+    int pencilTool = 0;
+    double mouseUpX = 0; ///< where a mouse button last came up
+    double mouseUpY = 0;
+
+    int autoJumper = 0;
+    Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
+    int jumperAnswer = 0;
+
+    int savedMark = 0; ///< 100 = nothing changed since start or save, 0 = changed
+    int blinkCount = 0;
+
+    Color wireColor = black;
+    Color canvasBackColor = black;
+    Color gatesColor = black;
+
+    std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
+
+    double resist = 0;        ///< sum of the resistances, ohm
+    double induc = 0;         ///< sum of the inductances, henry
+    double capac = 0;         ///< sum of the capacitances' reciprocals, 1/farad
+    double supplyVoltage = 0; ///< volt
+    double supplyCurrent = 0; ///< ampere
+
+    // The button that closed a symbol's question last.
+    int andAnswer = 0;
+    int orAnswer = 0;
+    int norAnswer = 0;
+    int nandAnswer = 0;
+    int exorAnswer = 0;
+    int exnorAnswer = 0;
+};
+
+/// What every command gets: the state and the way to the screen.
+struct Form1 : CanvasState {
+    Form1(Surface& canvas, Window& window, Dialogs& boxes) : surface(canvas), controls(window), dialogs(boxes) {}
+
+    Surface& surface;
+    Window& controls;
+    Dialogs& dialogs;
+};
+
+/// The one shape of every command.
+using Handler = void (*)(Form1&);
+
+/// How far the marker's top stands above the pen, in twips.
+inline constexpr double markerRise = 300;
+
+/// Sets the main window's variables to their start values, puts the pen at its start and the marker with it. What it
+/// does not assign stays: family colours, tools, automatic jumpers.
+void load(Form1& form);
+
+/// Moves the marker to a left edge of its own and to the pen's height.
+void placeMarker(Form1& form, double left);
+
+/// One tick of the marker's blink, every 500 ms.
+void Timer2(Form1& form);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+/// Hops over a crossing wire along the heading, in the foreground colour, and moves the pen past it. Draws nothing
+/// for a heading other than right, left, up or down. The marker stays.
+void jumper(Form1& form);
+
+/// Draws the ground symbol at the pen, in the foreground colour. Pen and marker stay.
+void ground(Form1& form);

@@ -1,0 +1,114 @@
+#include "canvas/keyboard.h"
+
+#include "canvas/jumper_ground.h"
+#include "platform/event.h"
+
+#include <algorithm>
+
+namespace {
+
+struct ArrowKey {
+    int code;
+    int heading;
+    int dx, dy;       // one step along the heading
+    int probe;        // how far ahead a crossing wire is looked for, twips
+    int markerOffset; // of the marker's left edge from the pen, twips
+};
+
+// The vertical probe is shorter and the marker steps aside there: the piece just laid is never found on a straight
+// run, and the marker does not hide a vertical wire.
+constexpr ArrowKey arrowKeys[] = {{key::right, heading::right, 1, 0, 110, 0},
+                                  {key::left, heading::left, -1, 0, 110, 0},
+                                  {key::up, heading::up, 0, -1, 100, -100},
+                                  {key::down, heading::down, 0, 1, 100, 100}};
+
+struct Letter {
+    char capital;
+    Handler handler;
+};
+
+constexpr Letter letters[] = {{'J', toggleAutoJumper}, {'E', eraser1}};
+
+constexpr int stepLength = 50; // twips a key press
+constexpr int dotSpacing = 10;
+constexpr float dotRadius = 10;
+
+void layWire(const Form1& form, const ArrowKey& arrow)
+{
+    for (int along = 0; along < stepLength; along += dotSpacing) {
+        form.surface.circle(static_cast<float>(form.x + arrow.dx * along), static_cast<float>(form.y + arrow.dy * along),
+                            dotRadius);
+    }
+}
+
+bool wireAhead(Form1& form, const ArrowKey& arrow)
+{
+    const auto found = form.surface.point(static_cast<float>(form.x + arrow.dx * arrow.probe),
+                                          static_cast<float>(form.y + arrow.dy * arrow.probe));
+    if (found) {
+        form.probeColor = *found;
+    }
+    return found == form.wireColor;
+}
+
+void arrowKey(Form1& form, const ArrowKey& arrow)
+{
+    form.heading = arrow.heading;
+    form.penMoved = 1;
+    if (form.eraseMode != 0) {
+        return;
+    }
+    form.surface.setForeColor(form.wireColor);
+    if (wireAhead(form, arrow) && form.autoJumper == 1) {
+        form.jumperAnswer =
+            form.dialogs.messageBox(" Do you want to draw a JUMPER ?", Box::yesNoQuestion, "POINT (or) LINE AHEAD...");
+        if (form.jumperAnswer == answer::yes) {
+            jumper(form);
+        }
+    }
+    layWire(form, arrow);
+    form.x += arrow.dx * stepLength;
+    form.y += arrow.dy * stepLength;
+    placeMarker(form, form.x + arrow.markerOffset);
+}
+
+} // namespace
+
+void keyDown(Form1& form, int code)
+{
+    form.savedMark = 0;
+    const auto* const arrow = std::ranges::find(arrowKeys, code, &ArrowKey::code);
+    if (arrow != std::end(arrowKeys)) {
+        arrowKey(form, *arrow);
+    }
+}
+
+void keyPress(Form1& form, int character)
+{
+    form.savedMark = 0;
+    const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
+    const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
+    if (letter != std::end(letters)) {
+        letter->handler(form);
+    }
+}
+
+void eraser1(Form1& form)
+{
+    constexpr int normalWidth = 2;
+    constexpr int eraserWidth = 10;
+    form.surface.setDrawWidth(form.surface.drawWidth() == eraserWidth ? normalWidth : eraserWidth);
+    form.eraseMode = form.eraseMode == 0 ? 1 : 0;
+    form.controls.setVisible(control::Label27, !form.controls.visible(control::Label27));
+}
+
+void toggleAutoJumper(Form1& form)
+{
+    form.autoJumper = form.autoJumper == 1 ? 0 : 1;
+}
+
+void jj(Form1& form)
+{
+    form.controls.setChecked("jj", !form.controls.checked("jj"));
+    toggleAutoJumper(form);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+/// A key going down. Any key marks the drawing changed; the arrow keys turn the pen and, outside erase mode, lay
+/// 50 twips of wire. Codes are those of platform/event.h.
+void keyDown(Form1& form, int code);
+
+/// A typed character: a component's or a mode's letter, capital or small, or nothing but a changed mark.
+void keyPress(Form1& form, int character);
+
+/// Switches erase mode: pen width, mode and label flip each from its own state.
+void eraser1(Form1& form);
+
+/// The J key: switches automatic jumpers and leaves the menu's mark as it is.
+void toggleAutoJumper(Form1& form);
+
+/// The menu item for automatic jumpers: flips the setting and its own mark, which may disagree after the J key.
+void jj(Form1& form);

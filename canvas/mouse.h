@@ -1,0 +1,17 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+/// Mouse on the canvas; places in twips, buttons as in platform/event.h. A press of the left button puts the pen, a
+/// press of the right one opens the popup menu.
+void mouseDown(Form1& form, int button, float x, float y);
+/// With the left button alone held: the pencil draws, erase mode erases, in this order.
+void mouseMove(Form1& form, int buttons, float x, float y);
+/// Brings the marker, and draws the line or the rectangle from where the left button went down.
+void mouseUp(Form1& form, int button, float x, float y);
+
+// Tool commands. Once a tool is chosen one of them stays on.
+void linee(Form1& form);
+void rectan(Form1& form);
+void pencil1(Form1& form);
+void eraser(Form1& form);

@@ -1,0 +1,29 @@
+#include "platform/qt/canvas_widget.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_window.h"
+#include "shell/events.h"
+#include "shell/view.h"
+#include "ui_Form1.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    // Fast pencil strokes need every motion; the platform plug-in switches merging on when it starts, so only now.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    installCanvasAccessibility();
+
+    QMainWindow mainWindow;
+    Ui::Form1 form;
+    form.setupUi(&mainWindow);
+
+    Form1* schemlet = nullptr;
+    QtWindow window(mainWindow, [&schemlet](const Event& event) { deliver(*schemlet, event); });
+    QtDialogs dialogs(mainWindow);
+    Form1 form1(form.Canvas->surface(), window, dialogs);
+    schemlet = &form1;
+
+    openMainWindow(form1);
+    return QApplication::exec();
+}

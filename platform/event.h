@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/window.h"
+
+/// The keys that mean something on their way down; every other key reports 0. The numbers are the classic virtual
+/// key codes.
+namespace key {
+inline constexpr int left = 37;
+inline constexpr int up = 38;
+inline constexpr int right = 39;
+inline constexpr int down = 40;
+} // namespace key
+
+/// Mouse buttons: one of them for a press or a release, their sum for a move.
+namespace button {
+inline constexpr int left = 1;
+inline constexpr int right = 2;
+inline constexpr int middle = 4;
+} // namespace button
+
+/// One thing the user or the clock did. All windows report through one function that takes these.
+struct Event {
+    enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, tick };
+
+    Kind kind;
+    Name name{};   ///< the menu item that was clicked or the timer that ticked
+    int code = 0;  ///< keyDown: a key; keyPress: a character (Unicode); mouse: button or buttons
+    float x = 0;   ///< mouse: the place on the canvas, in twips
+    float y = 0;
+};

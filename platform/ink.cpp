@@ -1,0 +1,164 @@
+#include "platform/ink.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace ink {
+namespace {
+
+/// Columns of a row, in places: from inclusive, to exclusive, empty unless from < to.
+struct Interval {
+    double from;
+    double to;
+};
+
+/// The first pixel whose centre is at or behind a place, kept between 0 and limit.
+int firstPixel(double place, int limit)
+{
+    return static_cast<int>(std::clamp(std::ceil(place - 0.5), 0.0, static_cast<double>(limit)));
+}
+
+Area clipped(const Image& image, double left, double top, double right, double bottom)
+{
+    const Area area{firstPixel(left, image.width), firstPixel(top, image.height), firstPixel(right, image.width),
+                    firstPixel(bottom, image.height)};
+    return area.left < area.right && area.top < area.bottom ? area : Area{};
+}
+
+template <typename Wanted> void inkRow(const Image& image, const Pen& pen, int y, Interval row, Wanted wanted)
+{
+    std::uint32_t* const pixels = image.pixels + static_cast<std::ptrdiff_t>(y) * image.stride;
+    const int end = firstPixel(row.to, image.width);
+    for (int x = firstPixel(row.from, image.width); x < end; ++x) {
+        if (wanted(x)) {
+            pixels[x] = pen.pixel;
+        }
+    }
+}
+
+constexpr auto everyPixel = [](int) { return true; };
+
+/// The nearest place from which a shape of this extent covers whole pixels evenly to both sides.
+double fitted(double place, double extent)
+{
+    const bool odd = std::fmod(std::round(extent), 2.0) != 0;
+    return odd ? std::floor(place) + 0.5 : std::floor(place + 0.5);
+}
+
+Place fitted(Place place, double extent)
+{
+    return {fitted(place.x, extent), fitted(place.y, extent)};
+}
+
+/// A disc's chord at a distance from its centre, or an empty interval.
+Interval chord(double centre, double radius, double distance)
+{
+    const double square = radius * radius - distance * distance;
+    const double half = square > 0 ? std::sqrt(square) : 0;
+    return {centre - half, centre + half};
+}
+
+/// Makes a convex shape's row reach as far as another part of that shape does.
+void extend(Interval& row, Interval by)
+{
+    if (by.from < by.to) {
+        row = row.from < row.to ? Interval{std::min(row.from, by.from), std::max(row.to, by.to)} : by;
+    }
+}
+
+/// What the straight part of a stroke, the rectangle between its two round ends, covers of the row at height y.
+Interval rectangleRow(Place from, Place to, double halfWidth, double y)
+{
+    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    if (length == 0) {
+        return {0, 0};
+    }
+    const double acrossX = -(to.y - from.y) / length * halfWidth;
+    const double acrossY = (to.x - from.x) / length * halfWidth;
+    const Place corners[] = {{from.x + acrossX, from.y + acrossY},
+                             {to.x + acrossX, to.y + acrossY},
+                             {to.x - acrossX, to.y - acrossY},
+                             {from.x - acrossX, from.y - acrossY}};
+    Interval row{0, 0};
+    bool crossed = false;
+    for (int i = 0; i < 4; ++i) {
+        const Place a = corners[i];
+        const Place b = corners[(i + 1) % 4];
+        if ((a.y <= y) == (b.y <= y)) {
+            continue;
+        }
+        const double x = a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x);
+        row = crossed ? Interval{std::min(row.from, x), std::max(row.to, x)} : Interval{x, x};
+        crossed = true;
+    }
+    return row;
+}
+
+/// Inks the pixels of a ring that are wanted.
+template <typename Wanted> Area ring(const Image& image, const Pen& pen, Place centre, double radius, Wanted wanted)
+{
+    const double outer = radius + pen.width / 2;
+    const double inner = std::max(0.0, radius - pen.width / 2);
+    const Area area = clipped(image, centre.x - outer, centre.y - outer, centre.x + outer, centre.y + outer);
+    for (int y = area.top; y < area.bottom; ++y) {
+        const double distance = y + 0.5 - centre.y;
+        const Interval whole = chord(centre.x, outer, distance);
+        const Interval hole = chord(centre.x, inner, distance);
+        const auto wantedHere = [&](int x) { return wanted(x, y); };
+        inkRow(image, pen, y, {whole.from, hole.from}, wantedHere);
+        inkRow(image, pen, y, {hole.to, whole.to}, wantedHere);
+    }
+    return area;
+}
+
+Area disc(const Image& image, const Pen& pen, Place centre)
+{
+    return ring(image, pen, centre, 0, [](int, int) { return true; });
+}
+
+double turnsFrom(double start, double angle)
+{
+    const double turn = 2 * std::numbers::pi;
+    const double difference = std::fmod(angle - start, turn);
+    return difference < 0 ? difference + turn : difference;
+}
+
+} // namespace
+
+Area line(const Image& image, const Pen& pen, Place from, Place to)
+{
+    from = fitted(from, pen.width);
+    to = fitted(to, pen.width);
+    const double half = pen.width / 2;
+    const Area area = clipped(image, std::min(from.x, to.x) - half, std::min(from.y, to.y) - half,
+                              std::max(from.x, to.x) + half, std::max(from.y, to.y) + half);
+    for (int y = area.top; y < area.bottom; ++y) {
+        const double middle = y + 0.5;
+        Interval row = rectangleRow(from, to, half, middle);
+        extend(row, chord(from.x, half, middle - from.y));
+        extend(row, chord(to.x, half, middle - to.y));
+        inkRow(image, pen, y, row, everyPixel);
+    }
+    return area;
+}
+
+Area circle(const Image& image, const Pen& pen, Place centre, double radius)
+{
+    return ring(image, pen, fitted(centre, 2 * radius + pen.width), radius, [](int, int) { return true; });
+}
+
+Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end)
+{
+    centre = fitted(centre, 2 * radius + pen.width);
+    const double sweep = turnsFrom(start, end);
+    const Area area = ring(image, pen, centre, radius, [&](int x, int y) {
+        return turnsFrom(start, std::atan2(centre.y - (y + 0.5), x + 0.5 - centre.x)) <= sweep;
+    });
+    for (const double angle : {start, end}) {
+        disc(image, pen, {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)});
+    }
+    return area;
+}
+
+} // namespace ink

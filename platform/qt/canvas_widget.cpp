@@ -1,0 +1,101 @@
+#include "platform/qt/canvas_widget.h"
+
+#include "platform/qt/keys.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace {
+
+int buttonCode(Qt::MouseButtons buttons)
+{
+    int code = 0;
+    code += buttons.testFlag(Qt::LeftButton) ? button::left : 0;
+    code += buttons.testFlag(Qt::RightButton) ? button::right : 0;
+    code += buttons.testFlag(Qt::MiddleButton) ? button::middle : 0;
+    return code;
+}
+
+QAccessibleInterface* canvasAccessibility(const QString& /*className*/, QObject* object)
+{
+    auto* const canvas = qobject_cast<CanvasWidget*>(object);
+    return canvas != nullptr ? new QAccessibleWidget(canvas, QAccessible::Canvas) : nullptr;
+}
+
+} // namespace
+
+CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    // The image covers every pixel and stays at the top left when the window grows: nothing to wipe or to move.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setAttribute(Qt::WA_StaticContents);
+    m_surface.changed = [this](const QRect& part) { update(part); };
+}
+
+void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position)
+{
+    reportMouse(Event::Kind::mouseUp, buttonCode(button), position);
+}
+
+void CanvasWidget::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    for (const QRect& part : event->region()) {
+        painter.drawImage(part, m_surface.image(), part);
+    }
+}
+
+void CanvasWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    m_surface.growTo(size());
+}
+
+void CanvasWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (keys::isModifier(*event)) {
+        return QWidget::keyPressEvent(event);
+    }
+    report({.kind = Event::Kind::keyDown, .code = keys::code(*event)});
+    if (const auto character = keys::character(*event)) {
+        report({.kind = Event::Kind::keyPress, .code = *character});
+    }
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event)
+{
+    reportMouse(Event::Kind::mouseDown, buttonCode(event->button()), event->position());
+}
+
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    reportMouse(Event::Kind::mouseMove, buttonCode(event->buttons()), event->position());
+}
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    reportRelease(event->button(), event->position());
+}
+
+void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position)
+{
+    report({.kind = kind,
+            .code = code,
+            .x = static_cast<float>(position.x() * twipsPerPixel),
+            .y = static_cast<float>(position.y() * twipsPerPixel)});
+}
+
+void installCanvasAccessibility()
+{
+    QAccessible::installFactory(canvasAccessibility);
+}

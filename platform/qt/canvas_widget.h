@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/event.h"
+#include "platform/qt/qt_surface.h"
+
+#include <QWidget>
+#include <functional>
+
+/// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed and draws
+/// nothing of its own.
+class CanvasWidget final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CanvasWidget(QWidget* parent = nullptr);
+
+    /// Takes every event of the canvas; set once before the window is shown.
+    std::function<void(const Event&)> report;
+
+    [[nodiscard]] QtSurface& surface() { return m_surface; }
+    /// For a release that another widget got although the button went down here.
+    void reportRelease(Qt::MouseButton button, QPointF position);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void reportMouse(Event::Kind kind, int code, QPointF position);
+
+    QtSurface m_surface;
+};
+
+/// Tells assistive programs that a CanvasWidget is a canvas. Call once, when the application object exists.
+void installCanvasAccessibility();

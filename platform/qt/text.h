@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+/// The core's texts are UTF-8.
+inline QString toQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}

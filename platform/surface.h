@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+/// 0x00BBGGRR, eight bits a channel: 0 is black, 0xFFFFFF white.
+using Color = std::uint32_t;
+
+inline constexpr Color black = 0x000000;
+inline constexpr Color white = 0xFFFFFF;
+
+/// One pixel of an unscaled screen (96 dpi) is 15 twips; a twip is 1/1440 inch.
+inline constexpr double twipsPerPixel = 15;
+
+/// A place on the canvas in twips, X to the right, Y downwards, (0, 0) at its top-left corner.
+struct Point {
+    double x = 0;
+    double y = 0;
+};
+
+/// The canvas as the drawing code sees it: ink that stays until it is wiped. Every length is in twips unless it
+/// says pixels. Any finite coordinate is accepted; what falls outside the retained image is clipped. Nothing is
+/// antialiased, so that point() finds exactly the colours that were drawn.
+class Surface {
+public:
+    virtual ~Surface() = default;
+
+    /// A straight stroke with round ends in the foreground colour; a zero-length one leaves a dot. The current
+    /// point moves to (x2, y2).
+    virtual void line(float x1, float y1, float x2, float y2) = 0;
+    /// The outline of the rectangle with these opposite corners. The current point moves to (x2, y2).
+    virtual void box(float x1, float y1, float x2, float y2) = 0;
+    /// A full circle outline. The current point stays.
+    virtual void circle(float x, float y, float radius) = 0;
+    /// A circle's part, counter-clockwise on the screen from start to end, angles in radians from +X. The current
+    /// point stays.
+    virtual void arc(float x, float y, float radius, float start, float end) = 0;
+    /// Prints with the current point as the text's top-left corner. endLine moves the current point to the left
+    /// edge one text line lower; otherwise it stands behind the text.
+    virtual void print(std::string_view text, bool endLine = true) = 0;
+
+    /// The colour of the pixel at a place; none outside the retained image.
+    [[nodiscard]] virtual std::optional<Color> point(float x, float y) const = 0;
+
+    /// The colour of everything drawn from now on.
+    virtual void setForeColor(Color color) = 0;
+
+    /// The pen's width in pixels, 1 or more; 2 at start.
+    [[nodiscard]] virtual int drawWidth() const = 0;
+    virtual void setDrawWidth(int pixels) = 0;
+
+    /// Where the next print() begins, and the free-hand tools' starting point.
+    [[nodiscard]] virtual Point current() const = 0;
+    virtual void setCurrent(float x, float y) = 0;
+};

@@ -1,0 +1,29 @@
+#include "shell/events.h"
+
+#include "canvas/keyboard.h"
+#include "canvas/mouse.h"
+#include "shell/commands.h"
+#include "shell/view.h"
+
+namespace {
+
+void dispatch(Form1& form, const Event& event)
+{
+    switch (event.kind) {
+    case Event::Kind::keyDown: return keyDown(form, event.code);
+    case Event::Kind::keyPress: return keyPress(form, event.code);
+    case Event::Kind::mouseDown: return mouseDown(form, event.code, event.x, event.y);
+    case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
+    case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
+    case Event::Kind::click: return runCommand(form, event.name);
+    case Event::Kind::tick: return Timer2(form);
+    }
+}
+
+} // namespace
+
+void deliver(Form1& form, const Event& event)
+{
+    dispatch(form, event);
+    showStatus(form);
+}

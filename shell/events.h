@@ -1,0 +1,7 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+#include "platform/event.h"
+
+/// The one way in: hands an event of the main window to its handler, then brings the status bar up to date.
+void deliver(Form1& form, const Event& event);

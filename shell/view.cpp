@@ -1,0 +1,56 @@
+#include "shell/view.h"
+
+#include "shell/commands.h"
+
+#include <string>
+
+namespace {
+
+std::string_view headingText(int code)
+{
+    switch (code) {
+    case heading::right: return "→ Right";
+    case heading::left: return "← Left";
+    case heading::up: return "↑ Up";
+    case heading::down: return "↓ Down";
+    default: return "";
+    }
+}
+
+std::string_view toolText(const CanvasState& state)
+{
+    if (state.lineTool == 1) {
+        return "Line";
+    }
+    if (state.rectTool == 1) {
+        return "Rectangle";
+    }
+    return state.pencilTool == 1 ? "Pencil" : "Pen";
+}
+
+std::string place(double twips)
+{
+    return std::to_string(static_cast<long long>(twips));
+}
+
+} // namespace
+
+void openMainWindow(Form1& form)
+{
+    addMenus(form);
+    form.controls.setVisible(control::Label27, false);
+    form.controls.setVisible(control::Shape1, false);
+    load(form);
+    showStatus(form);
+    form.controls.showWindow();
+    constexpr int blinkInterval = 500; // milliseconds
+    form.controls.setInterval(control::Timer2, blinkInterval);
+}
+
+void showStatus(const Form1& form)
+{
+    form.controls.setText(control::sbPen, place(form.x) + ", " + place(form.y));
+    form.controls.setText(control::sbHeading, headingText(form.heading));
+    form.controls.setText(control::sbTool, toolText(form));
+    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "");
+}

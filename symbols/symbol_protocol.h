@@ -1,0 +1,37 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+#include "symbols/stroke.h"
+
+/// What becomes of the pen marker.
+enum class Marker {
+    stays,
+    gateForm ///< its left edge goes to the pen, its top stays; also when no branch fits the heading
+};
+
+/// The foreground colour a symbol leaves behind.
+enum class ColorAfter {
+    kept, ///< the family's
+    toBlack,
+    toBlackUnlessAsked ///< the family's after an answered question, black after none
+};
+
+/// One symbol of the library, as data. Everything place() does follows from these fields.
+struct Symbol {
+    std::string_view title; ///< of its question
+    Confirm confirm;        ///< the switch that asks it
+    int CanvasState::*answer; ///< takes the question's answer
+    Color CanvasState::*color = nullptr; ///< the family's colour; none draws in the current one
+    std::span<const Branch> branches{};
+    Marker marker = Marker::stays;
+    ColorAfter colorAfter = ColorAfter::kept;
+    int CanvasState::*count = nullptr; ///< grows each time the symbol goes ahead
+};
+
+/// Draws a symbol at the pen: question, count, colour, branch, colour after, marker. Any answer but Yes changes
+/// nothing but the answer; a heading without a branch draws nothing and leaves the pen.
+void place(Form1& form, const Symbol& symbol);
+
+/// The strokes and the pen's way alone: the first branch that fits the heading, if any. Rows of kind value print
+/// the text given here.
+void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value = {});
