@@ -17,6 +17,7 @@ inline constexpr Name sbPen = "sbPen";
 inline constexpr Name sbHeading = "sbHeading";
 inline constexpr Name sbTool = "sbTool";
 inline constexpr Name sbErase = "sbErase";
+inline constexpr Name statusTimer = "statusTimer";
 inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
 } // namespace control
 
@@ -68,6 +69,7 @@ struct CanvasState {
 
     int savedMark = 0; ///< 100 = nothing changed since start or save, 0 = changed
     int blinkCount = 0;
+    int statusDue = 0; ///< 1 while the status bar waits to be brought up to date
 
     Color wireColor = black;
     Color canvasBackColor = black;

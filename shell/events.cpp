@@ -16,7 +16,7 @@ void dispatch(Form1& form, const Event& event)
     case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
     case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
     case Event::Kind::click: return runCommand(form, event.name);
-    case Event::Kind::tick: return Timer2(form);
+    case Event::Kind::tick: return event.name == control::statusTimer ? showStatus(form) : Timer2(form);
     }
 }
 
@@ -25,5 +25,7 @@ void dispatch(Form1& form, const Event& event)
 void deliver(Form1& form, const Event& event)
 {
     dispatch(form, event);
-    showStatus(form);
+    if (event.kind != Event::Kind::tick) {
+        showStatusSoon(form);
+    }
 }

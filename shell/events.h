@@ -3,5 +3,5 @@
 #include "canvas/canvas_state.h"
 #include "platform/event.h"
 
-/// The one way in: hands an event of the main window to its handler, then brings the status bar up to date.
+/// The one way in: hands an event of the main window to its handler and lets the status bar follow.
 void deliver(Form1& form, const Event& event);

@@ -47,10 +47,21 @@ void openMainWindow(Form1& form)
     form.controls.setInterval(control::Timer2, blinkInterval);
 }
 
-void showStatus(const Form1& form)
+void showStatus(Form1& form)
 {
+    form.statusDue = 0;
+    form.controls.setInterval(control::statusTimer, 0);
     form.controls.setText(control::sbPen, place(form.x) + ", " + place(form.y));
     form.controls.setText(control::sbHeading, headingText(form.heading));
     form.controls.setText(control::sbTool, toolText(form));
     form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "");
+}
+
+void showStatusSoon(Form1& form)
+{
+    constexpr int delay = 40; // milliseconds
+    if (form.statusDue == 0) {
+        form.statusDue = 1;
+        form.controls.setInterval(control::statusTimer, delay);
+    }
 }

@@ -6,4 +6,7 @@
 void openMainWindow(Form1& form);
 
 /// Brings the status bar's panels behind the hint up to date: pen, heading, tool in hand, erase mode.
-void showStatus(const Form1& form);
+void showStatus(Form1& form);
+
+/// The same a moment later, once for all events until then: ink comes first, and nobody reads faster.
+void showStatusSoon(Form1& form);

@@ -20,6 +20,18 @@ int toPixels(double twips)
     return static_cast<int>(std::lround(twips / twipsPerPixel));
 }
 
+/// A label that is marked so in the form keeps the size of the widest text it may show, which is its text there: a new
+/// text then repaints the label and lays out nothing.
+void fixLabelSizes(const QMainWindow& form)
+{
+    for (QLabel* const label : form.findChildren<QLabel*>()) {
+        if (label->property("fixedToText").toBool()) {
+            label->ensurePolished();
+            label->setFixedSize(label->sizeHint());
+        }
+    }
+}
+
 } // namespace
 
 QtWindow::QtWindow(QMainWindow& form, std::function<void(const Event&)> report)
@@ -28,6 +40,7 @@ QtWindow::QtWindow(QMainWindow& form, std::function<void(const Event&)> report)
     for (QWidget* const control : form.findChildren<QWidget*>()) {
         m_named.emplace(control->objectName().toStdString(), control);
     }
+    fixLabelSizes(form);
     m_canvas.report = m_report;
     m_canvas.setFocus();
 }
