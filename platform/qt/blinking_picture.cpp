@@ -1,0 +1,21 @@
+#include "platform/qt/blinking_picture.h"
+
+#include <QPainter>
+
+void BlinkingPicture::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        QLabel::setVisible(true); // the first time, with its window
+    }
+    if (m_on != visible) {
+        m_on = visible;
+        parentWidget()->update(geometry()); // the canvas is opaque, so the repaint starts there and not at the window
+    }
+}
+
+void BlinkingPicture::paintEvent(QPaintEvent* /*event*/)
+{
+    if (m_on) {
+        QPainter(this).drawPixmap(0, 0, pixmap());
+    }
+}
