@@ -2,7 +2,21 @@
 
 #include "platform/qt/text.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
+
+namespace {
+
+/// A box is as wide as its text; a longer title would be cut off in the middle.
+void makeRoomForTitle(QMessageBox& box)
+{
+    constexpr int frameButtons = 140; // pixels, generous: window managers differ
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + frameButtons;
+    auto& layout = dynamic_cast<QGridLayout&>(*box.layout());
+    layout.addItem(new QSpacerItem(width, 0), layout.rowCount(), 0, 1, layout.columnCount());
+}
+
+} // namespace
 
 int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
 {
@@ -18,5 +32,6 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
         box.setEscapeButton(QMessageBox::No);
         break;
     }
+    makeRoomForTitle(box);
     return box.exec() == QMessageBox::Yes ? answer::yes : answer::no;
 }

@@ -57,8 +57,9 @@ void QtWindow::showWindow()
 
 void QtWindow::addMenuItem(int depth, const MenuItem& item)
 {
-    auto* const action = new QAction(toQString(item.caption), &m_form);
-    action->setSeparator(item.caption == "-");
+    const bool separator = item.caption == "-";
+    auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
+    action->setSeparator(separator);
     action->setShortcut(QKeySequence::fromString(toQString(item.shortcut), QKeySequence::PortableText));
     action->setCheckable(item.look == Look::unchecked);
     action->setVisible(item.look != Look::hidden);

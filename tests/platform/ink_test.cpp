@@ -1,0 +1,159 @@
+#include "platform/ink.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// A small image as text, one character a pixel.
+struct Paper {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(static_cast<std::size_t>(width * height));
+    ink::Area touched{};
+
+    [[nodiscard]] ink::Image image() { return {pixels.data(), width, height, width}; }
+    [[nodiscard]] std::string text() const
+    {
+        std::string out;
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                out += pixels[static_cast<std::size_t>(y * width + x)] != 0 ? '#' : '.';
+            }
+            out += '\n';
+        }
+        return out;
+    }
+    [[nodiscard]] long inked() const { return std::ranges::count(pixels, 1U); }
+};
+
+constexpr ink::Pen thin{1, 2};
+constexpr ink::Pen eraser{1, 10};
+
+} // namespace
+
+TEST(Ink, ZeroLengthLinesLeaveTheSameDotEverywhere)
+{
+    for (const double fraction : {0.0, 0.3, 0.49}) {
+        Paper paper{4, 4};
+        ink::line(paper.image(), thin, {2 + fraction, 2 + fraction}, {2 + fraction, 2 + fraction});
+        EXPECT_EQ(paper.text(), "....\n.##.\n.##.\n....\n") << fraction;
+    }
+}
+
+TEST(Ink, CirclesSmallerThanThePenHaveNoHole)
+{
+    Paper paper{5, 5};
+    ink::circle(paper.image(), thin, {2.5, 2.5}, 2.0 / 3);
+    EXPECT_EQ(paper.text(), ".....\n.###.\n.###.\n.###.\n.....\n");
+}
+
+TEST(Ink, DotsTenTwipsApartMergeIntoASolidWireOfEvenWidth)
+{
+    for (const double start : {3.0, 3.3, 3.67}) {
+        Paper paper{40, 7};
+        for (int i = 0; i < 45; ++i) {
+            ink::circle(paper.image(), thin, {start + i * 2.0 / 3, start}, 2.0 / 3);
+        }
+        for (int x = 5; x < 30; ++x) {
+            for (int y = 0; y < 7; ++y) {
+                EXPECT_EQ(paper.pixels[static_cast<std::size_t>(y * 40 + x)], y >= 2 && y <= 4 ? 1U : 0U);
+            }
+        }
+    }
+}
+
+TEST(Ink, CirclesOfEveryUsedRadiusAreSymmetricAndClosed)
+{
+    for (int twips = 10; twips <= 350; twips += 10) {
+        SCOPED_TRACE(twips);
+        constexpr int side = 64;
+        Paper paper{side, side};
+        const ink::Area area = ink::circle(paper.image(), thin, {32.2, 31.7}, twips / 15.0);
+        const auto at = [&](int x, int y) { return paper.pixels[static_cast<std::size_t>(y * side + x)]; };
+        const int width = area.right - area.left;
+        ASSERT_EQ(width, area.bottom - area.top);
+        for (int y = 0; y < width; ++y) {
+            long runs = 0;
+            for (int x = 0; x < width; ++x) {
+                const auto pixel = at(area.left + x, area.top + y);
+                ASSERT_EQ(pixel, at(area.right - 1 - x, area.top + y));
+                ASSERT_EQ(pixel, at(area.left + x, area.bottom - 1 - y));
+                ASSERT_EQ(pixel, at(area.left + y, area.top + x));
+                runs += pixel != 0 && (x == 0 || at(area.left + x - 1, area.top + y) == 0) ? 1 : 0;
+            }
+            ASSERT_GE(runs, 1);
+            ASSERT_LE(runs, 2);
+        }
+    }
+}
+
+TEST(Ink, WideRingsAroundAPlaceBlotOutAWholePatch)
+{
+    Paper paper{40, 40};
+    for (const double offset : {0.0, -2.0 / 3, 2.0 / 3, -4.0 / 3, 4.0 / 3, -2.0, 2.0}) {
+        ink::circle(paper.image(), eraser, {20 + offset, 20}, 100 / 15.0);
+        ink::circle(paper.image(), eraser, {20, 20 + offset}, 100 / 15.0);
+    }
+    for (int y = 12; y < 28; ++y) {
+        for (int x = 12; x < 28; ++x) {
+            EXPECT_EQ(paper.pixels[static_cast<std::size_t>(y * 40 + x)], 1U) << x << ' ' << y;
+        }
+    }
+}
+
+TEST(Ink, ArcsRunCounterClockwiseFromStartToEnd)
+{
+    Paper below{30, 30};
+    ink::arc(below.image(), thin, {15, 15}, 10, 3.5, 0);
+    const auto at = [](const Paper& paper, int x, int y) { return paper.pixels[static_cast<std::size_t>(y * 30 + x)]; };
+    EXPECT_EQ(at(below, 15, 25), 1U); // bottom
+    EXPECT_EQ(at(below, 24, 15), 1U); // right end
+    EXPECT_EQ(at(below, 15, 5), 0U);  // top
+    EXPECT_EQ(at(below, 5, 14), 0U);  // left, just before the start
+
+    Paper right{30, 30};
+    ink::arc(right.image(), thin, {15, 15}, 10, 5.0, 1.5);
+    EXPECT_EQ(at(right, 25, 15), 1U);
+    EXPECT_EQ(at(right, 15, 5), 1U);
+    EXPECT_EQ(at(right, 5, 15), 0U);
+    EXPECT_EQ(at(right, 13, 25), 0U);
+}
+
+TEST(Ink, ReportsAnAreaThatHoldsEveryInkedPixel)
+{
+    const auto check = [](auto draw) {
+        Paper paper{30, 30};
+        const ink::Area area = draw(paper.image());
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 0; x < 30; ++x) {
+                if (paper.pixels[static_cast<std::size_t>(y * 30 + x)] != 0) {
+                    EXPECT_TRUE(x >= area.left && x < area.right && y >= area.top && y < area.bottom) << x << ' ' << y;
+                }
+            }
+        }
+    };
+    for (double shift = -5; shift < 35; shift += 1.7) {
+        check([&](const ink::Image& image) { return ink::line(image, thin, {shift, 3}, {20, shift}); });
+        check([&](const ink::Image& image) { return ink::circle(image, thin, {shift, 12}, 7.3); });
+        check([&](const ink::Image& image) { return ink::arc(image, thin, {shift, 12}, 7.3, 5.0, 1.5); });
+    }
+}
+
+TEST(Ink, ClipsWhatLiesOutsideHoweverFar)
+{
+    Paper paper{10, 10};
+    for (const double far : {-3e9, -40.0, 50.0, 3e9}) {
+        ink::line(paper.image(), thin, {far, far}, {far, far + 5});
+        ink::circle(paper.image(), thin, {far, 5}, 10);
+        ink::arc(paper.image(), thin, {5, far}, 10, 3.5, 0);
+    }
+    EXPECT_EQ(paper.inked(), 0);
+
+    ink::line(paper.image(), thin, {-3e9, 5}, {3e9, 5});
+    EXPECT_EQ(paper.inked(), 20);
+    ink::circle(paper.image(), eraser, {5, 5}, 1);
+    EXPECT_GT(paper.inked(), 60);
+}

@@ -1,0 +1,115 @@
+#include "tests/support/stand_ins.h"
+
+#include "shell/view.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <utility>
+
+namespace {
+
+template <typename... Values> std::string words(const Values&... values)
+{
+    std::ostringstream out;
+    out.precision(10);
+    const char* blank = "";
+    ((out << std::exchange(blank, " ") << values), ...);
+    return out.str();
+}
+
+} // namespace
+
+void RecordingSurface::line(float x1, float y1, float x2, float y2)
+{
+    ink.push_back(words("line", x1, y1, x2, y2));
+    m_current = {x2, y2};
+}
+
+void RecordingSurface::box(float x1, float y1, float x2, float y2)
+{
+    ink.push_back(words("box", x1, y1, x2, y2));
+    m_current = {x2, y2};
+}
+
+void RecordingSurface::circle(float x, float y, float radius)
+{
+    if (!recording) {
+        return;
+    }
+    ink.push_back(words("circle", x, y, radius));
+}
+
+void RecordingSurface::arc(float x, float y, float radius, float start, float end)
+{
+    ink.push_back(words("arc", x, y, radius, start, end));
+}
+
+void RecordingSurface::print(std::string_view text, bool endLine)
+{
+    ink.push_back(words("print", m_current.x, m_current.y, text) + (endLine ? "" : " ..."));
+    m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
+}
+
+std::optional<Color> RecordingSurface::point(float x, float y) const
+{
+    probedAt = recording ? words(x, y) : "";
+    return underPoint;
+}
+
+void RecordingSurface::setForeColor(Color color)
+{
+    foreColor = color;
+}
+
+ScriptedDialogs::~ScriptedDialogs()
+{
+    EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().first;
+}
+
+int ScriptedDialogs::messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view title)
+{
+    if (m_expected.empty()) {
+        ADD_FAILURE() << "unexpected question: " << title;
+        return answer::no;
+    }
+    const auto [expected, answer] = m_expected.front();
+    m_expected.pop_front();
+    EXPECT_EQ(title, expected);
+    return answer;
+}
+
+void StandInWindow::addMenuItem(int depth, const MenuItem& item)
+{
+    captions.push_back(std::string(static_cast<std::size_t>(depth), ' ').append(item.caption));
+}
+
+StandInWindow::Control StandInWindow::find(Name name) const
+{
+    const auto found = m_controls.find(name);
+    return found == m_controls.end() ? Control{} : found->second;
+}
+
+Bench::Bench()
+{
+    openMainWindow(form);
+}
+
+std::string Bench::drawn()
+{
+    std::string lines;
+    for (const std::string& line : std::exchange(surface.ink, {})) {
+        lines += line + "\n";
+    }
+    return lines;
+}
+
+std::string Bench::pen() const
+{
+    return words(form.x, form.y);
+}
+
+std::string Bench::marker()
+{
+    const auto& picture = window.at(control::Picture1);
+    return words(picture.left, picture.top);
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Notes one text line for each call that draws, such as "line 1600 1500 1600 1750".
+class RecordingSurface final : public Surface {
+public:
+    std::vector<std::string> ink;
+    bool recording = true;           ///< off for long walks
+    std::optional<Color> underPoint; ///< what point() finds, anywhere
+    mutable std::string probedAt;    ///< where point() looked last
+    Color foreColor = black;
+
+    void line(float x1, float y1, float x2, float y2) override;
+    void box(float x1, float y1, float x2, float y2) override;
+    void circle(float x, float y, float radius) override;
+    void arc(float x, float y, float radius, float start, float end) override;
+    void print(std::string_view text, bool endLine) override;
+    [[nodiscard]] std::optional<Color> point(float x, float y) const override;
+    void setForeColor(Color color) override;
+    [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
+    void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
+    [[nodiscard]] Point current() const override { return m_current; }
+    void setCurrent(float x, float y) override { m_current = {x, y}; }
+
+private:
+    int m_drawWidth = 2;
+    Point m_current;
+};
+
+/// Gives queued answers; an unexpected question or one left over fails the test.
+class ScriptedDialogs final : public Dialogs {
+public:
+    ~ScriptedDialogs() override;
+
+    /// The next question must have this title, and is answered so.
+    void expect(std::string title, int answer) { m_expected.emplace_back(std::move(title), answer); }
+
+    int messageBox(std::string_view prompt, Box style, std::string_view title) override;
+
+private:
+    std::deque<std::pair<std::string, int>> m_expected;
+};
+
+/// Keeps what was set last.
+class StandInWindow final : public Window {
+public:
+    struct Control {
+        bool visible = true;
+        bool checked = false;
+        std::string text;
+        double left = 0;
+        double top = 0;
+    };
+
+    std::string caption;
+    std::string poppedUp;
+    std::vector<std::string> captions; ///< of the menu rows, each after one blank per depth
+    std::map<std::string, int, std::less<>> intervals;
+
+    [[nodiscard]] Control& at(Name name) { return m_controls[std::string(name)]; }
+
+    void setCaption(std::string_view title) override { caption = title; }
+    void showWindow() override {}
+    void addMenuItem(int depth, const MenuItem& item) override;
+    void popUp(Name menu) override { poppedUp = menu; }
+    void setChecked(Name item, bool checked) override { at(item).checked = checked; }
+    [[nodiscard]] bool checked(Name item) const override { return find(item).checked; }
+    void setVisible(Name control, bool visible) override { at(control).visible = visible; }
+    [[nodiscard]] bool visible(Name control) const override { return find(control).visible; }
+    void setText(Name control, std::string_view text) override { at(control).text = text; }
+    void setLeft(Name control, double twips) override { at(control).left = twips; }
+    void setTop(Name control, double twips) override { at(control).top = twips; }
+    void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
+
+private:
+    [[nodiscard]] Control find(Name name) const;
+
+    std::map<std::string, Control, std::less<>> m_controls;
+};
+
+/// The program as it stands right after start, without a toolkit.
+struct Bench {
+    RecordingSurface surface;
+    StandInWindow window;
+    ScriptedDialogs dialogs;
+    Form1 form{surface, window, dialogs};
+
+    Bench();
+
+    /// The ink since the last call, one line each.
+    std::string drawn();
+    [[nodiscard]] std::string pen() const;    ///< such as "1600 1500"
+    [[nodiscard]] std::string marker();       ///< left and top, such as "1600 1200"
+};
