@@ -1,0 +1,193 @@
+#include "tests/gui/desk.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+constexpr int patience = 15000; // milliseconds, for a busy machine; nothing waits that long by design
+
+QString outputOf(const QString& program, const QStringList& words)
+{
+    QProcess process;
+    process.start(program, words);
+    EXPECT_TRUE(process.waitForFinished(patience)) << program.toStdString() << ' ' << words.join(' ').toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+void end(QProcess& process)
+{
+    process.terminate();
+    if (!process.waitForFinished(patience)) {
+        process.kill();
+        process.waitForFinished(patience);
+    }
+}
+
+QImage grab(const QRect& part)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
+}
+
+} // namespace
+
+Desk::Desk()
+{
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
+    while (!m_server.canReadLine() && m_server.waitForReadyRead(patience)) {
+    }
+    const QByteArray number = m_server.readLine().trimmed();
+    if (number.isEmpty()) {
+        throw std::runtime_error("Xvfb does not start");
+    }
+    qputenv("DISPLAY", ":" + number);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    m_manager.start("openbox");
+    while (!outputOf("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id")) {
+        if (m_manager.waitForFinished(10)) {
+            throw std::runtime_error("openbox does not start");
+        }
+    }
+}
+
+Desk::~Desk()
+{
+    end(m_manager);
+    end(m_server);
+}
+
+bool waitUntil(const char* what, const std::function<bool()>& condition)
+{
+    const bool held = QTest::qWaitFor(condition, patience);
+    EXPECT_TRUE(held) << "never came: " << what;
+    return held;
+}
+
+Program::Program()
+{
+    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_process.start(SCHEMLET_PROGRAM, QStringList());
+    waitUntil("the main window", [this] {
+        m_window = outputOf("xdotool", {"search", "--onlyvisible", "--name", "^ - Schemlet 2.0 "});
+        return !m_window.isEmpty();
+    });
+    xdotool({"windowmove", m_window, "40", "40", "windowactivate", m_window});
+    waitForMainWindow();
+    findCanvas();
+}
+
+Program::~Program()
+{
+    if (m_process.state() != QProcess::NotRunning) {
+        end(m_process);
+    }
+}
+
+void Program::findCanvas()
+{
+    waitUntil("a white canvas under the menu bar", [this] {
+        const QString place = outputOf("xwininfo", {"-id", m_window});
+        const auto number = [&](const char* label) { return place.section(label, 1).trimmed().section('\n', 0, 0).toInt(); };
+        const QRect window(number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
+                           number("Height:"));
+        const QImage picture = grab(window);
+        int top = 0;
+        while (top < picture.height() && picture.pixelColor(1, top) != Qt::white) {
+            ++top;
+        }
+        int bottom = top;
+        while (bottom < picture.height() && picture.pixelColor(1, bottom) == Qt::white) {
+            ++bottom;
+        }
+        m_canvas = QRect(window.left(), window.top() + top, window.width(), bottom - top);
+        return top > 0 && m_canvas.height() > 100;
+    });
+}
+
+void Program::xdotool(const QStringList& words)
+{
+    EXPECT_EQ(QProcess::execute("xdotool", words), 0) << words.join(' ').toStdString();
+}
+
+void Program::keys(std::initializer_list<const char*> keys)
+{
+    QStringList words{"key", "--delay", "10"};
+    for (const char* const key : keys) {
+        words << key;
+    }
+    xdotool(words);
+}
+
+void Program::keyTimes(int times, const char* key)
+{
+    xdotool({"key", "--delay", "2", "--repeat", QString::number(times), key});
+}
+
+void Program::moveMouse(int x, int y)
+{
+    const QPoint place = m_canvas.topLeft() + QPoint(x, y);
+    xdotool({"mousemove", QString::number(place.x()), QString::number(place.y())});
+}
+
+void Program::press(int button)
+{
+    xdotool({"mousedown", QString::number(button)});
+}
+
+void Program::release(int button)
+{
+    xdotool({"mouseup", QString::number(button)});
+}
+
+void Program::click(int button, int x, int y)
+{
+    moveMouse(x, y);
+    press(button);
+    release(button);
+}
+
+void Program::drag(int x1, int y1, int x2, int y2)
+{
+    moveMouse(x1, y1);
+    press(1);
+    moveMouse((x1 + x2) / 2, (y1 + y2) / 2);
+    moveMouse(x2, y2);
+    release(1);
+}
+
+void Program::resize(int width, int height)
+{
+    xdotool({"windowsize", "--sync", m_window, QString::number(width), QString::number(height)});
+    waitUntil("the new size", [&] {
+        findCanvas();
+        return m_canvas.width() == width;
+    });
+}
+
+QImage Program::canvas() const
+{
+    return grab(m_canvas);
+}
+
+QColor Program::pixel(int x, int y) const
+{
+    return grab({m_canvas.topLeft() + QPoint(x, y), QSize(1, 1)}).pixelColor(0, 0);
+}
+
+void Program::waitForWindow(const QString& title)
+{
+    waitUntil(qPrintable(title), [&] {
+        return outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title.trimmed();
+    });
+}
+
+int Program::close()
+{
+    EXPECT_EQ(QProcess::execute("wmctrl", {"-i", "-c", m_window}), 0);
+    EXPECT_TRUE(m_process.waitForFinished(patience)) << "the program does not end";
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QProcess>
+#include <QString>
+#include <functional>
+#include <initializer_list>
+
+/// A screen of our own: an X server without a monitor and a window manager on it, ended with this object. Must be made
+/// before the application object, which then looks at the same screen.
+class Desk {
+public:
+    Desk();
+    ~Desk();
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+private:
+    QProcess m_server;
+    QProcess m_manager;
+};
+
+/// Waits until a condition holds; fails the test with these words if it never does.
+bool waitUntil(const char* what, const std::function<bool()>& condition);
+
+/// The real program in its window, used as a person does: by keys, mouse and looking at the screen. Places are canvas
+/// pixels.
+class Program {
+public:
+    Program();
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    void keys(std::initializer_list<const char*> keys);
+    void keyTimes(int times, const char* key);
+    void moveMouse(int x, int y);
+    void press(int button);
+    void release(int button);
+    void click(int button, int x, int y);
+    void drag(int x1, int y1, int x2, int y2);
+    void resize(int width, int height);
+    void xdotool(const QStringList& words);
+
+    [[nodiscard]] QImage canvas() const;
+    [[nodiscard]] QColor pixel(int x, int y) const;
+    [[nodiscard]] bool inked(int x, int y) const { return pixel(x, y) != Qt::white; }
+
+    /// Waits until a window with this title has the keyboard.
+    void waitForWindow(const QString& title);
+    void waitForMainWindow() { waitForWindow(" - Schemlet 2.0  New File "); }
+
+    /// Closes the main window as its frame does; returns the program's exit status.
+    int close();
+
+private:
+    void findCanvas();
+
+    QProcess m_process;
+    QString m_window; ///< the X server's number of the main window
+    QRect m_canvas;   ///< on the screen
+};
