@@ -36,8 +36,8 @@ constexpr float dotRadius = 10;
 void layWire(const Form1& form, const ArrowKey& arrow)
 {
     for (int along = 0; along < stepLength; along += dotSpacing) {
-        form.surface.circle(static_cast<float>(form.x + arrow.dx * along), static_cast<float>(form.y + arrow.dy * along),
-                            dotRadius);
+        form.surface.circle(static_cast<float>(form.x + arrow.dx * along),
+                            static_cast<float>(form.y + arrow.dy * along), dotRadius);
     }
 }
 

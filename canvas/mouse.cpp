@@ -10,8 +10,8 @@ struct Offset {
 };
 
 // Rings of the eraser, close enough to blot out a whole patch: at 10 pixels' width each one leaves a hole of its own.
-constexpr Offset eraserRings[] = {{0, 0},    {-10, 0}, {10, 0},  {0, -10}, {0, 10},  {-20, 0}, {20, 0},
-                                  {0, -20},  {0, 20},  {-30, 0}, {30, 0},  {0, -30}, {0, 30}};
+constexpr Offset eraserRings[] = {{0, 0},   {-10, 0}, {10, 0},  {0, -10}, {0, 10},  {-20, 0}, {20, 0},
+                                  {0, -20}, {0, 20},  {-30, 0}, {30, 0},  {0, -30}, {0, 30}};
 constexpr float eraserRingRadius = 100;
 
 void erase(const Form1& form, float x, float y)

@@ -23,8 +23,8 @@ struct Event {
     enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, tick };
 
     Kind kind;
-    Name name{};   ///< the menu item that was clicked or the timer that ticked
-    int code = 0;  ///< keyDown: a key; keyPress: a character (Unicode); mouse: button or buttons
-    float x = 0;   ///< mouse: the place on the canvas, in twips
+    Name name{};  ///< the menu item that was clicked or the timer that ticked
+    int code = 0; ///< keyDown: a key; keyPress: a character (Unicode); mouse: button or buttons
+    float x = 0;  ///< mouse: the place on the canvas, in twips
     float y = 0;
 };

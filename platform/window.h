@@ -12,9 +12,9 @@ enum class Look {
 };
 
 struct MenuItem {
-    Name name;                    ///< empty for a separator
-    std::string_view caption;     ///< & marks the mnemonic; "-" is a separator
-    std::string_view shortcut{};  ///< such as "Ctrl+E"
+    Name name;                   ///< empty for a separator
+    std::string_view caption;    ///< & marks the mnemonic; "-" is a separator
+    std::string_view shortcut{}; ///< such as "Ctrl+E"
     Look look = Look::plain;
 };
 

@@ -4,7 +4,7 @@
 
 /// One row of the menu tree.
 struct Command {
-    int depth; ///< 0 on the bar; each further depth lies under the row above it
+    int depth = 0; ///< 0 on the bar; each further depth lies under the row above it
     MenuItem item;
     Handler handler = nullptr; ///< none: a submenu or a separator
 };

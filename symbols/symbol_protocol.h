@@ -18,9 +18,9 @@ enum class ColorAfter {
 
 /// One symbol of the library, as data. Everything place() does follows from these fields.
 struct Symbol {
-    std::string_view title; ///< of its question
-    Confirm confirm;        ///< the switch that asks it
-    int CanvasState::*answer; ///< takes the question's answer
+    std::string_view title;              ///< of its question
+    Confirm confirm;                     ///< the switch that asks it
+    int CanvasState::*answer;            ///< takes the question's answer
     Color CanvasState::*color = nullptr; ///< the family's colour; none draws in the current one
     std::span<const Branch> branches{};
     Marker marker = Marker::stays;

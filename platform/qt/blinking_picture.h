@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A picture on the canvas that is shown and hidden all day. It stays in place for Qt and merely paints nothing while it
-/// is off: a repaint of its few pixels instead of the event, layout and focus work of a widget's hiding.
+/// A picture on the canvas that is shown and hidden all day. It stays in place for Qt and merely paints nothing while
+/// it is off: a repaint of its few pixels instead of the event, layout and focus work of a widget's hiding.
 class BlinkingPicture final : public QLabel {
     Q_OBJECT
 

@@ -38,7 +38,7 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
     m_surface.changed = [this](const QRect& part) { update(part); };
 }
 
-void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position)
+void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position) const
 {
     reportMouse(Event::Kind::mouseUp, buttonCode(button), position);
 }
@@ -87,7 +87,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
     reportRelease(event->button(), event->position());
 }
 
-void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position)
+void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) const
 {
     report({.kind = kind,
             .code = code,

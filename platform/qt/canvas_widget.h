@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] QtSurface& surface() { return m_surface; }
     /// For a release that another widget got although the button went down here.
-    void reportRelease(Qt::MouseButton button, QPointF position);
+    void reportRelease(Qt::MouseButton button, QPointF position) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -31,7 +31,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void reportMouse(Event::Kind kind, int code, QPointF position);
+    void reportMouse(Event::Kind kind, int code, QPointF position) const;
 
     QtSurface m_surface;
 };

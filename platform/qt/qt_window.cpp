@@ -101,7 +101,7 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event)
     // An open popup menu gets the release of the button that opened it; it is the canvas's all the same.
     if (m_releaseOwed && event->type() == QEvent::MouseButtonRelease) {
         m_releaseOwed = false;
-        const auto& release = static_cast<const QMouseEvent&>(*event);
+        const auto& release = dynamic_cast<const QMouseEvent&>(*event);
         m_canvas.reportRelease(release.button(), m_canvas.mapFromGlobal(release.globalPosition()));
     }
     return QObject::eventFilter(watched, event);

@@ -91,9 +91,9 @@ TEST(ArrowKey, WalksAMillionStepsOffTheCanvasAndComesBack)
 TEST(JumperQuestion, ComesOnlyWithTheSwitchOnAndTheWiresOwnColourAhead)
 {
     struct Case {
-        int autoJumper;
+        int autoJumper = 0;
         std::optional<Color> ahead;
-        bool asked;
+        bool asked = false;
     };
     constexpr Color red = 0x0000FF;
     for (const Case& c : {Case{1, red, true}, Case{0, red, false}, Case{1, black, false}, Case{1, {}, false}}) {

@@ -130,9 +130,7 @@ TEST(Mouse, EveryMotionPutsBackTheHelpHintInEraseModeToo)
 TEST(Tools, AtMostOneIsInHand)
 {
     Bench bench;
-    const auto inHand = [&] {
-        return std::tuple(bench.form.lineTool, bench.form.rectTool, bench.form.pencilTool);
-    };
+    const auto inHand = [&] { return std::tuple(bench.form.lineTool, bench.form.rectTool, bench.form.pencilTool); };
     EXPECT_EQ(inHand(), std::tuple(0, 0, 0));
     linee(bench.form);
     EXPECT_EQ(inHand(), std::tuple(1, 0, 0));

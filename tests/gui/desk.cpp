@@ -91,7 +91,9 @@ void Program::findCanvas()
 {
     waitUntil("a white canvas under the menu bar", [this] {
         const QString place = outputOf("xwininfo", {"-id", m_window});
-        const auto number = [&](const char* label) { return place.section(label, 1).trimmed().section('\n', 0, 0).toInt(); };
+        const auto number = [&](const char* label) {
+            return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
+        };
         const QRect window(number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
                            number("Height:"));
         const QImage picture = grab(window);

@@ -164,7 +164,8 @@ TEST(Program, InksEveryPointOfAFastStroke)
     const auto place = [](int i) { return QPoint(200 + 3 * (i % 200), 200 + 12 * (i / 200) + i % 2 * 7); };
     QStringList words;
     for (int i = 0; i < 2000; ++i) {
-        words << "mousemove_relative" << "--" << QString::number(place(i).x() - (i == 0 ? 200 : place(i - 1).x()))
+        words << "mousemove_relative"
+              << "--" << QString::number(place(i).x() - (i == 0 ? 200 : place(i - 1).x()))
               << QString::number(place(i).y() - (i == 0 ? 200 : place(i - 1).y()));
     }
     program.xdotool(words);
@@ -187,9 +188,8 @@ TEST(Program, InkOutlivesSmallerAndLargerWindows)
     waitUntil("a box", [&] { return program.inked(699, 400); });
     program.resize(400, 300);
     program.resize(1100, 800);
-    waitUntil("the whole box", [&] {
-        return program.inked(699, 400) && program.inked(500, 499) && program.inked(300, 400);
-    });
+    waitUntil("the whole box",
+              [&] { return program.inked(699, 400) && program.inked(500, 499) && program.inked(300, 400); });
     program.keys({"ctrl+l"});
     program.drag(1000, 400, 1050, 600); // in the part that is new
     waitUntil("a line", [&] { return program.inked(1025, 500); });

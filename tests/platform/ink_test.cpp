@@ -11,16 +11,20 @@ namespace {
 struct Paper {
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(static_cast<std::size_t>(width * height));
-    ink::Area touched{};
+    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(index(0, height));
 
     [[nodiscard]] ink::Image image() { return {pixels.data(), width, height, width}; }
+    [[nodiscard]] std::size_t index(int x, int y) const
+    {
+        return static_cast<std::size_t>(x + y * std::ptrdiff_t{width});
+    }
+    [[nodiscard]] std::uint32_t at(int x, int y) const { return pixels[index(x, y)]; }
     [[nodiscard]] std::string text() const
     {
         std::string out;
         for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x) {
-                out += pixels[static_cast<std::size_t>(y * width + x)] != 0 ? '#' : '.';
+                out += at(x, y) != 0 ? '#' : '.';
             }
             out += '\n';
         }
@@ -59,7 +63,7 @@ TEST(Ink, DotsTenTwipsApartMergeIntoASolidWireOfEvenWidth)
         }
         for (int x = 5; x < 30; ++x) {
             for (int y = 0; y < 7; ++y) {
-                EXPECT_EQ(paper.pixels[static_cast<std::size_t>(y * 40 + x)], y >= 2 && y <= 4 ? 1U : 0U);
+                EXPECT_EQ(paper.at(x, y), y >= 2 && y <= 4 ? 1U : 0U);
             }
         }
     }
@@ -72,7 +76,7 @@ TEST(Ink, CirclesOfEveryUsedRadiusAreSymmetricAndClosed)
         constexpr int side = 64;
         Paper paper{side, side};
         const ink::Area area = ink::circle(paper.image(), thin, {32.2, 31.7}, twips / 15.0);
-        const auto at = [&](int x, int y) { return paper.pixels[static_cast<std::size_t>(y * side + x)]; };
+        const auto at = [&](int x, int y) { return paper.at(x, y); };
         const int width = area.right - area.left;
         ASSERT_EQ(width, area.bottom - area.top);
         for (int y = 0; y < width; ++y) {
@@ -99,7 +103,7 @@ TEST(Ink, WideRingsAroundAPlaceBlotOutAWholePatch)
     }
     for (int y = 12; y < 28; ++y) {
         for (int x = 12; x < 28; ++x) {
-            EXPECT_EQ(paper.pixels[static_cast<std::size_t>(y * 40 + x)], 1U) << x << ' ' << y;
+            EXPECT_EQ(paper.at(x, y), 1U) << x << ' ' << y;
         }
     }
 }
@@ -108,18 +112,17 @@ TEST(Ink, ArcsRunCounterClockwiseFromStartToEnd)
 {
     Paper below{30, 30};
     ink::arc(below.image(), thin, {15, 15}, 10, 3.5, 0);
-    const auto at = [](const Paper& paper, int x, int y) { return paper.pixels[static_cast<std::size_t>(y * 30 + x)]; };
-    EXPECT_EQ(at(below, 15, 25), 1U); // bottom
-    EXPECT_EQ(at(below, 24, 15), 1U); // right end
-    EXPECT_EQ(at(below, 15, 5), 0U);  // top
-    EXPECT_EQ(at(below, 5, 14), 0U);  // left, just before the start
+    EXPECT_EQ(below.at(15, 25), 1U); // bottom
+    EXPECT_EQ(below.at(24, 15), 1U); // right end
+    EXPECT_EQ(below.at(15, 5), 0U);  // top
+    EXPECT_EQ(below.at(5, 14), 0U);  // left, just before the start
 
     Paper right{30, 30};
     ink::arc(right.image(), thin, {15, 15}, 10, 5.0, 1.5);
-    EXPECT_EQ(at(right, 25, 15), 1U);
-    EXPECT_EQ(at(right, 15, 5), 1U);
-    EXPECT_EQ(at(right, 5, 15), 0U);
-    EXPECT_EQ(at(right, 13, 25), 0U);
+    EXPECT_EQ(right.at(25, 15), 1U);
+    EXPECT_EQ(right.at(15, 5), 1U);
+    EXPECT_EQ(right.at(5, 15), 0U);
+    EXPECT_EQ(right.at(13, 25), 0U);
 }
 
 TEST(Ink, ReportsAnAreaThatHoldsEveryInkedPixel)
@@ -129,13 +132,14 @@ TEST(Ink, ReportsAnAreaThatHoldsEveryInkedPixel)
         const ink::Area area = draw(paper.image());
         for (int y = 0; y < 30; ++y) {
             for (int x = 0; x < 30; ++x) {
-                if (paper.pixels[static_cast<std::size_t>(y * 30 + x)] != 0) {
+                if (paper.at(x, y) != 0) {
                     EXPECT_TRUE(x >= area.left && x < area.right && y >= area.top && y < area.bottom) << x << ' ' << y;
                 }
             }
         }
     };
-    for (double shift = -5; shift < 35; shift += 1.7) {
+    for (int step = -3; step < 20; ++step) {
+        const double shift = step * 1.7;
         check([&](const ink::Image& image) { return ink::line(image, thin, {shift, 3}, {20, shift}); });
         check([&](const ink::Image& image) { return ink::circle(image, thin, {shift, 12}, 7.3); });
         check([&](const ink::Image& image) { return ink::arc(image, thin, {shift, 12}, 7.3, 5.0, 1.5); });

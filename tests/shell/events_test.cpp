@@ -34,9 +34,9 @@ TEST(Deliver, RunsMenuItemsByNameThePopupsLikeTheBars)
 {
     Bench bench;
     bench.form.confirm[gatesConfirm] = 0;
-    for (const auto& [bar, popup, tool] :
-         {std::tuple{"pencil1", "penc", &CanvasState::pencilTool}, {"rectan", "rectang", &CanvasState::rectTool},
-          {"linee", "lineee", &CanvasState::lineTool}}) {
+    for (const auto& [bar, popup, tool] : {std::tuple{"pencil1", "penc", &CanvasState::pencilTool},
+                                           {"rectan", "rectang", &CanvasState::rectTool},
+                                           {"linee", "lineee", &CanvasState::lineTool}}) {
         for (const char* const item : {bar, popup}) {
             bench.form.pencilTool = bench.form.rectTool = bench.form.lineTool = 0;
             click(bench, item);

@@ -96,6 +96,6 @@ struct Bench {
 
     /// The ink since the last call, one line each.
     std::string drawn();
-    [[nodiscard]] std::string pen() const;    ///< such as "1600 1500"
-    [[nodiscard]] std::string marker();       ///< left and top, such as "1600 1200"
+    [[nodiscard]] std::string pen() const; ///< such as "1600 1500"
+    [[nodiscard]] std::string marker();    ///< left and top, such as "1600 1200"
 };

@@ -15,7 +15,6 @@ constexpr auto joined = join(strokes(dot(1, 2)), rows<2, 3>(figure), strokes(lin
 constexpr auto mirrored = dxNegated(rows<1, 2>(figure));
 constexpr auto flipped = dyNegated(rows<1, 2>(figure));
 constexpr auto halfTurned = turned(rows<1, 2>(figure));
-constexpr auto single = strokes(line(0, 0, 10, 0));
 
 constexpr Branch anyWay[] = {{.strokes = figure, .after = {1, 2}}};
 constexpr Branch fourWays[] = {
@@ -146,10 +145,10 @@ TEST(Place, LeavesTheColourItsFamilyLeaves)
         bool asked;
         Color left;
     };
-    for (const Case& c : {Case{ColorAfter::kept, false, red}, Case{ColorAfter::kept, true, red},
-                          Case{ColorAfter::toBlack, false, black}, Case{ColorAfter::toBlack, true, black},
-                          Case{ColorAfter::toBlackUnlessAsked, false, black},
-                          Case{ColorAfter::toBlackUnlessAsked, true, red}}) {
+    for (const Case& c :
+         {Case{ColorAfter::kept, false, red}, Case{ColorAfter::kept, true, red},
+          Case{ColorAfter::toBlack, false, black}, Case{ColorAfter::toBlack, true, black},
+          Case{ColorAfter::toBlackUnlessAsked, false, black}, Case{ColorAfter::toBlackUnlessAsked, true, red}}) {
         QuietBench bench;
         if (c.asked) {
             bench.form.confirm[gatesConfirm] = 1;
