@@ -30,6 +30,8 @@ Color swapped(const QColor& pixel)
     return static_cast<Color>(pixel.red() | pixel.green() << 8 | pixel.blue() << 16);
 }
 
+} // namespace
+
 QFont canvasFont()
 {
     constexpr int lineOf13Pixels = 11; // the pixel size at which DejaVu Sans has lines of 13 pixels
@@ -39,8 +41,6 @@ QFont canvasFont()
     font.setHintingPreference(QFont::PreferFullHinting);
     return font;
 }
-
-} // namespace
 
 QtSurface::QtSurface() : m_font(canvasFont()) {}
 

@@ -7,6 +7,9 @@
 #include <QImage>
 #include <functional>
 
+/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
+[[nodiscard]] QFont canvasFont();
+
 /// The canvas's ink: one retained image of one pixel per 15 twips, and nothing else, however much is drawn.
 class QtSurface final : public Surface {
 public:

@@ -20,15 +20,18 @@ int toPixels(double twips)
     return static_cast<int>(std::lround(twips / twipsPerPixel));
 }
 
-/// A label that is marked so in the form keeps the size of the widest text it may show, which is its text there: a new
-/// text then repaints the label and lays out nothing.
-void fixLabelSizes(const QMainWindow& form)
+/// What the form says of a label in properties of our own.
+void applyFormProperties(QLabel& label)
 {
-    for (QLabel* const label : form.findChildren<QLabel*>()) {
-        if (label->property("fixedToText").toBool()) {
-            label->ensurePolished();
-            label->setFixedSize(label->sizeHint());
-        }
+    // It keeps the size of the widest text it may show, which is its text in the form: a new text then repaints the
+    // label and lays out nothing.
+    if (label.property("fixedToText").toBool()) {
+        label.ensurePolished();
+        label.setFixedSize(label.sizeHint());
+    }
+    // It lies on the canvas, which gets the mouse all the same.
+    if (label.property("mouseGoesThrough").toBool()) {
+        label.setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 }
 
@@ -40,7 +43,9 @@ QtWindow::QtWindow(QMainWindow& form, std::function<void(const Event&)> report)
     for (QWidget* const control : form.findChildren<QWidget*>()) {
         m_named.emplace(control->objectName().toStdString(), control);
     }
-    fixLabelSizes(form);
+    for (QLabel* const label : form.findChildren<QLabel*>()) {
+        applyFormProperties(*label);
+    }
     m_canvas.report = m_report;
     m_canvas.setFocus();
 }

@@ -143,6 +143,22 @@ TEST(Program, EraserWipesOnlyInEraseMode)
     waitUntil("no label", [&] { return !program.inked(500, 20); });
 }
 
+TEST(Program, MouseGoesThroughWhatLiesOnTheCanvas)
+{
+    Program program;
+    const int middle = program.canvas().width() / 2;
+    program.keys({"ctrl+r"});
+    program.drag(middle - 60, 20, middle + 60, 200);
+    waitUntil("a box", [&] { return program.inked(middle, 199) && program.inked(middle, 20); });
+    program.keys({"e"});
+    waitUntil("the label over the box", [&] { return program.pixel(middle, 20) != QColor(Qt::black); });
+    program.drag(middle - 20, 20, middle + 20, 20);
+    program.keys({"e"});
+    program.moveMouse(middle, 400);
+    waitUntil("clean paper where the label was", [&] { return !program.inked(middle, 20); });
+    EXPECT_TRUE(program.inked(middle - 50, 20));
+}
+
 TEST(Program, RightButtonOpensTheMenuAndLeavesThePen)
 {
     Program program;
