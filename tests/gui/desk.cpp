@@ -46,6 +46,7 @@ Desk::Desk()
     }
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // else one is started for this display, and outlives it
     m_manager.start("openbox");
     while (!outputOf("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id")) {
         if (m_manager.waitForFinished(10)) {
