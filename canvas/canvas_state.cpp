@@ -10,6 +10,7 @@ void load(Form1& form)
     form.eraseMode = 0;
     form.resist = form.induc = form.capac = 0;
     form.supplyVoltage = form.supplyCurrent = 0;
+    form.diodeCount = 0;
     form.blinkCount = 0;
     form.controls.setText(control::sb, " Press F1 for Help ");
     // Before the pen gets its place: the first free-hand line starts at (0, 0), and after a reset at the old pen.

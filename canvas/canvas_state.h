@@ -73,7 +73,17 @@ struct CanvasState {
 
     Color wireColor = black;
     Color canvasBackColor = black;
+
+    // The families' colours, black until the user picks one. Transistors share the transformers'.
+    Color motorColor = black;
+    Color generatorColor = black;
+    Color transformerColor = black;
+    Color armatureColor = black;
+    Color fieldColor = black;
     Color gatesColor = black;
+    Color diodesColor = black;
+    Color opampColor = black;
+    Color bufferColor = black;
 
     std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 
@@ -82,14 +92,19 @@ struct CanvasState {
     double capac = 0;         ///< sum of the capacitances' reciprocals, 1/farad
     double supplyVoltage = 0; ///< volt
     double supplyCurrent = 0; ///< ampere
+    int diodeCount = 0;       ///< PN and NP diodes placed
 
     // The button that closed a symbol's question last.
-    int andAnswer = 0;
-    int orAnswer = 0;
-    int norAnswer = 0;
-    int nandAnswer = 0;
-    int exorAnswer = 0;
-    int exnorAnswer = 0;
+    int andAnswer = 0, orAnswer = 0, notAnswer = 0, norAnswer = 0, nandAnswer = 0, exorAnswer = 0, exnorAnswer = 0;
+    int bufferAnswer = 0, opampAnswer = 0;
+    int diodeAnswer = 0, diodAnswer = 0, npdiodeAnswer = 0, tunneldiodeAnswer = 0;
+    int singlephaseAnswer = 0, centertappedAnswer = 0;
+    int emitterAnswer = 0, baseAnswer = 0, collectorAnswer = 0;
+    int emitter1Answer = 0, base1Answer = 0, collector1Answer = 0;
+    int nchannelAnswer = 0, pchannelAnswer = 0;
+    int SCRAnswer = 0, TRIACAnswer = 0, DIACAnswer = 0, UJTAnswer = 0;
+    int acmotorAnswer = 0, dcmotorAnswer = 0, acgeneratorAnswer = 0, dcgeneratorAnswer = 0;
+    int armatureAnswer = 0, fieldAnswer = 0;
 };
 
 /// What every command gets: the state and the way to the screen.

@@ -3,7 +3,14 @@
 #include "canvas/jumper_ground.h"
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "symbols/bipolar.h"
+#include "symbols/buffer_not_opamp.h"
+#include "symbols/diodes.h"
 #include "symbols/gates.h"
+#include "symbols/jfets.h"
+#include "symbols/machines.h"
+#include "symbols/thyristors.h"
+#include "symbols/transformers.h"
 
 #include <algorithm>
 
@@ -21,14 +28,50 @@ constexpr Command menu[] = {
         {1, {"linee", "&Line", "Ctrl+L"}, linee}, {1, separator},
         {1, {"ground", "&Ground", "Ctrl+G"}, ground}, {1, separator},
         {1, {"jumper", "Jumper", "Ctrl+J"}, jumper},
+    {0, {"electricalcomponents", " &Electrical Components "}},
+        {1, {"motor", "&Motors"}},
+            {2, {"acmotor", "&A.C Motor"}, acmotor}, {2, separator},
+            {2, {"dcmotor", "&D.C Motor"}, dcmotor}, {1, separator},
+        {1, {"generator", "&Generators"}},
+            {2, {"acgenerator", "&A.C Generator"}, acgenerator}, {2, separator},
+            {2, {"dcgenerator", "&D.C Ggenerator"}, dcgenerator}, {1, separator},
+        {1, {"transformer", "&Transformer"}},
+            {2, {"singlephase", "&Single Phase"}, singlephase}, {2, separator},
+            {2, {"centertapped", "&Center Tapped"}, centertapped}, {1, separator},
+        {1, {"armature", "&Armature"}, armature}, {1, separator},
+        {1, {"field", "&Field"}, field},
     {0, {"electroniccomponets", " E&lectronic Components "}},
+        {1, {"npn", "&NPN Transistors"}},
+            {2, {"emitter", "Common &Emitter"}, emitter}, {2, separator},
+            {2, {"base", "Common &Base"}, base}, {2, separator},
+            {2, {"collector", "Common &Collector"}, collector}, {1, separator},
+        {1, {"pnp", "&PNP Transistors"}},
+            {2, {"emitter1", "Common &Emitter"}, emitter1}, {2, separator},
+            {2, {"base1", "Common &Base"}, base1}, {2, separator},
+            {2, {"collector1", "Common &Collector"}, collector1}, {1, separator},
+        {1, {"jfet", "&JFET Transistors"}},
+            {2, {"nchannel", "&N Channel"}, nchannel}, {2, separator},
+            {2, {"pchannel", "&P Channel"}, pchannel}, {1, separator},
+        {1, {"Thyristors", "T&hyristors"}},
+            {2, {"SCR", "&SCR"}, SCR}, {2, separator},
+            {2, {"TRIAC", "&TRIAC"}, TRIAC}, {2, separator},
+            {2, {"DIAC", "&DIAC"}, DIAC}, {2, separator},
+            {2, {"UJT", "&UJT"}, UJT}, {1, separator},
         {1, {"gates", "&Gates"}},
             {2, {"and", "&AND Gate"}, and_}, {2, separator},
             {2, {"or", "&OR Gate"}, or_}, {2, separator},
+            {2, {"not", "&NOT Gate"}, notgate}, {2, separator},
             {2, {"nor", "NO&R Gate"}, nor}, {2, separator},
             {2, {"nand", "N&AND Gate"}, nand}, {2, separator},
             {2, {"exor", "EX - &OR Gate"}, exor}, {2, separator},
-            {2, {"exnor", "EX - &NOR Gate"}, exnor},
+            {2, {"exnor", "EX - &NOR Gate"}, exnor}, {1, separator},
+        {1, {"diodes", "&Diodes"}},
+            {2, {"diode", "&Zener Diode"}, diode}, {2, separator},
+            {2, {"pndoide", "&PN Diode"}, diod}, {2, separator},
+            {2, {"npdiode", "&NP Diode"}, npdiode}, {2, separator},
+            {2, {"tunneldiode", "&Tunnel Diode"}, tunneldiode}, {1, separator},
+        {1, {"buffering", "&Buffer"}, buffer}, {1, separator},
+        {1, {"opamp", "&Op - Amplifier"}, opamp},
     {0, {control::rc, "&Rightclick", "", Look::hidden}},
         {1, {"eras", "&Eraser"}, eraser}, {1, separator},
         {1, {"penc", "&Pencil"}, pencil1},

@@ -88,7 +88,7 @@ TEST(Program, GateFromTheMenuAsksAndTheWireGoesOnFromItsOutput)
     Program program;
     program.keyTimes(6, "Right"); // the pen is at (126, 100)
     for (const char* const reply : {"Escape", "Return"}) {
-        program.keys({"alt+l", "Right", "Return"});
+        program.keys({"alt+l", "g", "Return"});
         program.waitForWindow("This draws an AND GATE");
         program.keys({reply});
         program.waitForMainWindow();

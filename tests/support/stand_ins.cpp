@@ -21,32 +21,31 @@ template <typename... Values> std::string words(const Values&... values)
 
 void RecordingSurface::line(float x1, float y1, float x2, float y2)
 {
-    ink.push_back(words("line", x1, y1, x2, y2));
+    note(words("line", x1, y1, x2, y2));
     m_current = {x2, y2};
 }
 
 void RecordingSurface::box(float x1, float y1, float x2, float y2)
 {
-    ink.push_back(words("box", x1, y1, x2, y2));
+    note(words("box", x1, y1, x2, y2));
     m_current = {x2, y2};
 }
 
 void RecordingSurface::circle(float x, float y, float radius)
 {
-    if (!recording) {
-        return;
+    if (recording) {
+        note(words("circle", x, y, radius));
     }
-    ink.push_back(words("circle", x, y, radius));
 }
 
 void RecordingSurface::arc(float x, float y, float radius, float start, float end)
 {
-    ink.push_back(words("arc", x, y, radius, start, end));
+    note(words("arc", x, y, radius, start, end));
 }
 
 void RecordingSurface::print(std::string_view text, bool endLine)
 {
-    ink.push_back(words("print", m_current.x, m_current.y, text) + (endLine ? "" : " ..."));
+    note(words("print", m_current.x, m_current.y, text) + (endLine ? "" : " ..."));
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
 }
 
@@ -54,6 +53,14 @@ std::optional<Color> RecordingSurface::point(float x, float y) const
 {
     probedAt = recording ? words(x, y) : "";
     return underPoint;
+}
+
+void RecordingSurface::note(std::string call)
+{
+    ink.push_back(std::move(call));
+    if (!firstInkColor) {
+        firstInkColor = foreColor;
+    }
 }
 
 void RecordingSurface::setForeColor(Color color)

@@ -16,6 +16,7 @@ public:
     std::optional<Color> underPoint; ///< what point() finds, anywhere
     mutable std::string probedAt;    ///< where point() looked last
     Color foreColor = black;
+    std::optional<Color> firstInkColor; ///< of the first thing that was drawn
 
     void line(float x1, float y1, float x2, float y2) override;
     void box(float x1, float y1, float x2, float y2) override;
@@ -30,6 +31,8 @@ public:
     void setCurrent(float x, float y) override { m_current = {x, y}; }
 
 private:
+    void note(std::string call);
+
     int m_drawWidth = 2;
     Point m_current;
 };

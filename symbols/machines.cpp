@@ -1,0 +1,97 @@
+#include "symbols/machines.h"
+
+#include "symbols/symbol_protocol.h"
+
+namespace {
+
+// About the machine's centre. No two of the terminal strokes are equally long.
+constexpr auto bodyRows =
+    strokes(circle(0, 0, 300), line(-135, 400, 170, 400), line(170, 400, 170, 230), line(-135, 400, -135, 255),
+            line(125, -400, -150, -400), line(-150, -400, -150, -240), line(135, -400, 135, -245));
+constexpr auto dcMark = strokes(line(-50, -70, 50, -70));
+
+constexpr auto acMotorRows = join(bodyRows, strokes(label(-50, -70, "M")));
+constexpr auto dcMotorRows = join(acMotorRows, dcMark);
+constexpr auto acGeneratorRows = join(bodyRows, strokes(label(-50, -70, "G")));
+constexpr auto dcGeneratorRows = join(acGeneratorRows, dcMark);
+constexpr auto armatureRows = join(bodyRows, strokes(label(300, -400, "A"), label(300, 400, "AA")));
+
+constexpr Branch machine(std::span<const Stroke> rows)
+{
+    return {.strokes = rows, .after = {0, 410}, .before = {0, 410}, .origin = Origin::movedPen};
+}
+
+constexpr Branch acMotorBranches[] = {machine(acMotorRows)};
+constexpr Branch dcMotorBranches[] = {machine(dcMotorRows)};
+constexpr Branch acGeneratorBranches[] = {machine(acGeneratorRows)};
+constexpr Branch dcGeneratorBranches[] = {machine(dcGeneratorRows)};
+constexpr Branch armatureBranches[] = {machine(armatureRows)};
+
+// Five turns a radius apart between two leads, the labels above its ends.
+constexpr auto fieldRows =
+    strokes(line(0, 0, 300, 0), circle(450, 0, 150), circle(600, 0, 150), circle(750, 0, 150), circle(900, 0, 150),
+            circle(1050, 0, 150), label(1300, -300, "FF"), label(150, -300, "F"), line(1200, 0, 1500, 0));
+constexpr Branch fieldBranches[] = {{.strokes = fieldRows, .after = {1500, 0}}};
+
+constexpr Symbol acMotor{.title = "This draws an AC MOTOR",
+                         .confirm = motorsConfirm,
+                         .answer = &CanvasState::acmotorAnswer,
+                         .color = &CanvasState::motorColor,
+                         .branches = acMotorBranches};
+constexpr Symbol dcMotor{.title = "This draws a DC MOTOR",
+                         .confirm = motorsConfirm,
+                         .answer = &CanvasState::dcmotorAnswer,
+                         .color = &CanvasState::motorColor,
+                         .branches = dcMotorBranches};
+constexpr Symbol acGenerator{.title = "This draws an AC GENERATOR",
+                             .confirm = generatorsConfirm,
+                             .answer = &CanvasState::acgeneratorAnswer,
+                             .color = &CanvasState::generatorColor,
+                             .branches = acGeneratorBranches};
+constexpr Symbol dcGenerator{.title = "This draws a DC GENERATOR",
+                             .confirm = generatorsConfirm,
+                             .answer = &CanvasState::dcgeneratorAnswer,
+                             .color = &CanvasState::generatorColor,
+                             .branches = dcGeneratorBranches};
+constexpr Symbol armatureSymbol{.title = "This draws an ARMATURE",
+                                .confirm = armatureConfirm,
+                                .answer = &CanvasState::armatureAnswer,
+                                .color = &CanvasState::armatureColor,
+                                .branches = armatureBranches};
+constexpr Symbol fieldSymbol{.title = "This draws a FIELD",
+                             .confirm = fieldConfirm,
+                             .answer = &CanvasState::fieldAnswer,
+                             .color = &CanvasState::fieldColor,
+                             .branches = fieldBranches};
+
+} // namespace
+
+void acmotor(Form1& form)
+{
+    place(form, acMotor);
+}
+
+void dcmotor(Form1& form)
+{
+    place(form, dcMotor);
+}
+
+void acgenerator(Form1& form)
+{
+    place(form, acGenerator);
+}
+
+void dcgenerator(Form1& form)
+{
+    place(form, dcGenerator);
+}
+
+void armature(Form1& form)
+{
+    place(form, armatureSymbol);
+}
+
+void field(Form1& form)
+{
+    place(form, fieldSymbol);
+}

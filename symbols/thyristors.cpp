@@ -1,0 +1,70 @@
+#include "symbols/thyristors.h"
+
+#include "symbols/symbol_protocol.h"
+
+namespace {
+
+// The triangle's top side is wider to the right.
+constexpr auto scrRows =
+    strokes(circle(0, 50, 50), label(150, -50, "A"), line(0, 100, 0, 650), circle(0, 750, 300),
+            line(-100, 650, 110, 650), line(110, 650, 0, 850), line(-100, 650, 0, 850), line(0, 850, -100, 1050),
+            line(-100, 1050, -500, 1050), circle(-530, 1050, 50), label(-800, 950, "G"), line(-200, 850, 200, 850),
+            line(0, 850, 0, 1550), circle(0, 1600, 50), label(150, 1500, "C"));
+
+// "T3" has no place of its own: it lands where printing "T2" left off, at the left edge one line lower.
+constexpr auto triacRows =
+    strokes(circle(0, 50, 50), label(150, -50, "T1"), line(0, 100, 0, 650), circle(100, 750, 300),
+            line(-100, 650, 110, 650), line(110, 650, 0, 850), line(-100, 650, 0, 850), line(50, 850, -50, 1030),
+            line(-50, 1030, -500, 1030), circle(-530, 1030, 50), label(-800, 950, "G"), line(-100, 850, 300, 850),
+            line(300, 850, 200, 650), line(200, 650, 100, 850), line(100, 650, 300, 650), line(200, 850, 200, 1550),
+            circle(200, 1600, 50), label(300, 1500, "T2"), text("T3"));
+
+constexpr auto diacRows = strokes(circle(0, 50, 50), label(150, -50, "T1"), line(0, 100, 0, 650), circle(0, 750, 300),
+                                  line(-200, 650, 200, 650), line(-200, 850, 200, 850), line(200, 650, 100, 850),
+                                  line(100, 850, 0, 650), line(-200, 850, -100, 650), line(-100, 650, 0, 850),
+                                  line(0, 850, 0, 1550), circle(0, 1600, 50), label(150, 1500, "T2"));
+
+// The emitter is the terminal labelled "G".
+constexpr auto ujtRows =
+    strokes(circle(0, 50, 50), label(150, -50, "B2"), line(0, 100, 0, 650), line(0, 650, -300, 650),
+            line(-300, 550, -300, 1050), line(-600, 650, -300, 800), line(-300, 800, -400, 900),
+            line(-300, 800, -400, 650), label(-1300, 350, "G"), line(-600, 650, -1200, 650), circle(-1250, 650, 50),
+            line(-300, 950, 0, 950), line(0, 950, 0, 1550), circle(0, 1600, 50), label(150, 1500, "B1"));
+
+// Every lower terminal is centred 1600 below the pen, yet the pen's ways differ.
+constexpr Branch scrBranches[] = {{.strokes = scrRows, .after = {0, 1600}, .before = {0, 50}}};
+constexpr Branch triacBranches[] = {{.strokes = triacRows, .after = {200, 1620}, .before = {0, 50}}};
+constexpr Branch diacBranches[] = {{.strokes = diacRows, .after = {0, 1620}, .before = {0, 50}}};
+constexpr Branch ujtBranches[] = {{.strokes = ujtRows, .after = {0, 1610}, .before = {0, 50}}};
+
+constexpr Symbol thyristor(std::string_view title, int CanvasState::*answer, std::span<const Branch> branches)
+{
+    return {.title = title, .confirm = thyristorsConfirm, .answer = answer, .branches = branches};
+}
+
+constexpr Symbol scr = thyristor("This draws a SCR THYRISTOR", &CanvasState::SCRAnswer, scrBranches);
+constexpr Symbol triac = thyristor("This draws a TRIAC THYRISTOR", &CanvasState::TRIACAnswer, triacBranches);
+constexpr Symbol diac = thyristor("This draws a DIAC THYRISTOR", &CanvasState::DIACAnswer, diacBranches);
+constexpr Symbol ujt = thyristor("This draws a UJT THYRISTOR", &CanvasState::UJTAnswer, ujtBranches);
+
+} // namespace
+
+void SCR(Form1& form)
+{
+    place(form, scr);
+}
+
+void TRIAC(Form1& form)
+{
+    place(form, triac);
+}
+
+void DIAC(Form1& form)
+{
+    place(form, diac);
+}
+
+void UJT(Form1& form)
+{
+    place(form, ujt);
+}

@@ -1,0 +1,234 @@
+// Draws every symbol of the library, in each heading that it distinguishes, into one picture: for people to look at,
+// and to notice that a stroke changed.
+//   symbol_sheet FILE            writes the sheet
+//   symbol_sheet --check FILE    compares with it; a differing sheet is written beside the program
+
+#include "canvas/jumper_ground.h"
+#include "platform/qt/qt_surface.h"
+#include "symbols/bipolar.h"
+#include "symbols/buffer_not_opamp.h"
+#include "symbols/diodes.h"
+#include "symbols/gates.h"
+#include "symbols/jfets.h"
+#include "symbols/machines.h"
+#include "symbols/thyristors.h"
+#include "symbols/transformers.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QTextStream>
+#include <algorithm>
+#include <span>
+#include <vector>
+
+namespace {
+
+struct Entry {
+    const char* name;
+    Handler draw;
+    std::initializer_list<int> headings;
+};
+
+constexpr auto once = {heading::right}; // the symbol draws the same for every heading, or for this one alone
+constexpr auto fourWays = {heading::right, heading::left, heading::up, heading::down};
+
+const Entry entries[] = {
+    {"Jumper", jumper, fourWays},
+    {"Ground", ground, once},
+    {"AND gate", and_, once},
+    {"OR gate", or_, once},
+    {"NOR gate", nor, once},
+    {"NAND gate", nand, once},
+    {"EX-OR gate", exor, once},
+    {"EX-NOR gate", exnor, once},
+    {"NOT gate", notgate, fourWays},
+    {"Buffer", buffer, fourWays},
+    {"PN diode", diod, fourWays},
+    {"NP diode", npdiode, fourWays},
+    {"Zener diode", diode, once},
+    {"Tunnel diode", tunneldiode, once},
+    {"Op-amp", opamp, once},
+    {"Field", field, once},
+    {"NPN common emitter", emitter, once},
+    {"NPN common base", base, once},
+    {"NPN common collector", collector, once},
+    {"PNP common emitter", emitter1, once},
+    {"PNP common base", base1, once},
+    {"PNP common collector", collector1, once},
+    {"N-channel JFET", nchannel, once},
+    {"P-channel JFET", pchannel, once},
+    {"SCR", SCR, once},
+    {"TRIAC", TRIAC, once},
+    {"DIAC", DIAC, once},
+    {"UJT", UJT, once},
+    {"AC motor", acmotor, once},
+    {"DC motor", dcmotor, once},
+    {"AC generator", acgenerator, once},
+    {"DC generator", dcgenerator, once},
+    {"Armature", armature, once},
+    {"Single phase transformer", singlephase, once},
+    {"Center tapped transformer", centertapped, once},
+};
+
+/// A window and boxes for nobody to see.
+struct NoWindow final : Window {
+    void setCaption(std::string_view /*title*/) override {}
+    void showWindow() override {}
+    void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
+    void popUp(Name /*menu*/) override {}
+    void setChecked(Name /*item*/, bool /*checked*/) override {}
+    [[nodiscard]] bool checked(Name /*item*/) const override { return false; }
+    void setVisible(Name /*control*/, bool /*visible*/) override {}
+    [[nodiscard]] bool visible(Name /*control*/) const override { return false; }
+    void setText(Name /*control*/, std::string_view /*text*/) override {}
+    void setLeft(Name /*control*/, double /*twips*/) override {}
+    void setTop(Name /*control*/, double /*twips*/) override {}
+    void setInterval(Name /*timer*/, int /*milliseconds*/) override {}
+};
+
+struct NoDialogs final : Dialogs {
+    int messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view /*title*/) override
+    {
+        return answer::no;
+    }
+};
+
+/// One symbol on paper of its own, in pixels.
+struct Drawing {
+    QImage image;
+    QRect ink; ///< without what a symbol prints at the paper's left edge
+    QPointF entry, exit;
+};
+
+Drawing drawAt(const Entry& entry, int heading, QSize paper, QPoint pen)
+{
+    QtSurface surface;
+    surface.growTo(paper);
+    Drawing drawing;
+    surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
+    NoWindow window;
+    NoDialogs dialogs;
+    Form1 form(surface, window, dialogs); // all switches off: nothing asks
+    form.heading = heading;
+    form.x = pen.x() * twipsPerPixel;
+    form.y = pen.y() * twipsPerPixel;
+    entry.draw(form);
+    drawing.image = surface.image();
+    drawing.entry = pen;
+    drawing.exit = QPointF(form.x, form.y) / twipsPerPixel;
+    return drawing;
+}
+
+struct Cell {
+    const Entry& entry;
+    int heading;
+    QRect extent; ///< of the symbol and its pen, on scratch paper with the pen at scratchPen
+};
+
+constexpr QPoint scratchPen{300, 300};
+
+std::vector<Cell> allCells()
+{
+    std::vector<Cell> cells;
+    for (const Entry& entry : entries) {
+        for (const int heading : entry.headings) {
+            const Drawing trial = drawAt(entry, heading, {600, 600}, scratchPen);
+            const QRect pens = QRect(trial.exit.toPoint(), QSize(1, 1)) | QRect(scratchPen, QSize(1, 1));
+            cells.push_back({entry, heading, trial.ink | pens});
+        }
+    }
+    return cells;
+}
+
+QString title(const Cell& cell)
+{
+    constexpr const char* ways[] = {"", ", right", ", left", ", up", ", down"};
+    return QString(cell.entry.name) + (cell.entry.headings.size() > 1 ? ways[cell.heading] : "");
+}
+
+/// The symbol in the middle, where the pen comes in and where it leaves, and its name below.
+void paintCell(QPainter& painter, const QRect& place, const Cell& cell)
+{
+    constexpr int titleHeight = 18;
+    const QSize paper = place.size() - QSize(0, titleHeight);
+    const QPoint inside((paper.width() - cell.extent.width()) / 2, (paper.height() - cell.extent.height()) / 2);
+    const Drawing drawing = drawAt(cell.entry, cell.heading, paper, inside + scratchPen - cell.extent.topLeft());
+    painter.drawImage(place.topLeft(), drawing.image);
+
+    painter.setPen(QColor(0, 110, 220));
+    painter.drawEllipse(place.topLeft() + drawing.entry.toPoint(), 4, 4);
+    painter.setPen(QColor(220, 30, 30));
+    const QPoint exit = place.topLeft() + drawing.exit.toPoint();
+    painter.drawLine(exit - QPoint(4, 4), exit + QPoint(4, 4));
+    painter.drawLine(exit - QPoint(4, -4), exit + QPoint(4, -4));
+
+    painter.setPen(Qt::black);
+    painter.drawText(place.bottomLeft() + QPoint(6, -6), title(cell));
+    painter.setPen(QColor(210, 210, 210));
+    painter.drawRect(place);
+}
+
+QImage drawSheet()
+{
+    constexpr std::size_t columns = 10;
+    constexpr int cellWidth = 160;
+    constexpr int aroundSymbol = 44; // pixels, its title among them
+    constexpr int legendHeight = 24;
+    const std::vector<Cell> cells = allCells();
+
+    constexpr int endlessPaper = 2000; // pixels; cut where the sheet ends
+    QImage sheet(static_cast<int>(columns) * cellWidth + 1, endlessPaper, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    painter.setFont(canvasFont());
+    int top = 0;
+    for (std::size_t first = 0; first < cells.size(); first += columns) {
+        const auto row = std::span(cells).subspan(first, std::min(columns, cells.size() - first));
+        const auto height = [](const Cell& cell) { return cell.extent.height(); };
+        const int rowHeight = height(*std::ranges::max_element(row, {}, height)) + aroundSymbol;
+        for (int left = 0; const Cell& cell : row) {
+            paintCell(painter, QRect(left, top, cellWidth, rowHeight), cell);
+            left += cellWidth;
+        }
+        top += rowHeight;
+    }
+    painter.setPen(Qt::black);
+    painter.drawText(6, top + 17, "Blue circle: where the pen comes in. Red cross: where it goes on.");
+    painter.end();
+    return sheet.copy(0, 0, sheet.width(), top + legendHeight);
+}
+
+int check(const QImage& sheet, const QString& file)
+{
+    const QImage known = QImage(file).convertToFormat(sheet.format());
+    if (known == sheet) {
+        return 0;
+    }
+    const QString differing = QCoreApplication::applicationDirPath() + "/symbol_sheet.png";
+    sheet.save(differing);
+    QTextStream(stderr) << "The symbols do not look as in " << file << "; see " << differing << "\n";
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser options;
+    options.addOption({"check", "Compare with the sheet in FILE instead of writing it."});
+    options.addPositionalArgument("FILE", "The sheet, a PNG picture.");
+    options.addHelpOption();
+    options.process(application);
+    if (options.positionalArguments().size() != 1) {
+        options.showHelp(2);
+    }
+    const QString file = options.positionalArguments().first();
+    const QImage sheet = drawSheet();
+    if (options.isSet("check")) {
+        return check(sheet, file);
+    }
+    return sheet.save(file) ? 0 : 1;
+}
