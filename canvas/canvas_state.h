@@ -5,6 +5,7 @@
 #include "platform/window.h"
 
 #include <array>
+#include <string>
 
 /// The controls on and around the canvas, by the names they have in the form.
 namespace control {
@@ -75,6 +76,9 @@ struct CanvasState {
     Color canvasBackColor = black;
 
     // The families' colours, black until the user picks one. Transistors share the transformers'.
+    Color resistanceColor = black;
+    Color inductanceColor = black;
+    Color capacitanceColor = black;
     Color motorColor = black;
     Color generatorColor = black;
     Color transformerColor = black;
@@ -87,9 +91,12 @@ struct CanvasState {
 
     std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 
-    double resist = 0;        ///< sum of the resistances, ohm
-    double induc = 0;         ///< sum of the inductances, henry
-    double capac = 0;         ///< sum of the capacitances' reciprocals, 1/farad
+    double resist = 0;       ///< sum of the resistances, ohm
+    double induc = 0;        ///< sum of the inductances, henry
+    double capac = 0;        ///< sum of the capacitances' reciprocals, 1/farad
+    std::string resistValue; ///< the texts last entered
+    std::string inductValue;
+    std::string capacValue;
     double supplyVoltage = 0; ///< volt
     double supplyCurrent = 0; ///< ampere
     int diodeCount = 0;       ///< PN and NP diodes placed

@@ -1,6 +1,7 @@
 #include "canvas/keyboard.h"
 
 #include "canvas/jumper_ground.h"
+#include "circuit/valued_components.h"
 #include "platform/event.h"
 
 #include <algorithm>
@@ -27,7 +28,8 @@ struct Letter {
     Handler handler;
 };
 
-constexpr Letter letters[] = {{'J', toggleAutoJumper}, {'E', eraser1}};
+constexpr Letter letters[] = {
+    {'R', resistanc}, {'J', toggleAutoJumper}, {'I', inductanc}, {'C', capacitanc}, {'E', eraser1}};
 
 constexpr int stepLength = 50; // twips a key press
 constexpr int dotSpacing = 10;

@@ -3,6 +3,7 @@
 #include "canvas/jumper_ground.h"
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "circuit/valued_components.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -29,6 +30,9 @@ constexpr Command menu[] = {
         {1, {"ground", "&Ground", "Ctrl+G"}, ground}, {1, separator},
         {1, {"jumper", "Jumper", "Ctrl+J"}, jumper},
     {0, {"electricalcomponents", " &Electrical Components "}},
+        {1, {"resistance", "&Resistance"}, resistanc}, {1, separator},
+        {1, {"inductance", "&Inductance"}, inductanc}, {1, separator},
+        {1, {"capacitance", "&Capacitance"}, capacitanc}, {1, separator},
         {1, {"motor", "&Motors"}},
             {2, {"acmotor", "&A.C Motor"}, acmotor}, {2, separator},
             {2, {"dcmotor", "&D.C Motor"}, dcmotor}, {1, separator},

@@ -2,6 +2,7 @@
 
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "platform/runtime_error.h"
 #include "shell/commands.h"
 #include "shell/view.h"
 
@@ -24,7 +25,11 @@ void dispatch(Form1& form, const Event& event)
 
 void deliver(Form1& form, const Event& event)
 {
-    dispatch(form, event);
+    try {
+        dispatch(form, event);
+    } catch (const RuntimeError& error) {
+        form.dialogs.messageBox(error.what(), Box::okOnly, "Schemlet 2.0");
+    }
     if (event.kind != Event::Kind::tick) {
         showStatusSoon(form);
     }

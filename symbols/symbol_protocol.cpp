@@ -54,6 +54,13 @@ void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view 
     movePen(form, branch->after);
 }
 
+void placeMarkerGateForm(Form1& form)
+{
+    // The pen's height is assigned first and overwritten at once: the top was meant, but keeps its place.
+    form.controls.setLeft(control::Picture1, form.y - markerRise);
+    form.controls.setLeft(control::Picture1, form.x);
+}
+
 void place(Form1& form, const Symbol& symbol)
 {
     const bool asked = form.confirm[symbol.confirm] == 1;
@@ -74,8 +81,6 @@ void place(Form1& form, const Symbol& symbol)
         form.surface.setForeColor(black);
     }
     if (symbol.marker == Marker::gateForm) {
-        // The pen's height is assigned first and overwritten at once: the top was meant, but keeps its place.
-        form.controls.setLeft(control::Picture1, form.y - markerRise);
-        form.controls.setLeft(control::Picture1, form.x);
+        placeMarkerGateForm(form);
     }
 }

@@ -32,6 +32,9 @@ struct Symbol {
 /// nothing but the answer; a heading without a branch draws nothing and leaves the pen.
 void place(Form1& form, const Symbol& symbol);
 
+/// Brings the marker's left edge to the pen and leaves its top where it is.
+void placeMarkerGateForm(Form1& form);
+
 /// The strokes and the pen's way alone: the first branch that fits the heading, if any. Rows of kind value print
 /// the text given here.
 void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value = {});

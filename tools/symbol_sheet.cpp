@@ -4,6 +4,7 @@
 //   symbol_sheet --check FILE    compares with it; a differing sheet is written beside the program
 
 #include "canvas/jumper_ground.h"
+#include "circuit/valued_components.h"
 #include "platform/qt/qt_surface.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
@@ -48,6 +49,9 @@ const Entry entries[] = {
     {"NP diode", npdiode, fourWays},
     {"Zener diode", diode, once},
     {"Tunnel diode", tunneldiode, once},
+    {"Resistance", resistanc, fourWays},
+    {"Inductance", inductanc, fourWays},
+    {"Capacitance", capacitanc, fourWays},
     {"Op-amp", opamp, once},
     {"Field", field, once},
     {"NPN common emitter", emitter, once},
@@ -91,6 +95,10 @@ struct NoDialogs final : Dialogs {
     int messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view /*title*/) override
     {
         return answer::no;
+    }
+    std::string inputBox(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view preset) override
+    {
+        return std::string(preset);
     }
 };
 

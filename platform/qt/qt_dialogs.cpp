@@ -3,6 +3,7 @@
 #include "platform/qt/text.h"
 
 #include <QGridLayout>
+#include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
@@ -25,6 +26,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     box.setText(toQString(prompt));
     box.setTextFormat(Qt::PlainText);
     switch (style) {
+    case Box::okOnly: box.setIcon(QMessageBox::Warning); break;
     case Box::yesNoQuestion:
         box.setIcon(QMessageBox::Question);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -34,4 +36,13 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     }
     makeRoomForTitle(box);
     return box.exec() == QMessageBox::Yes ? answer::yes : answer::no;
+}
+
+std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
+{
+    QInputDialog box(&m_owner);
+    box.setWindowTitle(toQString(title));
+    box.setLabelText(toQString(prompt));
+    box.setTextValue(toQString(preset));
+    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }

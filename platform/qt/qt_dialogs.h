@@ -10,6 +10,7 @@ public:
     explicit QtDialogs(QWidget& owner) : m_owner(owner) {}
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
+    std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
 
 private:
     QWidget& m_owner;

@@ -101,6 +101,41 @@ TEST(Program, GateFromTheMenuAsksAndTheWireGoesOnFromItsOutput)
     waitUntil("wire from the output", [&] { return program.inked(150, 103); });
 }
 
+TEST(Program, ValueTypedOverThePresetIsPrintedBesideTheSymbolAndBadTextChangesNothing)
+{
+    Program program;
+    program.keys({"r"});
+    program.waitForWindow(" RESISTANCE ");
+    program.keys({"a", "b", "c", "Return"});
+    program.waitForWindow("Schemlet 2.0");
+    program.keys({"Return"});
+    program.waitForMainWindow();
+    program.keys({"r"});
+    program.waitForWindow(" RESISTANCE ");
+    program.keys({"Escape"});
+    program.waitForMainWindow();
+    EXPECT_FALSE(program.inked(136, 113)); // where the second stroke of a resistor would end
+
+    program.keys({"r"});
+    program.waitForWindow(" RESISTANCE ");
+    program.keys({"4", "7", "Return"});
+    program.waitForMainWindow();
+    waitUntil("the zig-zag", [&] { return program.inked(119, 113) && program.inked(169, 113); });
+    const auto printedAt = [canvas = program.canvas()](int left) {
+        int ink = 0;
+        for (int x = left; x < left + 14; ++x) {
+            for (int y = 116; y < 126; ++y) {
+                ink += canvas.pixelColor(x, y) == Qt::white ? 0 : 1;
+            }
+        }
+        return ink > 5;
+    };
+    EXPECT_TRUE(printedAt(137));
+    EXPECT_FALSE(printedAt(153)); // "47", not "4710"
+    program.keys({"Right", "Right"});
+    waitUntil("wire from the far end", [&] { return program.inked(180, 100); });
+}
+
 TEST(Program, MouseToolsDraw)
 {
     Program program;

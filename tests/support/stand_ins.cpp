@@ -71,10 +71,12 @@ void RecordingSurface::setForeColor(Color color)
 ScriptedDialogs::~ScriptedDialogs()
 {
     EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().first;
+    EXPECT_TRUE(m_inputs.empty()) << "not asked: " << m_inputs.front().first;
 }
 
-int ScriptedDialogs::messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view title)
+int ScriptedDialogs::messageBox(std::string_view prompt, Box /*style*/, std::string_view title)
 {
+    lastPrompt = prompt;
     if (m_expected.empty()) {
         ADD_FAILURE() << "unexpected question: " << title;
         return answer::no;
@@ -83,6 +85,20 @@ int ScriptedDialogs::messageBox(std::string_view /*prompt*/, Box /*style*/, std:
     m_expected.pop_front();
     EXPECT_EQ(title, expected);
     return answer;
+}
+
+std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
+{
+    lastPrompt = prompt;
+    EXPECT_EQ(preset, "10");
+    if (m_inputs.empty()) {
+        ADD_FAILURE() << "unexpected question: " << title;
+        return {};
+    }
+    const auto [expected, text] = m_inputs.front();
+    m_inputs.pop_front();
+    EXPECT_EQ(title, expected);
+    return text;
 }
 
 void StandInWindow::addMenuItem(int depth, const MenuItem& item)

@@ -45,9 +45,16 @@ public:
     /// The next question must have this title, and is answered so.
     void expect(std::string title, int answer) { m_expected.emplace_back(std::move(title), answer); }
 
+    /// The next input box must have this title; "" is Cancel.
+    void expectInput(std::string title, std::string text) { m_inputs.emplace_back(std::move(title), std::move(text)); }
+
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
+    std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
+
+    std::string lastPrompt; ///< of any box
 
 private:
+    std::deque<std::pair<std::string, std::string>> m_inputs;
     std::deque<std::pair<std::string, int>> m_expected;
 };
 
