@@ -8,6 +8,15 @@
 
 namespace {
 
+void tick(Form1& form, Name timer)
+{
+    if (timer == control::Timer2) {
+        Timer2(form);
+    } else if (timer == control::statusTimer) {
+        showStatus(form);
+    }
+}
+
 void dispatch(Form1& form, const Event& event)
 {
     switch (event.kind) {
@@ -17,7 +26,7 @@ void dispatch(Form1& form, const Event& event)
     case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
     case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
     case Event::Kind::click: return runCommand(form, event.name);
-    case Event::Kind::tick: return event.name == control::statusTimer ? showStatus(form) : Timer2(form);
+    case Event::Kind::tick: return tick(form, event.name);
     }
 }
 

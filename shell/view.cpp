@@ -28,7 +28,7 @@ std::string_view toolText(const CanvasState& state)
     return state.pencilTool == 1 ? "Pencil" : "Pen";
 }
 
-std::string place(double twips)
+std::string wholeTwips(double twips)
 {
     return std::to_string(static_cast<long long>(twips));
 }
@@ -51,10 +51,10 @@ void showStatus(Form1& form)
 {
     form.statusDue = 0;
     form.controls.setInterval(control::statusTimer, 0);
-    form.controls.setText(control::sbPen, place(form.x) + ", " + place(form.y));
+    form.controls.setText(control::sbPen, wholeTwips(form.x) + ", " + wholeTwips(form.y));
     form.controls.setText(control::sbHeading, headingText(form.heading));
     form.controls.setText(control::sbTool, toolText(form));
-    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "");
+    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
 }
 
 void showStatusSoon(Form1& form)

@@ -11,6 +11,8 @@ public:
     using QLabel::QLabel;
 
     void setVisible(bool visible) override;
+    /// What setVisible() said last; isHidden() does not know.
+    [[nodiscard]] bool isOn() const { return m_on; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -2,8 +2,10 @@
 
 #include "platform/qt/text.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 namespace {
@@ -13,9 +15,39 @@ void makeRoomForTitle(QMessageBox& box)
 {
     constexpr int frameButtons = 140; // pixels, generous: window managers differ
     const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + frameButtons;
-    auto& layout = dynamic_cast<QGridLayout&>(*box.layout());
-    layout.addItem(new QSpacerItem(width, 0), layout.rowCount(), 0, 1, layout.columnCount());
+    if (auto* const layout = qobject_cast<QGridLayout*>(box.layout())) {
+        layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
+    }
 }
+
+bool isArrow(const QKeyEvent& key)
+{
+    return key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
+}
+
+/// Keys that are not meant for a box that has just opened are dropped until the first one that is: the repeats of a key
+/// held from before, and, where a question comes up in the middle of a walk, the walk's arrow keys, which would move
+/// the focus from Yes to No. (Repeats alone would not do for those: X11 does not always tell them from fresh presses.)
+class StrayKeys final : public QObject {
+public:
+    enum class Drop { repeats, repeatsAndArrows };
+
+    explicit StrayKeys(Drop drop) : m_drop(drop) { QCoreApplication::instance()->installEventFilter(this); }
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (m_dropping && (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)) {
+            const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+            m_dropping = key.isAutoRepeat() || (m_drop == Drop::repeatsAndArrows && isArrow(key));
+            return m_dropping;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Drop m_drop;
+    bool m_dropping = true;
+};
 
 } // namespace
 
@@ -35,6 +67,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
         break;
     }
     makeRoomForTitle(box);
+    const StrayKeys strayKeys(StrayKeys::Drop::repeatsAndArrows);
     return box.exec() == QMessageBox::Yes ? answer::yes : answer::no;
 }
 
@@ -44,5 +77,6 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
     box.setWindowTitle(toQString(title));
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));
+    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }

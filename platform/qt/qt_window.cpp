@@ -1,10 +1,12 @@
 #include "platform/qt/qt_window.h"
 
+#include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/text.h"
 #include "platform/surface.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -73,7 +75,9 @@ void QtWindow::addMenuItem(int depth, const MenuItem& item)
     }
     connect(action, &QAction::triggered, this, [this, action, name = item.name](bool checked) {
         // A check item flips itself first, but its mark is the command's to flip.
-        action->setChecked(!checked);
+        if (action->isCheckable()) {
+            action->setChecked(!checked);
+        }
         m_report({.kind = Event::Kind::click, .name = name});
     });
     menuAt(depth).addAction(action);
@@ -88,7 +92,10 @@ QWidget& QtWindow::menuAt(int depth)
     }
     QAction& parent = *m_lastItems.at(static_cast<std::size_t>(depth) - 1);
     if (parent.menu() == nullptr) {
-        parent.setMenu(new QMenu(&m_form));
+        auto* const menu = new QMenu(&m_form);
+        menu->setObjectName(parent.objectName() + "Menu");
+        menu->setAccessibleName(parent.text().remove('&').trimmed());
+        parent.setMenu(menu);
     }
     return *parent.menu();
 }
@@ -96,7 +103,7 @@ QWidget& QtWindow::menuAt(int depth)
 void QtWindow::popUp(Name menu)
 {
     QMenu& popup = *find<QAction>(menu).menu();
-    m_releaseOwed = true;
+    m_owedReleases = QGuiApplication::mouseButtons();
     popup.installEventFilter(this);
     popup.popup(QCursor::pos());
 }
@@ -104,10 +111,12 @@ void QtWindow::popUp(Name menu)
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 {
     // An open popup menu gets the release of the button that opened it; it is the canvas's all the same.
-    if (m_releaseOwed && event->type() == QEvent::MouseButtonRelease) {
-        m_releaseOwed = false;
+    if (event->type() == QEvent::MouseButtonRelease) {
         const auto& release = dynamic_cast<const QMouseEvent&>(*event);
-        m_canvas.reportRelease(release.button(), m_canvas.mapFromGlobal(release.globalPosition()));
+        if (m_owedReleases.testFlag(release.button())) {
+            m_owedReleases.setFlag(release.button(), false);
+            m_canvas.reportRelease(release.button(), m_canvas.mapFromGlobal(release.globalPosition()));
+        }
     }
     return QObject::eventFilter(watched, event);
 }
@@ -129,7 +138,9 @@ void QtWindow::setVisible(Name control, bool visible)
 
 bool QtWindow::visible(Name control) const
 {
-    return !find<QWidget>(control).isHidden();
+    const auto& widget = find<QWidget>(control);
+    const auto* const picture = qobject_cast<const BlinkingPicture*>(&widget);
+    return picture != nullptr ? picture->isOn() : !widget.isHidden();
 }
 
 void QtWindow::setText(Name control, std::string_view text)

@@ -47,5 +47,5 @@ private:
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
     std::vector<QAction*> m_lastItems; ///< the last menu row of each depth
-    bool m_releaseOwed = false;        ///< a popup opened under a button of the canvas that is still down
+    Qt::MouseButtons m_owedReleases;   ///< of the buttons that were down on the canvas when a popup menu opened
 };

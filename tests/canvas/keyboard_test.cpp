@@ -120,6 +120,8 @@ TEST(JumperQuestion, YesHopsFirstAndLaysTheWireBehindTheCrossing)
     EXPECT_EQ(bench.drawn(), "arc 1600 1390 100 5 1.5\n"
                              "circle 1600 1280 10\ncircle 1600 1270 10\ncircle 1600 1260 10\n"
                              "circle 1600 1250 10\ncircle 1600 1240 10\n");
+    EXPECT_EQ(bench.dialogs.lastPrompt, " Do you want to draw a JUMPER ?");
+    EXPECT_EQ(bench.dialogs.lastStyle, Box::yesNoQuestion);
     EXPECT_EQ(bench.pen(), "1600 1230");
     EXPECT_EQ(bench.marker(), "1500 930");
 }

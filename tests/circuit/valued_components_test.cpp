@@ -52,6 +52,9 @@ TEST(ValuedComponents, PrintTheValueAtEachHeadingsOwnPlaceAndMoveThePenPastTheSy
                                                     : " CAPACITANCE ",
                                   "4.70"); // printed as typed
         type(bench, c.letter);
+        EXPECT_EQ(bench.dialogs.lastPrompt, c.letter == 'r'   ? " Enter Value of Resistance "
+                                            : c.letter == 'i' ? " Enter Value of Inductance "
+                                                              : " Enter Value of Capacitance ");
         EXPECT_EQ(std::ranges::count(bench.surface.ink, c.printed), 1);
         EXPECT_EQ(bench.surface.ink.size(), c.calls);
         EXPECT_EQ(bench.surface.ink.back(), c.lastStroke);

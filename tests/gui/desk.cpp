@@ -19,6 +19,16 @@ QString outputOf(const QString& program, const QStringList& words)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
+QByteArray waitForLine(QProcess& process)
+{
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(patience)) {
+            throw std::runtime_error(process.program().toStdString() + " does not start");
+        }
+    }
+    return process.readLine().trimmed();
+}
+
 void end(QProcess& process)
 {
     process.terminate();
@@ -38,21 +48,13 @@ QImage grab(const QRect& part)
 Desk::Desk()
 {
     m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
-    while (!m_server.canReadLine() && m_server.waitForReadyRead(patience)) {
-    }
-    const QByteArray number = m_server.readLine().trimmed();
-    if (number.isEmpty()) {
-        throw std::runtime_error("Xvfb does not start");
-    }
+    const QByteArray number = waitForLine(m_server);
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // else one is started for this display, and outlives it
-    m_manager.start("openbox");
-    while (!outputOf("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id")) {
-        if (m_manager.waitForFinished(10)) {
-            throw std::runtime_error("openbox does not start");
-        }
-    }
+    // A window that opens while the manager still starts may never be shown.
+    m_manager.start("openbox", {"--startup", "echo ready"});
+    waitForLine(m_manager);
 }
 
 Desk::~Desk()
@@ -61,11 +63,11 @@ Desk::~Desk()
     end(m_server);
 }
 
-bool waitUntil(const char* what, const std::function<bool()>& condition)
+void waitUntil(const char* what, const std::function<bool()>& condition)
 {
-    const bool held = QTest::qWaitFor(condition, patience);
-    EXPECT_TRUE(held) << "never came: " << what;
-    return held;
+    if (!QTest::qWaitFor(condition, patience)) {
+        throw std::runtime_error(std::string("never came: ") + what);
+    }
 }
 
 Program::Program()
@@ -162,6 +164,14 @@ void Program::drag(int x1, int y1, int x2, int y2)
     release(1);
 }
 
+void Program::openPopup(int x, int y)
+{
+    const QRect spot(x + 4, y + 4, 80, 40);
+    const QImage before = canvas().copy(spot);
+    click(3, x, y);
+    waitUntil("the popup menu", [&] { return canvas().copy(spot) != before; });
+}
+
 void Program::resize(int width, int height)
 {
     xdotool({"windowsize", "--sync", m_window, QString::number(width), QString::number(height)});
@@ -188,9 +198,14 @@ void Program::waitForWindow(const QString& title)
     });
 }
 
+void Program::closeActiveWindow()
+{
+    EXPECT_EQ(QProcess::execute("wmctrl", {"-c", ":ACTIVE:"}), 0);
+}
+
 int Program::close()
 {
-    EXPECT_EQ(QProcess::execute("wmctrl", {"-i", "-c", m_window}), 0);
+    closeActiveWindow();
     EXPECT_TRUE(m_process.waitForFinished(patience)) << "the program does not end";
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }

@@ -21,8 +21,8 @@ private:
     QProcess m_manager;
 };
 
-/// Waits until a condition holds; fails the test with these words if it never does.
-bool waitUntil(const char* what, const std::function<bool()>& condition);
+/// Waits until a condition holds; ends the test with these words if it never does.
+void waitUntil(const char* what, const std::function<bool()>& condition);
 
 /// The real program in its window, used as a person does: by keys, mouse and looking at the screen. Places are canvas
 /// pixels.
@@ -40,6 +40,8 @@ public:
     void release(int button);
     void click(int button, int x, int y);
     void drag(int x1, int y1, int x2, int y2);
+    /// Presses the right button on clean paper and waits for the menu.
+    void openPopup(int x, int y);
     void resize(int width, int height);
     void xdotool(const QStringList& words);
 
@@ -51,7 +53,9 @@ public:
     void waitForWindow(const QString& title);
     void waitForMainWindow() { waitForWindow(" - Schemlet 2.0  New File "); }
 
-    /// Closes the main window as its frame does; returns the program's exit status.
+    /// Closes the window that has the keyboard, as its frame does.
+    void closeActiveWindow();
+    /// The same with the main window; returns the program's exit status.
     int close();
 
 private:

@@ -1,6 +1,5 @@
 #include "platform/qt/qt_surface.h"
 
-#include <QGuiApplication>
 #include <gtest/gtest.h>
 
 namespace {
@@ -107,12 +106,4 @@ TEST(QtSurface, PrintsFromTheCurrentPointAndEndsTheLineOrNot)
     surface.setCurrent(-1e9F, 1e9F); // far outside: nothing to draw, and no overflow
     surface.print("R", true);
     EXPECT_EQ(surface.current().x, 0);
-}
-
-int main(int argc, char* argv[])
-{
-    testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }

@@ -63,13 +63,13 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
         return bench.window.at(control::sbPen).text + "|" + bench.window.at(control::sbHeading).text + "|" +
                bench.window.at(control::sbTool).text + "|" + bench.window.at(control::sbErase).text;
     };
-    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|");
+    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|Normal mode");
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 
     deliver(bench.form, {.kind = Event::Kind::keyDown, .code = key::up});
     deliver(bench.form, {.kind = Event::Kind::keyPress, .code = 'e'});
     click(bench, "rectan");
-    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|");
+    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|Normal mode");
     EXPECT_GT(bench.window.intervals.at("statusTimer"), 0);
 
     deliver(bench.form, {.kind = Event::Kind::tick, .name = control::statusTimer});

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -74,9 +75,10 @@ ScriptedDialogs::~ScriptedDialogs()
     EXPECT_TRUE(m_inputs.empty()) << "not asked: " << m_inputs.front().first;
 }
 
-int ScriptedDialogs::messageBox(std::string_view prompt, Box /*style*/, std::string_view title)
+int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
 {
     lastPrompt = prompt;
+    lastStyle = style;
     if (m_expected.empty()) {
         ADD_FAILURE() << "unexpected question: " << title;
         return answer::no;
@@ -101,15 +103,27 @@ std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view 
     return text;
 }
 
-void StandInWindow::addMenuItem(int depth, const MenuItem& item)
+StandInWindow::StandInWindow()
 {
-    captions.push_back(std::string(static_cast<std::size_t>(depth), ' ').append(item.caption));
+    for (const Name name : formControls) {
+        m_controls.emplace(name, Control{});
+    }
 }
 
-StandInWindow::Control StandInWindow::find(Name name) const
+StandInWindow::Control& StandInWindow::at(Name name)
 {
     const auto found = m_controls.find(name);
-    return found == m_controls.end() ? Control{} : found->second;
+    if (found == m_controls.end()) {
+        throw std::invalid_argument("no such control: " + std::string(name));
+    }
+    return found->second;
+}
+
+void StandInWindow::addMenuItem(int depth, const MenuItem& item)
+{
+    m_controls.emplace(item.name, Control{});
+    menus += std::string(static_cast<std::size_t>(depth), ' ').append(item.name) + "|";
+    menus.append(item.caption).append("|").append(item.shortcut) += "\n";
 }
 
 Bench::Bench()

@@ -52,11 +52,16 @@ public:
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
 
     std::string lastPrompt; ///< of any box
+    Box lastStyle = Box::okOnly;
 
 private:
     std::deque<std::pair<std::string, std::string>> m_inputs;
     std::deque<std::pair<std::string, int>> m_expected;
 };
+
+/// Every named control of the main window's form; a test of the form itself finds each of them there.
+inline constexpr Name formControls[] = {control::Picture1, control::Shape1,    control::Label27, control::sb,
+                                        control::sbPen,    control::sbHeading, control::sbTool,  control::sbErase};
 
 /// Keeps what was set last.
 class StandInWindow final : public Window {
@@ -69,29 +74,30 @@ public:
         double top = 0;
     };
 
+    StandInWindow();
+
     std::string caption;
     std::string poppedUp;
-    std::vector<std::string> captions; ///< of the menu rows, each after one blank per depth
+    std::string menus; ///< a line for each row: depth, name, caption and short-cut
     std::map<std::string, int, std::less<>> intervals;
 
-    [[nodiscard]] Control& at(Name name) { return m_controls[std::string(name)]; }
+    /// Fails the test for a name that the program's windows do not have.
+    [[nodiscard]] Control& at(Name name);
 
     void setCaption(std::string_view title) override { caption = title; }
     void showWindow() override {}
     void addMenuItem(int depth, const MenuItem& item) override;
     void popUp(Name menu) override { poppedUp = menu; }
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
-    [[nodiscard]] bool checked(Name item) const override { return find(item).checked; }
+    [[nodiscard]] bool checked(Name item) const override { return m_controls.find(item)->second.checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
-    [[nodiscard]] bool visible(Name control) const override { return find(control).visible; }
+    [[nodiscard]] bool visible(Name control) const override { return m_controls.find(control)->second.visible; }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
     void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
 
 private:
-    [[nodiscard]] Control find(Name name) const;
-
     std::map<std::string, Control, std::less<>> m_controls;
 };
 

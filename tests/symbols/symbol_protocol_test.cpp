@@ -113,6 +113,8 @@ TEST(Place, AsksOnlyWithItsFamilysSwitchOn)
     Bench bench;
     bench.dialogs.expect("This draws a TEST", answer::yes);
     place(bench.form, symbolWith(anyWay));
+    EXPECT_EQ(bench.dialogs.lastPrompt, " Do you want to Continue ?");
+    EXPECT_EQ(bench.dialogs.lastStyle, Box::yesNoQuestion);
     EXPECT_EQ(bench.form.andAnswer, answer::yes);
     EXPECT_NE(bench.drawn(), "");
 

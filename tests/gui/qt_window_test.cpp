@@ -1,0 +1,147 @@
+#include "platform/qt/qt_window.h"
+
+#include "platform/qt/canvas_widget.h"
+#include "tests/support/stand_ins.h"
+#include "ui_Form1.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The main window on the toolkit, with a note of every event in place of the program behind it.
+struct MainWindow {
+    QMainWindow view;
+    Ui::Form1 form;
+    std::vector<Event> events;
+    std::unique_ptr<QtWindow> window;
+
+    MainWindow()
+    {
+        form.setupUi(&view);
+        window = std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
+        view.show();
+        view.activateWindow();
+        (void)QTest::qWaitForWindowActive(&view);
+        events.clear();
+    }
+
+    [[nodiscard]] std::string noted() const
+    {
+        constexpr const char* kinds[] = {"keyDown", "keyPress", "mouseDown", "mouseMove", "mouseUp", "click", "tick"};
+        std::string text;
+        for (const Event& event : events) {
+            text += std::string(kinds[static_cast<int>(event.kind)]) + " " + std::string(event.name) +
+                    std::to_string(event.code) + "\n";
+        }
+        return text;
+    }
+};
+
+} // namespace
+
+TEST(QtWindow, HasEveryControlThatTheProgramNames)
+{
+    const MainWindow main;
+    for (const Name name : formControls) {
+        EXPECT_NE(main.view.findChild<QWidget*>(QString::fromLatin1(name.data())), nullptr) << name;
+    }
+}
+
+TEST(QtWindow, ReportsKeysAsDownAndTypedButNoLetterWithCtrlOrAltAndNoModifierAlone)
+{
+    struct Case {
+        Qt::Key key;
+        Qt::KeyboardModifiers held;
+        const char* text;
+        const char* reported;
+    };
+    const Case cases[] = {
+        {Qt::Key_E, Qt::NoModifier, "e", "keyDown 0\nkeyPress 101\n"},
+        {Qt::Key_Left, Qt::ShiftModifier | Qt::KeypadModifier, "", "keyDown 37\n"},
+        {Qt::Key_Percent, Qt::ShiftModifier, "%", "keyDown 0\nkeyPress 37\n"}, // the toolkit's code is our left arrow's
+        {Qt::Key_E, Qt::ControlModifier | Qt::AltModifier, "e", "keyDown 0\n"},
+        {Qt::Key_J, Qt::AltModifier, "j", "keyDown 0\n"},
+        {Qt::Key_Shift, Qt::NoModifier, "", ""},
+        {Qt::Key_Control, Qt::NoModifier, "", ""},
+        {Qt::Key_Alt, Qt::NoModifier, "", ""},
+        {Qt::Key_AltGr, Qt::NoModifier, "", ""},
+        {Qt::Key_Meta, Qt::NoModifier, "", ""},
+        {Qt::Key_Super_L, Qt::NoModifier, "", ""},
+    };
+    MainWindow main;
+    for (const Case& c : cases) {
+        main.events.clear();
+        QKeyEvent event(QEvent::KeyPress, c.key, c.held, c.text);
+        QCoreApplication::sendEvent(main.form.Canvas, &event);
+        EXPECT_EQ(main.noted(), c.reported) << c.key;
+    }
+}
+
+TEST(QtWindow, ReportsTheSecondPressOfADoubleClickLikeAnyOther)
+{
+    MainWindow main;
+    QTest::mouseDClick(main.form.Canvas, Qt::LeftButton, {}, {100, 200});
+    EXPECT_EQ(main.noted(), "mouseDown 1\n");
+    EXPECT_EQ(main.events.back().x, 1500);
+    EXPECT_EQ(main.events.back().y, 3000);
+}
+
+TEST(QtWindow, ReportsTheReleaseThatThePopupMenuSwallowsAndNoOther)
+{
+    MainWindow main;
+    main.window->addMenuItem(0, {"rc", "&Rightclick", "", Look::hidden});
+    main.window->addMenuItem(1, {"eras", "&Eraser"});
+    QTest::mousePress(main.form.Canvas, Qt::RightButton, {}, {100, 200});
+    main.window->popUp("rc");
+    QMenu& menu = *main.view.findChild<QMenu*>("rcMenu");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
+    main.events.clear();
+    const QPoint outside(-50, -50);
+    QTest::mouseRelease(&menu, Qt::LeftButton, {}, outside);
+    EXPECT_EQ(main.noted(), "");
+    QTest::mouseRelease(&menu, Qt::RightButton, {}, outside);
+    EXPECT_EQ(main.noted(), "mouseUp 2\n");
+    QTest::mouseRelease(&menu, Qt::RightButton, {}, outside);
+    EXPECT_EQ(main.noted(), "mouseUp 2\n");
+}
+
+TEST(QtWindow, LeavesTheMarkOfACheckItemToItsCommand)
+{
+    MainWindow main;
+    main.window->addMenuItem(0, {"ae", "Enable"});
+    main.window->addMenuItem(1, {"jj", "Automatic Jumper", "", Look::unchecked});
+    main.view.findChild<QAction*>("jj")->trigger();
+    EXPECT_EQ(main.noted(), "click jj0\n");
+    EXPECT_FALSE(main.window->checked("jj"));
+    main.window->setChecked("jj", true);
+    EXPECT_TRUE(main.window->checked("jj"));
+}
+
+TEST(QtWindow, KnowsWhatItWasToldToShow)
+{
+    const MainWindow main;
+    for (const Name name : {control::Picture1, control::Label27, control::Shape1}) {
+        main.window->setVisible(name, false);
+        EXPECT_FALSE(main.window->visible(name)) << name;
+        main.window->setVisible(name, true);
+        EXPECT_TRUE(main.window->visible(name)) << name;
+    }
+}
+
+TEST(QtWindow, TellsAssistiveProgramsWhatThingsAre)
+{
+    installCanvasAccessibility();
+    MainWindow main;
+    main.window->addMenuItem(0, {"edit", " &Edit "});
+    main.window->addMenuItem(1, {"eraser", "&Eraser", "Ctrl+E"});
+    const QAccessibleInterface& canvas = *QAccessible::queryAccessibleInterface(main.form.Canvas);
+    EXPECT_EQ(canvas.role(), QAccessible::Canvas);
+    EXPECT_EQ(canvas.text(QAccessible::Name), "Canvas");
+    EXPECT_FALSE(canvas.text(QAccessible::Description).isEmpty());
+    EXPECT_EQ(main.view.findChild<QMenu*>("editMenu")->accessibleName(), "Edit");
+}
