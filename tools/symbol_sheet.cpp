@@ -26,8 +26,8 @@
 namespace {
 
 struct Entry {
-    const char* name;
-    Handler draw;
+    const char* name = "";
+    Handler draw = nullptr;
     std::initializer_list<int> headings;
 };
 

@@ -16,7 +16,7 @@ namespace {
 /// The main window on the toolkit, with a note of every event in place of the program behind it.
 struct MainWindow {
     QMainWindow view;
-    Ui::Form1 form;
+    Ui::Form1 form{};
     std::vector<Event> events;
     std::unique_ptr<QtWindow> window;
 
@@ -55,10 +55,10 @@ TEST(QtWindow, HasEveryControlThatTheProgramNames)
 TEST(QtWindow, ReportsKeysAsDownAndTypedButNoLetterWithCtrlOrAltAndNoModifierAlone)
 {
     struct Case {
-        Qt::Key key;
+        Qt::Key key = {};
         Qt::KeyboardModifiers held;
-        const char* text;
-        const char* reported;
+        const char* text = "";
+        const char* reported = "";
     };
     const Case cases[] = {
         {Qt::Key_E, Qt::NoModifier, "e", "keyDown 0\nkeyPress 101\n"},
