@@ -39,7 +39,8 @@ void deliver(Form1& form, const Event& event)
     } catch (const RuntimeError& error) {
         form.dialogs.messageBox(error.what(), Box::okOnly, "Schemlet 2.0");
     }
-    if (event.kind != Event::Kind::tick) {
+    // Neither a tick nor a move changes what the status bar shows.
+    if (event.kind != Event::Kind::tick && event.kind != Event::Kind::mouseMove) {
         showStatusSoon(form);
     }
 }
