@@ -119,11 +119,9 @@ StandInWindow::Control& StandInWindow::at(Name name)
     return found->second;
 }
 
-void StandInWindow::addMenuItem(int depth, const MenuItem& item)
+void StandInWindow::addMenuItem(int /*depth*/, const MenuItem& item)
 {
     m_controls.emplace(item.name, Control{});
-    menus += std::string(static_cast<std::size_t>(depth), ' ').append(item.name) + "|";
-    menus.append(item.caption).append("|").append(item.shortcut) += "\n";
 }
 
 Bench::Bench()

@@ -78,7 +78,6 @@ public:
 
     std::string caption;
     std::string poppedUp;
-    std::string menus; ///< a line for each row: depth, name, caption and short-cut
     std::map<std::string, int, std::less<>> intervals;
 
     /// Fails the test for a name that the program's windows do not have.

@@ -4,6 +4,7 @@
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
+#include "symbols/gates.h"
 #include "symbols/jfets.h"
 #include "symbols/machines.h"
 #include "symbols/thyristors.h"
@@ -27,6 +28,12 @@ struct Row {
 };
 
 const Row library[] = {
+    {and_, "This draws an AND GATE", gatesConfirm, &CanvasState::gatesColor, 325, 50, true},
+    {or_, "This draws an OR GATE", gatesConfirm, &CanvasState::gatesColor, 300, 90, true},
+    {nor, "This draws a NOR GATE", gatesConfirm, &CanvasState::gatesColor, 375, 90, true},
+    {nand, "This draws a NAND GATE", gatesConfirm, &CanvasState::gatesColor, 385, 75, true},
+    {exor, "This draws an EX-OR GATE", gatesConfirm, &CanvasState::gatesColor, 380, 90, false},
+    {exnor, "This draws an EX-NOR GATE", gatesConfirm, &CanvasState::gatesColor, 480, 100, false},
     {buffer, "This draws a BUFFER", bufferConfirm, &CanvasState::bufferColor, 300, 0, true},
     {notgate, "This draws a NOT GATE", gatesConfirm, &CanvasState::gatesColor, 375, 75, true},
     {opamp, "This draws an OP-AMP", opampConfirm, &CanvasState::opampColor, 0, 0, false},
@@ -191,6 +198,10 @@ TEST(Headings, MeanNothingToMostOfTheLibrary)
 {
     for (const Row& row : library) {
         if (row.draw == buffer || row.draw == notgate || row.draw == diod || row.draw == npdiode) {
+            continue;
+        }
+        if (row.draw == and_ || row.draw == or_ || row.draw == nor || row.draw == nand) {
+            EXPECT_EQ(strokesOf(row.draw, heading::up), ""); // these draw to the right only
             continue;
         }
         SCOPED_TRACE(row.title);
