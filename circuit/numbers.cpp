@@ -3,11 +3,10 @@
 #include "platform/runtime_error.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <locale>
 #include <sstream>
+#include <string>
 
 namespace {
 
@@ -88,18 +87,6 @@ double toNumber(std::string_view text)
                            "Type mismatch\n\nThe value must be a number such as 10, 0.5 or 4.7E-06.");
     }
     return parsed(number);
-}
-
-std::string toText(double number)
-{
-    constexpr int significantDigits = 15;
-    std::array<char, 32> text{};
-    const double withoutSignedZero = number == 0 ? 0 : number;
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), withoutSignedZero,
-                                   std::chars_format::general, significantDigits);
-    std::string result(text.data(), end.ptr);
-    std::ranges::replace(result, 'e', 'E');
-    return result;
 }
 
 double checked(double result)
