@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// A print service of our own with one queue, the default one, whose printer puts each job into a file. It has no
+/// network port and keeps to one folder, gone with this object. CUPS_SERVER shows this process and those it starts the
+/// way to it; afterwards it leads nowhere, so that no test ever reaches a real printer.
+class PrintServer {
+public:
+    static constexpr auto queue = "Desk_Printer";
+    /// The paper is A4 upright; this is what its printer can print on, in points from the top-left corner.
+    static constexpr double left = 18, top = 24, right = 571, bottom = 806, width = 595, height = 842;
+
+    PrintServer();
+    ~PrintServer();
+    PrintServer(const PrintServer&) = delete;
+    PrintServer& operator=(const PrintServer&) = delete;
+
+    /// A queue that rejects jobs turns them away; one that stands still keeps them until it runs again, but has room
+    /// for two only.
+    void rejectJobs() { run("cupsreject", {queue}); }
+    void acceptJobs() { run("cupsaccept", {queue}); }
+    void stopQueue() { run("cupsdisable", {queue}); }
+    void startQueue() { run("cupsenable", {queue}); }
+    /// From then on there is no printer at all.
+    void removeQueue() { run("lpadmin", {"-x", queue}); }
+    /// From then on nobody answers.
+    void end();
+
+    /// How many jobs wait to be printed.
+    [[nodiscard]] int waitingJobs();
+    /// The printed files, oldest first, once no job is waiting any more.
+    [[nodiscard]] QStringList printedFiles();
+
+private:
+    void writeFiles() const;
+    void run(const QString& program, const QStringList& words);
+
+    QTemporaryDir m_folder;
+    QProcess m_server;
+};

@@ -1,0 +1,143 @@
+#include "platform/qt/printing.h"
+
+#include "platform/runtime_error.h"
+#include "tests/gui/print_server.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Pale, with a coloured square in each corner and a hairline in between.
+QImage testPicture(const QSize& size)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(QColor(230, 230, 255));
+    QPainter painter(&picture);
+    painter.drawLine(0, size.height(), size.width(), 0);
+    painter.drawText(picture.rect(), Qt::AlignCenter, "R = 10");
+    const QRect square(0, 0, 40, 40);
+    painter.fillRect(square, Qt::red);
+    painter.fillRect(square.translated(size.width() - 40, 0), Qt::green);
+    painter.fillRect(square.translated(0, size.height() - 40), Qt::blue);
+    painter.fillRect(square.translated(size.width() - 40, size.height() - 40), Qt::black);
+    return picture;
+}
+
+QString outputOf(const QString& program, const QStringList& words)
+{
+    QProcess process;
+    process.start(program, words);
+    EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program.toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+constexpr int dotsPerPoint = 2;
+
+/// The paper as it lies in the printer's tray.
+QImage page(const QString& file)
+{
+    outputOf("pdftoppm", {"-r", QString::number(72 * dotsPerPoint), "-png", "-singlefile", file, file});
+    return QImage(file + ".png");
+}
+
+/// Where a page is not white, in points.
+QRectF inkedPart(const QImage& page)
+{
+    QRect inked;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            if (page.pixelColor(x, y) != Qt::white) {
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return {QPointF(inked.topLeft()) / dotsPerPoint, QSizeF(inked.size()) / dotsPerPoint};
+}
+
+/// The picture as it lies in the printed file, before any printer scales it.
+QImage printedPicture(const QString& file)
+{
+    outputOf("pdfimages", {"-png", file, file});
+    return QImage(file + "-000.png").convertToFormat(QImage::Format_RGB32);
+}
+
+/// What the user reads; nothing if all went well.
+std::string errorOfPrinting()
+{
+    try {
+        printPicture(testPicture({300, 300}), "drawing");
+        return "";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.fault, Fault::printerError);
+        return error.what();
+    }
+}
+
+} // namespace
+
+TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
+{
+    struct Case {
+        QSize picture;
+        QSize paper;
+        QRectF inked; ///< in points; 96 pixels are 72 of them
+    };
+    const Case cases[] = {
+        {{300, 400}, {595, 842}, {182, 24, 225, 300}},
+        {{640, 400}, {842, 595}, {181, 24, 480, 300}},
+        {{2000, 1000}, {842, 595}, {36, 24, 770, 385}}, // the edges of the upright page, 36 and 18, now at the sides
+        {{1000, 4000}, {595, 842}, {196.75, 24, 195.5, 782}},
+    };
+    PrintServer server;
+    for (const Case& c : cases) {
+        const QImage picture = testPicture(c.picture);
+        printPicture(picture, "drawing");
+        const QString file = server.printedFiles().last();
+        EXPECT_TRUE(outputOf("pdfinfo", {file}).contains(QRegularExpression("Pages: +1\n")));
+        EXPECT_EQ(printedPicture(file), picture);
+
+        const QImage paper = page(file);
+        EXPECT_EQ(paper.size(), c.paper * dotsPerPoint);
+        const QRectF inked = inkedPart(paper);
+        EXPECT_NEAR(inked.left(), c.inked.left(), 1);
+        EXPECT_NEAR(inked.top(), c.inked.top(), 1);
+        EXPECT_NEAR(inked.right(), c.inked.right(), 1);
+        EXPECT_NEAR(inked.bottom(), c.inked.bottom(), 1);
+        const QRect corners = QRectF(inked.topLeft() * dotsPerPoint, inked.size() * dotsPerPoint).toRect();
+        const QRect inside = corners.adjusted(6, 6, -6, -6);
+        EXPECT_EQ(paper.pixelColor(inside.topLeft()), Qt::red);
+        EXPECT_EQ(paper.pixelColor(inside.topRight()), Qt::green);
+        EXPECT_EQ(paper.pixelColor(inside.bottomLeft()), Qt::blue);
+        EXPECT_EQ(paper.pixelColor(inside.bottomRight()), Qt::black);
+    }
+}
+
+TEST(Printing, TellsWhatKeepsAJobFromThePrinterAndWaitsForAStoppedOne)
+{
+    PrintServer server;
+    server.rejectJobs();
+    EXPECT_EQ(errorOfPrinting(), "Printer error\n\nThe printer Desk_Printer rejects jobs.\n"
+                                 "The printer settings of the system make it accept them again.");
+    EXPECT_EQ(server.printedFiles().size(), 0);
+
+    server.acceptJobs();
+    server.stopQueue();
+    EXPECT_EQ(errorOfPrinting(), "");
+    EXPECT_EQ(errorOfPrinting(), "");
+    // Nobody could know this beforehand.
+    EXPECT_EQ(errorOfPrinting(), "Printer error\n\nThe printer Desk_Printer did not get the job:\n"
+                                 "Too many active jobs.");
+    EXPECT_EQ(server.waitingJobs(), 2);
+    server.startQueue();
+    EXPECT_EQ(server.printedFiles().size(), 2);
+
+    const std::string none = "Printer error\n\nNo default printer is set up, or the print service is not running.\n"
+                             "The printer settings of the system show which.";
+    server.removeQueue();
+    EXPECT_EQ(errorOfPrinting(), none);
+    server.end();
+    EXPECT_EQ(errorOfPrinting(), none);
+}
