@@ -4,6 +4,7 @@
 #include "shell/events.h"
 #include "shell/view.h"
 #include "ui_Form1.h"
+#include "ui_Form4.h"
 
 #include <QApplication>
 
@@ -14,14 +15,19 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     installCanvasAccessibility();
 
-    QMainWindow mainWindow;
+    QMainWindow mainView;
     Ui::Form1 form;
-    form.setupUi(&mainWindow);
+    form.setupUi(&mainView);
+
+    QDialog outputView(&mainView);
+    Ui::Form4().setupUi(&outputView);
 
     Form1* schemlet = nullptr;
-    QtWindow window(mainWindow, [&schemlet](const Event& event) { deliver(*schemlet, event); });
-    QtDialogs dialogs(mainWindow);
-    Form1 form1(form.Canvas->surface(), window, dialogs);
+    const auto report = [&schemlet](const Event& event) { deliver(*schemlet, event); };
+    QtWindow window(mainView, report);
+    QtWindow form4(outputView, report);
+    QtDialogs dialogs(mainView);
+    Form1 form1(form.Canvas->surface(), window, dialogs, form4);
     schemlet = &form1;
 
     openMainWindow(form1);

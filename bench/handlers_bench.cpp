@@ -4,6 +4,7 @@
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_window.h"
+#include "platform/quiet.h"
 #include "shell/events.h"
 #include "shell/view.h"
 #include "ui_Form1.h"
@@ -22,7 +23,8 @@ struct Program {
     }();
     QtWindow window{view, [this](const Event& event) { deliver(form1, event); }};
     QtDialogs dialogs{view};
-    Form1 form1{form.Canvas->surface(), window, dialogs};
+    QuietWindow output;
+    Form1 form1{form.Canvas->surface(), window, dialogs, output};
 
     Program()
     {

@@ -1,5 +1,8 @@
 #include "canvas/canvas_state.h"
 
+#include "circuit/output_window.h"
+#include "circuit/supply_panel.h"
+
 void load(Form1& form)
 {
     form.controls.setCaption(" - Schemlet 2.0 "
@@ -7,9 +10,14 @@ void load(Form1& form)
     form.confirm.fill(1);
     form.canvasBackColor = white;
     form.wireColor = black;
+    colorPanel(form);
     form.eraseMode = 0;
+    clearOptions(form);
     form.resist = form.induc = form.capac = 0;
-    form.supplyVoltage = form.supplyCurrent = 0;
+    form.supplyVoltage = form.supplyCurrent = form.supplyValue = 0;
+    form.batteryPositive = form.batteryNegative = 0;
+    form.resonanceDenominator = form.resonanceFrequency = form.qualityFactor = 0;
+    form.frequencyCopy = form.angularFrequency = form.frequencyCapac = form.capacitiveReactance = 0;
     form.diodeCount = 0;
     form.blinkCount = 0;
     form.controls.setText(control::sb, " Press F1 for Help ");
@@ -20,6 +28,7 @@ void load(Form1& form)
     form.savedMark = 100;
     placeMarker(form, form.x);
     form.heading = heading::right;
+    refreshOutput(form);
 }
 
 void placeMarker(Form1& form, double left)

@@ -12,14 +12,33 @@ namespace control {
 inline constexpr Name Picture1 = "Picture1"; ///< the pen marker
 inline constexpr Name Shape1 = "Shape1";     ///< the eraser's outline
 inline constexpr Name Label27 = "Label27";   ///< says that erase mode is on
-inline constexpr Name rc = "rc";             ///< the right-click menu
-inline constexpr Name sb = "sb";             ///< panel 1 of the status bar, the hint
+inline constexpr Name Canvas = "Canvas";
+inline constexpr Name rc = "rc"; ///< the right-click menu
+inline constexpr Name sb = "sb"; ///< panel 1 of the status bar, the hint
 inline constexpr Name sbPen = "sbPen";
 inline constexpr Name sbHeading = "sbHeading";
 inline constexpr Name sbTool = "sbTool";
 inline constexpr Name sbErase = "sbErase";
 inline constexpr Name statusTimer = "statusTimer";
 inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
+
+// The panel of supplies and batteries
+inline constexpr Name panel = "panel"; ///< the box around all of it
+inline constexpr Name sup = "sup";
+inline constexpr Name bat = "bat";
+inline constexpr Name Label11 = "Label11";   ///< asks for the kind of supply
+inline constexpr Name Label13 = "Label13";   ///< asks for the kind of battery
+inline constexpr Name Label12 = "Label12";   ///< asks for the value, in sup
+inline constexpr Name Label28 = "Label28";   ///< asks for the value, in bat
+inline constexpr Name Option1 = "Option1";   ///< neither of the kinds; its switches are kept, but it is never seen
+inline constexpr Name Option2 = "Option2";   ///< current supply
+inline constexpr Name Option3 = "Option3";   ///< voltage supply
+inline constexpr Name Option4 = "Option4";   ///< positive battery
+inline constexpr Name Option5 = "Option5";   ///< negative battery
+inline constexpr Name Text11 = "Text11";     ///< the value
+inline constexpr Name Command3 = "Command3"; ///< draws
+inline constexpr Name Command7 = "Command7"; ///< cancels, in bat
+inline constexpr Name Command8 = "Command8"; ///< cancels, in sup
 } // namespace control
 
 /// Directions of the pen. A heading variable may hold other numbers too; nothing is drawn for those.
@@ -97,9 +116,24 @@ struct CanvasState {
     std::string resistValue; ///< the texts last entered
     std::string inductValue;
     std::string capacValue;
-    double supplyVoltage = 0; ///< volt
-    double supplyCurrent = 0; ///< ampere
-    int diodeCount = 0;       ///< PN and NP diodes placed
+    double supplyValue = 0;     ///< the number typed last for a source
+    double supplyVoltage = 0;   ///< sum of the voltage supplies, volt
+    double supplyCurrent = 0;   ///< sum of the current supplies, ampere
+    double batteryPositive = 0; ///< the last battery of each kind; batteries are not summed
+    double batteryNegative = 0;
+    Name lastFamily{}; ///< the frame of the panel that was opened last
+
+    // What the Output window showed last, as far as it could be computed.
+    double resonanceDenominator = 0;
+    double resonanceFrequency = 0;
+    double qualityFactor = 0;
+    double frequencyCopy = 0;
+    double angularFrequency = 0;
+    double frequencyCapac = 0;
+    double capacitiveReactance = 0;
+    int form4Loaded = 0; ///< 1 once the Output window was touched
+
+    int diodeCount = 0; ///< PN and NP diodes placed
 
     // The button that closed a symbol's question last.
     int andAnswer = 0, orAnswer = 0, notAnswer = 0, norAnswer = 0, nandAnswer = 0, exorAnswer = 0, exnorAnswer = 0;
@@ -116,11 +150,15 @@ struct CanvasState {
 
 /// What every command gets: the state and the way to the screen.
 struct Form1 : CanvasState {
-    Form1(Surface& canvas, Window& window, Dialogs& boxes) : surface(canvas), controls(window), dialogs(boxes) {}
+    Form1(Surface& canvas, Window& window, Dialogs& boxes, Window& output)
+        : surface(canvas), controls(window), dialogs(boxes), form4(output)
+    {
+    }
 
     Surface& surface;
     Window& controls;
     Dialogs& dialogs;
+    Window& form4; ///< the Output window
 };
 
 /// The one shape of every command.
@@ -129,7 +167,8 @@ using Handler = void (*)(Form1&);
 /// How far the marker's top stands above the pen, in twips.
 inline constexpr double markerRise = 300;
 
-/// Sets the main window's variables to their start values, puts the pen at its start and the marker with it. What it
+/// Sets the main window's variables to their start values, puts the pen at its start and the marker with it, and fills
+/// the Output window from the zeros, without showing it. What it
 /// does not assign stays: family colours, tools, automatic jumpers.
 void load(Form1& form);
 

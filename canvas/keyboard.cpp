@@ -1,6 +1,7 @@
 #include "canvas/keyboard.h"
 
 #include "canvas/jumper_ground.h"
+#include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "platform/event.h"
 
@@ -28,8 +29,8 @@ struct Letter {
     Handler handler;
 };
 
-constexpr Letter letters[] = {
-    {'R', resistanc}, {'J', toggleAutoJumper}, {'I', inductanc}, {'C', capacitanc}, {'E', eraser1}};
+constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', suppl},  {'B', batter},
+                              {'I', inductanc}, {'C', capacitanc},       {'E', eraser1}};
 
 constexpr int stepLength = 50; // twips a key press
 constexpr int dotSpacing = 10;

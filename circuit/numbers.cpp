@@ -3,6 +3,8 @@
 #include "platform/runtime_error.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <locale>
 #include <sstream>
@@ -53,11 +55,17 @@ std::size_t numberLength(std::string_view text)
     return length;
 }
 
-std::string_view withoutBlanks(std::string_view text)
+std::string_view withoutLeadingBlanks(std::string_view text)
 {
     while (!text.empty() && isBlank(text.front())) {
         text.remove_prefix(1);
     }
+    return text;
+}
+
+std::string_view withoutBlanks(std::string_view text)
+{
+    text = withoutLeadingBlanks(text);
     while (!text.empty() && isBlank(text.back())) {
         text.remove_suffix(1);
     }
@@ -89,10 +97,37 @@ double toNumber(std::string_view text)
     return parsed(number);
 }
 
+double leadingNumber(std::string_view text)
+{
+    const std::string_view rest = withoutLeadingBlanks(text);
+    const std::size_t length = numberLength(rest);
+    return length == 0 ? 0 : parsed(rest.substr(0, length));
+}
+
+std::string toText(double number)
+{
+    constexpr int digits = 15;      // all that a double holds of a decimal number for certain
+    std::array<char, 32> written{}; // a sign, 15 digits, a point, four leading zeros or an exponent
+    const auto end =
+        std::to_chars(written.begin(), written.end(), number == 0 ? 0 : number, std::chars_format::general, digits).ptr;
+    std::replace(written.begin(), end, 'e', 'E');
+    return {written.begin(), end};
+}
+
 double checked(double result)
 {
     if (!std::isfinite(result)) {
-        throw RuntimeError(Fault::overflow, "Overflow\n\nThe total would be too large.");
+        throw RuntimeError(Fault::overflow, "Overflow\n\nThe result would be too large.");
     }
     return result;
+}
+
+double squareRoot(double number)
+{
+    if (number < 0) {
+        throw RuntimeError(Fault::invalidArgument,
+                           "Invalid argument\n\nA negative number has no square root. Were values of opposite signs "
+                           "entered?");
+    }
+    return std::sqrt(number);
 }

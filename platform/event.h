@@ -11,6 +11,12 @@ inline constexpr int right = 39;
 inline constexpr int down = 40;
 } // namespace key
 
+/// Characters of keys that do something in a control instead of typing.
+namespace character {
+inline constexpr int enter = 13;
+inline constexpr int escape = 27;
+} // namespace character
+
 /// Mouse buttons: one of them for a press or a release, their sum for a move.
 namespace button {
 inline constexpr int left = 1;
@@ -23,7 +29,8 @@ struct Event {
     enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, tick };
 
     Kind kind;
-    Name name{};  ///< the menu item that was clicked or the timer that ticked
+    Name window = mainWindow;
+    Name name{};  ///< what was clicked or ticked; of a keyPress, the control that took it, none for the canvas
     int code = 0; ///< keyDown: a key; keyPress: a character (Unicode); mouse: button or buttons
     float x = 0;  ///< mouse: the place on the canvas, in twips
     float y = 0;

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "platform/surface.h"
+
+#include <initializer_list>
+#include <string>
 #include <string_view>
 
 /// The name of a control, a menu item or a timer. Always one of the program's constants, so that it may be kept.
 using Name = std::string_view;
+
+inline constexpr Name mainWindow = "Form1";
 
 enum class Look {
     plain,
@@ -24,7 +30,10 @@ public:
     virtual ~Window() = default;
 
     virtual void setCaption(std::string_view title) = 0;
+    /// Shows it beside the others, which stay usable, or brings it to the front.
     virtual void showWindow() = 0;
+    /// Prints the window's image on the default printer. Throws printerError.
+    virtual void printForm() = 0;
 
     /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;
@@ -35,11 +44,28 @@ public:
 
     virtual void setVisible(Name control, bool visible) = 0;
     [[nodiscard]] virtual bool visible(Name control) const = 0;
+    virtual void setEnabled(Name control, bool enabled) = 0;
+    /// Gives a control the keyboard, with its text selected if it has one.
+    virtual void focus(Name control) = 0;
     virtual void setText(Name control, std::string_view text) = 0;
+    [[nodiscard]] virtual std::string text(Name control) const = 0;
+    /// 1 for an option button that is chosen, else 0. Setting it is no click.
+    virtual void setValue(Name control, int value) = 0;
+    [[nodiscard]] virtual int value(Name control) const = 0;
+    /// Paints a control's ground, and its text so that it is readable there.
+    virtual void setBackColor(Name control, Color color) = 0;
     /// Places a control that lies on the canvas; twips, any distance beyond the edges included.
     virtual void setLeft(Name control, double twips) = 0;
     virtual void setTop(Name control, double twips) = 0;
+    /// Puts a control into the corner of the canvas that is farthest from a place, in twips.
+    virtual void placeAwayFrom(Name control, double x, double y) = 0;
 
     /// Starts a timer that ticks until its interval is set to 0.
     virtual void setInterval(Name timer, int milliseconds) = 0;
+
+    // The same for several controls, in the order given.
+    void show(std::initializer_list<Name> controls);
+    void hide(std::initializer_list<Name> controls);
+    void enable(std::initializer_list<Name> controls);
+    void disable(std::initializer_list<Name> controls);
 };

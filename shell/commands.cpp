@@ -3,6 +3,8 @@
 #include "canvas/jumper_ground.h"
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "circuit/output_window.h"
+#include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
@@ -29,10 +31,14 @@ constexpr Command menu[] = {
         {1, {"linee", "&Line", "Ctrl+L"}, linee}, {1, separator},
         {1, {"ground", "&Ground", "Ctrl+G"}, ground}, {1, separator},
         {1, {"jumper", "Jumper", "Ctrl+J"}, jumper},
+    {0, {"view", " &View "}},
+        {1, {"output", "&Output", "Ctrl+U"}, output},
     {0, {"electricalcomponents", " &Electrical Components "}},
         {1, {"resistance", "&Resistance"}, resistanc}, {1, separator},
         {1, {"inductance", "&Inductance"}, inductanc}, {1, separator},
         {1, {"capacitance", "&Capacitance"}, capacitanc}, {1, separator},
+        {1, {"supply", "&Supply"}, suppl}, {1, separator},
+        {1, {"battery", "&Battery"}, batter}, {1, separator},
         {1, {"motor", "&Motors"}},
             {2, {"acmotor", "&A.C Motor"}, acmotor}, {2, separator},
             {2, {"dcmotor", "&D.C Motor"}, dcmotor}, {1, separator},
@@ -86,6 +92,19 @@ constexpr Command menu[] = {
 };
 // clang-format on
 
+struct Clickable {
+    Name window;
+    Name name;
+    Handler handler;
+};
+
+constexpr Clickable controls[] = {
+    {mainWindow, control::Option2, Option2},   {mainWindow, control::Option3, Option3},
+    {mainWindow, control::Option4, Option4},   {mainWindow, control::Option5, Option5},
+    {mainWindow, control::Command3, Command3}, {mainWindow, control::Command7, Command7},
+    {mainWindow, control::Command8, Command8}, {form4::window, form4::print, form4::printForm},
+};
+
 } // namespace
 
 void addMenus(Form1& form)
@@ -95,10 +114,15 @@ void addMenus(Form1& form)
     }
 }
 
-void runCommand(Form1& form, Name item)
+void runCommand(Form1& form, Name window, Name name)
 {
-    const auto* const command = std::ranges::find(menu, item, [](const Command& row) { return row.item.name; });
-    if (command != std::end(menu) && command->handler != nullptr) {
+    const auto* const control =
+        std::ranges::find_if(controls, [&](const Clickable& row) { return row.window == window && row.name == name; });
+    if (control != std::end(controls)) {
+        return control->handler(form);
+    }
+    const auto* const command = std::ranges::find(menu, name, [](const Command& row) { return row.item.name; });
+    if (window == mainWindow && command != std::end(menu) && command->handler != nullptr) {
         command->handler(form);
     }
 }

@@ -12,5 +12,5 @@ struct Command {
 /// Builds the main window's menus, the popup menu included.
 void addMenus(Form1& form);
 
-/// Runs the command of the menu item with this name.
-void runCommand(Form1& form, Name item);
+/// Runs the command of a menu item or of a control in one of the windows.
+void runCommand(Form1& form, Name window, Name name);

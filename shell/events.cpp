@@ -2,6 +2,7 @@
 
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "circuit/supply_panel.h"
 #include "platform/runtime_error.h"
 #include "shell/commands.h"
 #include "shell/view.h"
@@ -17,15 +18,25 @@ void tick(Form1& form, Name timer)
     }
 }
 
+void panelKey(Form1& form, Name control, int character)
+{
+    if (control == control::Text11 && character == character::enter) {
+        Command3(form);
+    } else if (control == control::panel && character == character::escape) {
+        cancelPanel(form);
+    }
+}
+
 void dispatch(Form1& form, const Event& event)
 {
     switch (event.kind) {
     case Event::Kind::keyDown: return keyDown(form, event.code);
-    case Event::Kind::keyPress: return keyPress(form, event.code);
+    case Event::Kind::keyPress:
+        return event.name.empty() ? keyPress(form, event.code) : panelKey(form, event.name, event.code);
     case Event::Kind::mouseDown: return mouseDown(form, event.code, event.x, event.y);
     case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
     case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
-    case Event::Kind::click: return runCommand(form, event.name);
+    case Event::Kind::click: return runCommand(form, event.window, event.name);
     case Event::Kind::tick: return tick(form, event.name);
     }
 }

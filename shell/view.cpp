@@ -33,13 +33,21 @@ std::string wholeTwips(double twips)
     return std::to_string(static_cast<long long>(twips));
 }
 
+/// What starts hidden or disabled.
+void prepareControls(Form1& form)
+{
+    using namespace control;
+    form.controls.hide({Label27, Shape1, panel, sup, bat, Label11, Label13, Label12, Label28});
+    form.controls.hide({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
+    form.controls.disable({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
+}
+
 } // namespace
 
 void openMainWindow(Form1& form)
 {
     addMenus(form);
-    form.controls.setVisible(control::Label27, false);
-    form.controls.setVisible(control::Shape1, false);
+    prepareControls(form);
     load(form);
     showStatus(form);
     form.controls.showWindow();

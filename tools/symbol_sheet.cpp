@@ -4,8 +4,10 @@
 //   symbol_sheet --check FILE    compares with it; a differing sheet is written beside the program
 
 #include "canvas/jumper_ground.h"
+#include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "platform/qt/qt_surface.h"
+#include "platform/quiet.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -31,6 +33,13 @@ struct Entry {
     std::initializer_list<int> headings;
 };
 
+/// A source, as if it had been chosen in the panel.
+template <const Name& kind> void draw(Form1& form)
+{
+    form.controls.setValue(kind, 1);
+    Command3(form);
+}
+
 constexpr auto once = {heading::right}; // the symbol draws the same for every heading, or for this one alone
 constexpr auto fourWays = {heading::right, heading::left, heading::up, heading::down};
 
@@ -52,6 +61,10 @@ const Entry entries[] = {
     {"Resistance", resistanc, fourWays},
     {"Inductance", inductanc, fourWays},
     {"Capacitance", capacitanc, fourWays},
+    {"Positive battery", draw<control::Option4>, fourWays},
+    {"Negative battery", draw<control::Option5>, fourWays},
+    {"Voltage supply", draw<control::Option3>, fourWays},
+    {"Current supply", draw<control::Option2>, fourWays},
     {"Op-amp", opamp, once},
     {"Field", field, once},
     {"NPN common emitter", emitter, once},
@@ -75,33 +88,6 @@ const Entry entries[] = {
     {"Center tapped transformer", centertapped, once},
 };
 
-/// A window and boxes for nobody to see.
-struct NoWindow final : Window {
-    void setCaption(std::string_view /*title*/) override {}
-    void showWindow() override {}
-    void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
-    void popUp(Name /*menu*/) override {}
-    void setChecked(Name /*item*/, bool /*checked*/) override {}
-    [[nodiscard]] bool checked(Name /*item*/) const override { return false; }
-    void setVisible(Name /*control*/, bool /*visible*/) override {}
-    [[nodiscard]] bool visible(Name /*control*/) const override { return false; }
-    void setText(Name /*control*/, std::string_view /*text*/) override {}
-    void setLeft(Name /*control*/, double /*twips*/) override {}
-    void setTop(Name /*control*/, double /*twips*/) override {}
-    void setInterval(Name /*timer*/, int /*milliseconds*/) override {}
-};
-
-struct NoDialogs final : Dialogs {
-    int messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view /*title*/) override
-    {
-        return answer::no;
-    }
-    std::string inputBox(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view preset) override
-    {
-        return std::string(preset);
-    }
-};
-
 /// One symbol on paper of its own, in pixels.
 struct Drawing {
     QImage image;
@@ -115,9 +101,9 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPoint pen)
     surface.growTo(paper);
     Drawing drawing;
     surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
-    NoWindow window;
-    NoDialogs dialogs;
-    Form1 form(surface, window, dialogs); // all switches off: nothing asks
+    QuietWindow window;
+    QuietDialogs dialogs;
+    Form1 form(surface, window, dialogs, window); // all switches off: nothing asks
     form.heading = heading;
     form.x = pen.x() * twipsPerPixel;
     form.y = pen.y() * twipsPerPixel;

@@ -2,7 +2,7 @@
 
 #include "platform/qt/text.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -51,9 +51,15 @@ private:
 
 } // namespace
 
+QWidget* QtDialogs::front() const
+{
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr ? active : &m_owner;
+}
+
 int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
 {
-    QMessageBox box(&m_owner);
+    QMessageBox box(front());
     box.setWindowTitle(toQString(title));
     box.setText(toQString(prompt));
     box.setTextFormat(Qt::PlainText);
@@ -73,7 +79,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
 
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
 {
-    QInputDialog box(&m_owner);
+    QInputDialog box(front());
     box.setWindowTitle(toQString(title));
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));

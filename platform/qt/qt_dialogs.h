@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// Boxes in front of one window.
+/// Boxes in front of the program's windows.
 class QtDialogs final : public Dialogs {
 public:
     explicit QtDialogs(QWidget& owner) : m_owner(owner) {}
@@ -13,5 +13,8 @@ public:
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
 
 private:
+    /// The window that the user is in: the box belongs to it and gives the keyboard back to it.
+    [[nodiscard]] QWidget* front() const;
+
     QWidget& m_owner;
 };

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_surface.h"
 
+#include "platform/qt/colors.h"
 #include "platform/qt/text.h"
 
 #include <QFontMetrics>
@@ -16,18 +17,6 @@ double toPixels(double twips)
 ink::Place toPlace(float x, float y)
 {
     return {toPixels(x), toPixels(y)};
-}
-
-/// Colours carry red in the lowest byte, image pixels blue.
-QRgb swapped(Color color)
-{
-    return qRgb(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
-                static_cast<int>(color >> 16 & 0xFF));
-}
-
-Color swapped(const QColor& pixel)
-{
-    return static_cast<Color>(pixel.red() | pixel.green() << 8 | pixel.blue() << 16);
 }
 
 } // namespace
@@ -112,12 +101,12 @@ std::optional<Color> QtSurface::point(float x, float y) const
     if (column < 0 || row < 0 || column >= m_image.width() || row >= m_image.height()) {
         return {};
     }
-    return swapped(m_image.pixelColor(static_cast<int>(column), static_cast<int>(row)));
+    return toColor(m_image.pixelColor(static_cast<int>(column), static_cast<int>(row)));
 }
 
 void QtSurface::setForeColor(Color color)
 {
-    m_foreColor = swapped(color);
+    m_foreColor = toQColor(color).rgb();
 }
 
 ink::Image QtSurface::pixels()

@@ -2,13 +2,17 @@
 
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/colors.h"
+#include "platform/qt/panel_keys.h"
+#include "platform/qt/printing.h"
 #include "platform/qt/text.h"
-#include "platform/surface.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QMainWindow>
+#include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -22,34 +26,85 @@ int toPixels(double twips)
     return static_cast<int>(std::lround(twips / twipsPerPixel));
 }
 
-/// What the form says of a label in properties of our own.
-void applyFormProperties(QLabel& label)
+/// The relative luminance of a colour, 0 to 1, as the web's contrast guidelines define it.
+double luminance(const QColor& color)
 {
-    // It keeps the size of the widest text it may show, which is its text in the form: a new text then repaints the
-    // label and lays out nothing.
-    if (label.property("fixedToText").toBool()) {
-        label.ensurePolished();
-        label.setFixedSize(label.sizeHint());
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Black or white, whichever stands out more.
+QColor readableOn(const QColor& ground)
+{
+    constexpr double equalContrast = 0.179;
+    return luminance(ground) > equalContrast ? Qt::black : Qt::white;
+}
+
+/// What the form says of a control in properties of our own.
+void applyFormProperties(QWidget& control)
+{
+    // A label keeps the size of the widest text it may show, which is its text in the form: a new text then repaints
+    // the label and lays out nothing.
+    if (control.property("fixedToText").toBool()) {
+        control.ensurePolished();
+        control.setFixedSize(control.sizeHint());
     }
     // It lies on the canvas, which gets the mouse all the same.
-    if (label.property("mouseGoesThrough").toBool()) {
-        label.setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (control.property("mouseGoesThrough").toBool()) {
+        control.setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    // The controls around it do not move when it is shown and hidden.
+    if (control.property("keepsItsPlace").toBool()) {
+        QSizePolicy policy = control.sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        control.setSizePolicy(policy);
     }
 }
 
 } // namespace
 
-QtWindow::QtWindow(QMainWindow& form, std::function<void(const Event&)> report)
-    : m_form(form), m_canvas(*form.findChild<CanvasWidget*>()), m_report(std::move(report))
+QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
+    : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),
+      m_report(std::move(report))
 {
-    for (QWidget* const control : form.findChildren<QWidget*>()) {
+    for (QObject* const control : form.findChildren<QObject*>()) {
         m_named.emplace(control->objectName().toStdString(), control);
     }
-    for (QLabel* const label : form.findChildren<QLabel*>()) {
-        applyFormProperties(*label);
+    for (QWidget* const control : form.findChildren<QWidget*>()) {
+        applyFormProperties(*control);
     }
-    m_canvas.report = m_report;
-    m_canvas.setFocus();
+    connectControls();
+    if (m_canvas != nullptr) {
+        m_canvas->report = [this](const Event& event) { this->report(event); };
+        m_canvas->setFocus();
+    }
+}
+
+void QtWindow::connectControls()
+{
+    for (const auto& [name, object] : m_named) {
+        if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
+            connect(button, &QAbstractButton::clicked, this,
+                    [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
+        } else if (auto* const text = qobject_cast<QLineEdit*>(object)) {
+            connect(text, &QLineEdit::returnPressed, this, [this, name = Name(name)] {
+                report({.kind = Event::Kind::keyPress, .name = name, .code = character::enter});
+            });
+        } else if (object->property("isPanel").toBool()) {
+            new PanelKeys(dynamic_cast<QWidget&>(*object), [this, name = Name(name)] {
+                report({.kind = Event::Kind::keyPress, .name = name, .code = character::escape});
+            });
+        }
+    }
+}
+
+void QtWindow::report(const Event& event) const
+{
+    Event named = event;
+    named.window = m_name;
+    m_report(named);
 }
 
 void QtWindow::setCaption(std::string_view title)
@@ -60,6 +115,13 @@ void QtWindow::setCaption(std::string_view title)
 void QtWindow::showWindow()
 {
     m_form.show();
+    m_form.raise();
+    m_form.activateWindow();
+}
+
+void QtWindow::printForm()
+{
+    printPicture(m_form.grab().toImage(), m_form.windowTitle());
 }
 
 void QtWindow::addMenuItem(int depth, const MenuItem& item)
@@ -78,7 +140,7 @@ void QtWindow::addMenuItem(int depth, const MenuItem& item)
         if (action->isCheckable()) {
             action->setChecked(!checked);
         }
-        m_report({.kind = Event::Kind::click, .name = name});
+        report({.kind = Event::Kind::click, .name = name});
     });
     menuAt(depth).addAction(action);
     m_lastItems.resize(static_cast<std::size_t>(depth));
@@ -88,7 +150,7 @@ void QtWindow::addMenuItem(int depth, const MenuItem& item)
 QWidget& QtWindow::menuAt(int depth)
 {
     if (depth == 0) {
-        return *m_form.menuBar();
+        return *m_form.findChild<QMenuBar*>();
     }
     QAction& parent = *m_lastItems.at(static_cast<std::size_t>(depth) - 1);
     if (parent.menu() == nullptr) {
@@ -115,7 +177,7 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event)
         const auto& release = dynamic_cast<const QMouseEvent&>(*event);
         if (m_owedReleases.testFlag(release.button())) {
             m_owedReleases.setFlag(release.button(), false);
-            m_canvas.reportRelease(release.button(), m_canvas.mapFromGlobal(release.globalPosition()));
+            m_canvas->reportRelease(release.button(), m_canvas->mapFromGlobal(release.globalPosition()));
         }
     }
     return QObject::eventFilter(watched, event);
@@ -133,19 +195,73 @@ bool QtWindow::checked(Name item) const
 
 void QtWindow::setVisible(Name control, bool visible)
 {
-    find<QWidget>(control).setVisible(visible);
+    if (auto* const action = findIf<QAction>(control)) {
+        action->setVisible(visible);
+    } else {
+        find<QWidget>(control).setVisible(visible);
+    }
 }
 
 bool QtWindow::visible(Name control) const
 {
+    if (const auto* const action = findIf<QAction>(control)) {
+        return action->isVisible();
+    }
     const auto& widget = find<QWidget>(control);
     const auto* const picture = qobject_cast<const BlinkingPicture*>(&widget);
     return picture != nullptr ? picture->isOn() : !widget.isHidden();
 }
 
+void QtWindow::setEnabled(Name control, bool enabled)
+{
+    if (auto* const action = findIf<QAction>(control)) {
+        action->setEnabled(enabled);
+    } else {
+        find<QWidget>(control).setEnabled(enabled);
+    }
+}
+
+void QtWindow::focus(Name control)
+{
+    find<QWidget>(control).setFocus(Qt::TabFocusReason); // for this reason a text box selects its text
+}
+
 void QtWindow::setText(Name control, std::string_view text)
 {
-    find<QLabel>(control).setText(toQString(text));
+    if (auto* const box = findIf<QLineEdit>(control)) {
+        box->setText(toQString(text));
+    } else {
+        find<QLabel>(control).setText(toQString(text));
+    }
+}
+
+std::string QtWindow::text(Name control) const
+{
+    return find<QLineEdit>(control).text().toStdString();
+}
+
+void QtWindow::setValue(Name control, int value)
+{
+    auto& button = find<QAbstractButton>(control);
+    // The chosen one of a group cannot be taken back while it is exclusive.
+    const bool exclusive = button.autoExclusive();
+    button.setAutoExclusive(false);
+    button.setChecked(value != 0);
+    button.setAutoExclusive(exclusive);
+}
+
+int QtWindow::value(Name control) const
+{
+    return find<QAbstractButton>(control).isChecked() ? 1 : 0;
+}
+
+void QtWindow::setBackColor(Name control, Color color)
+{
+    const QColor ground = toQColor(color);
+    QPalette palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, readableOn(ground));
+    find<QWidget>(control).setPalette(palette);
 }
 
 void QtWindow::setLeft(Name control, double twips)
@@ -160,11 +276,19 @@ void QtWindow::setTop(Name control, double twips)
     widget.move(widget.x(), toPixels(twips));
 }
 
+void QtWindow::placeAwayFrom(Name control, double x, double y)
+{
+    auto& widget = find<QWidget>(control);
+    const Qt::Alignment side = x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft;
+    const Qt::Alignment end = y / twipsPerPixel < m_canvas->height() / 2.0 ? Qt::AlignBottom : Qt::AlignTop;
+    widget.parentWidget()->layout()->setAlignment(&widget, side | end);
+}
+
 void QtWindow::setInterval(Name timer, int milliseconds)
 {
     if (!m_named.contains(timer)) {
         auto* const made = new QTimer(this);
-        connect(made, &QTimer::timeout, this, [this, timer] { m_report({.kind = Event::Kind::tick, .name = timer}); });
+        connect(made, &QTimer::timeout, this, [this, timer] { report({.kind = Event::Kind::tick, .name = timer}); });
         addNamed(timer, *made);
     }
     auto& ticking = find<QTimer>(timer);
@@ -175,10 +299,15 @@ void QtWindow::setInterval(Name timer, int milliseconds)
     }
 }
 
-template <typename Kind> Kind& QtWindow::find(Name name) const
+template <typename Kind> Kind* QtWindow::findIf(Name name) const
 {
     const auto found = m_named.find(name);
-    auto* const object = found == m_named.end() ? nullptr : qobject_cast<Kind*>(found->second);
+    return found == m_named.end() ? nullptr : qobject_cast<Kind*>(found->second);
+}
+
+template <typename Kind> Kind& QtWindow::find(Name name) const
+{
+    auto* const object = findIf<Kind>(name);
     if (object == nullptr) {
         qFatal("No such control: %.*s", static_cast<int>(name.size()), name.data());
     }

@@ -11,40 +11,52 @@
 
 class CanvasWidget;
 class QAction;
-class QMainWindow;
-class QMenu;
 class QWidget;
 
-/// A window made from a form: its controls are found by their object names, its menus are built from rows.
+/// A window made from a form: its controls are found by their object names, its menus are built from rows. Menus, the
+/// popup menu and places on the canvas are for the form with the canvas.
 class QtWindow final : public QObject, public Window {
     Q_OBJECT
 
 public:
     /// The form's controls must be set up. Every event of the window goes to report.
-    QtWindow(QMainWindow& form, std::function<void(const Event&)> report);
+    QtWindow(QWidget& form, std::function<void(const Event&)> report);
 
     void setCaption(std::string_view title) override;
     void showWindow() override;
+    void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void popUp(Name menu) override;
     void setChecked(Name item, bool checked) override;
     [[nodiscard]] bool checked(Name item) const override;
     void setVisible(Name control, bool visible) override;
     [[nodiscard]] bool visible(Name control) const override;
+    void setEnabled(Name control, bool enabled) override;
+    void focus(Name control) override;
     void setText(Name control, std::string_view text) override;
+    [[nodiscard]] std::string text(Name control) const override;
+    void setValue(Name control, int value) override;
+    [[nodiscard]] int value(Name control) const override;
+    void setBackColor(Name control, Color color) override;
     void setLeft(Name control, double twips) override;
     void setTop(Name control, double twips) override;
+    void placeAwayFrom(Name control, double x, double y) override;
     void setInterval(Name timer, int milliseconds) override;
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void connectControls();
+    void report(const Event& event) const;
+    /// The object with this name if it is of this kind, else null.
+    template <typename Kind> [[nodiscard]] Kind* findIf(Name name) const;
     template <typename Kind> [[nodiscard]] Kind& find(Name name) const;
     void addNamed(Name name, QObject& object);
     [[nodiscard]] QWidget& menuAt(int depth);
 
-    QMainWindow& m_form;
-    CanvasWidget& m_canvas;
+    QWidget& m_form;
+    CanvasWidget* m_canvas; ///< null in a form without one
+    std::string m_name;
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
     std::vector<QAction*> m_lastItems; ///< the last menu row of each depth

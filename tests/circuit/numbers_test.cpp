@@ -41,6 +41,44 @@ TEST(ToNumber, TakesNumbersWithAPointAndNothingElse)
     EXPECT_EQ(faultOf(std::string(1'000'000, '1') + "x"), Fault::typeMismatch);
 }
 
+TEST(LeadingNumber, IsTheLongestOneAtTheStart)
+{
+    const std::pair<const char*, double> texts[] = {
+        {"", 0},      {"abc", 0}, {"12", 12}, {" 12V", 12},  {"1,5", 1},    {"5 ohm", 5}, {"-2.5e3x", -2500},
+        {"1e", 1},    {"1e+", 1}, {".", 0},   {"-", 0},      {".5.5", 0.5}, {"0x10", 0},  {"nan", 0},
+        {"1 000", 1}, {"e5", 0},  {"--1", 0}, {"1e-999", 0},
+    };
+    for (const auto& [text, number] : texts) {
+        EXPECT_EQ(leadingNumber(text), number) << text;
+    }
+    EXPECT_THROW((void)leadingNumber("1e999V"), RuntimeError);
+    EXPECT_THROW((void)leadingNumber(std::string(1'000'000, '9')), RuntimeError);
+}
+
+TEST(ToText, IsAsShortAsFifteenDigitsAllow)
+{
+    const std::pair<double, const char*> numbers[] = {
+        {0, "0"},
+        {-0.0, "0"},
+        {10, "10"},
+        {-4, "-4"},
+        {0.2, "0.2"},
+        {0.1 + 0.2, "0.3"},
+        {1.0 / 3, "0.333333333333333"},
+        {1e14, "100000000000000"},
+        {1e15, "1E+15"},
+        {-1.5e300, "-1.5E+300"},
+        {0.0001, "0.0001"},
+        {0.00001, "1E-05"},
+        {123456789.125, "123456789.125"},
+        {5e-324, "4.94065645841247E-324"},
+        {-1.23456789012345e-308, "-1.23456789012345E-308"},
+    };
+    for (const auto& [number, text] : numbers) {
+        EXPECT_EQ(toText(number), text);
+    }
+}
+
 TEST(Numbers, DoNotCareForTheLocale)
 {
     struct Comma : std::numpunct<char> {
@@ -51,5 +89,7 @@ TEST(Numbers, DoNotCareForTheLocale)
     const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Comma));
     EXPECT_EQ(toNumber("1234.5"), 1234.5);
     EXPECT_EQ(faultOf("1234,5"), Fault::typeMismatch);
+    EXPECT_EQ(leadingNumber("1234.5V"), 1234.5);
+    EXPECT_EQ(toText(1234.5), "1234.5");
     std::locale::global(before);
 }

@@ -38,6 +38,16 @@ void end(QProcess& process)
     }
 }
 
+/// Where a window is on the screen, without its frame.
+QRect placeOf(const QString& window)
+{
+    const QString place = outputOf("xwininfo", {"-id", window});
+    const auto number = [&](const char* label) {
+        return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
+    };
+    return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"), number("Height:")};
+}
+
 QImage grab(const QRect& part)
 {
     return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
@@ -78,8 +88,8 @@ Program::Program()
         m_window = outputOf("xdotool", {"search", "--onlyvisible", "--name", "^ - Schemlet 2.0 "});
         return !m_window.isEmpty();
     });
-    xdotool({"windowmove", m_window, "40", "40", "windowactivate", m_window});
-    waitForMainWindow();
+    xdotool({"windowmove", m_window, "40", "40"});
+    activate();
     findCanvas();
 }
 
@@ -93,12 +103,7 @@ Program::~Program()
 void Program::findCanvas()
 {
     waitUntil("a white canvas under the menu bar", [this] {
-        const QString place = outputOf("xwininfo", {"-id", m_window});
-        const auto number = [&](const char* label) {
-            return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
-        };
-        const QRect window(number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
-                           number("Height:"));
+        const QRect window = placeOf(m_window);
         const QImage picture = grab(window);
         int top = 0;
         while (top < picture.height() && picture.pixelColor(1, top) != Qt::white) {
@@ -181,6 +186,28 @@ void Program::resize(int width, int height)
     });
 }
 
+void Program::activate()
+{
+    xdotool({"windowactivate", m_window});
+    waitForMainWindow();
+}
+
+QRect Program::panel() const
+{
+    const QImage picture = canvas();
+    const auto paper = [&](int x, int y) { return picture.pixelColor(x, y) == Qt::white; };
+    const QPoint corner(picture.width() - 3, picture.height() - 3);
+    int left = corner.x();
+    while (left > 0 && !paper(left, corner.y())) {
+        --left;
+    }
+    int top = corner.y();
+    while (top > 0 && !paper(corner.x(), top)) {
+        --top;
+    }
+    return left == corner.x() ? QRect() : QRect(QPoint(left, top), corner);
+}
+
 QImage Program::canvas() const
 {
     return grab(m_canvas);
@@ -196,6 +223,11 @@ void Program::waitForWindow(const QString& title)
     waitUntil(qPrintable(title), [&] {
         return outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title.trimmed();
     });
+}
+
+QImage Program::activeWindow() const
+{
+    return grab(placeOf(outputOf("xdotool", {"getactivewindow"})));
 }
 
 void Program::closeActiveWindow()

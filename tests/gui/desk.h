@@ -43,15 +43,23 @@ public:
     /// Presses the right button on clean paper and waits for the menu.
     void openPopup(int x, int y);
     void resize(int width, int height);
+    /// Brings the main window to the front.
+    void activate();
     void xdotool(const QStringList& words);
 
     [[nodiscard]] QImage canvas() const;
     [[nodiscard]] QColor pixel(int x, int y) const;
     [[nodiscard]] bool inked(int x, int y) const { return pixel(x, y) != Qt::white; }
 
+    /// Where the panel of supplies and batteries lies in the lower right corner of the canvas; invalid without it.
+    [[nodiscard]] QRect panel() const;
+
     /// Waits until a window with this title has the keyboard.
     void waitForWindow(const QString& title);
     void waitForMainWindow() { waitForWindow(" - Schemlet 2.0  New File "); }
+
+    /// What the window that has the keyboard shows, without its frame.
+    [[nodiscard]] QImage activeWindow() const;
 
     /// Closes the window that has the keyboard, as its frame does.
     void closeActiveWindow();

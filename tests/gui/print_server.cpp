@@ -151,7 +151,7 @@ void PrintServer::run(const QString& program, const QStringList& words)
     EXPECT_EQ(QProcess::execute("/usr/sbin/" + program, words), 0) << program.toStdString();
 }
 
-int PrintServer::waitingJobs()
+int PrintServer::waitingJobs() const
 {
     cups_job_t* jobs = nullptr;
     const int count = cupsGetJobs(&jobs, queue, 0, CUPS_WHICHJOBS_ACTIVE);
@@ -159,7 +159,7 @@ int PrintServer::waitingJobs()
     return count;
 }
 
-QStringList PrintServer::printedFiles()
+QStringList PrintServer::printedFiles() const
 {
     if (!QTest::qWaitFor([this] { return waitingJobs() == 0; }, patience)) {
         throw std::runtime_error("a job is never printed");
@@ -170,4 +170,10 @@ QStringList PrintServer::printedFiles()
         files << printed.filePath(name);
     }
     return files;
+}
+
+QImage printedPicture(const QString& file)
+{
+    EXPECT_EQ(QProcess::execute("pdfimages", {"-png", file, file}), 0);
+    return QImage(file + "-000.png").convertToFormat(QImage::Format_RGB32);
 }

@@ -1,18 +1,18 @@
 #pragma once
 
+#include <QImage>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A print service of our own with one queue, the default one, whose printer puts each job into a file. It has no
-/// network port and keeps to one folder, gone with this object. CUPS_SERVER shows this process and those it starts the
-/// way to it; afterwards it leads nowhere, so that no test ever reaches a real printer.
+/// A print service of our own with one queue, the default one, whose printer puts each job into a file. Its paper is
+/// A4, with margins of 18, 24, 24 and 36 points at the left, top, right and bottom. It has no network port and keeps to
+/// one folder, gone with this object. CUPS_SERVER shows this process and those it starts the way to it; afterwards it
+/// leads nowhere, so that no test ever reaches a real printer.
 class PrintServer {
 public:
     static constexpr auto queue = "Desk_Printer";
-    /// The paper is A4 upright; this is what its printer can print on, in points from the top-left corner.
-    static constexpr double left = 18, top = 24, right = 571, bottom = 806, width = 595, height = 842;
 
     PrintServer();
     ~PrintServer();
@@ -31,9 +31,10 @@ public:
     void end();
 
     /// How many jobs wait to be printed.
-    [[nodiscard]] int waitingJobs();
-    /// The printed files, oldest first, once no job is waiting any more.
-    [[nodiscard]] QStringList printedFiles();
+    [[nodiscard]] int waitingJobs() const;
+    /// The printed files, oldest first, once no job is waiting any more. A job another process is just about to send
+    /// must be waited for.
+    [[nodiscard]] QStringList printedFiles() const;
 
 private:
     void writeFiles() const;
@@ -42,3 +43,6 @@ private:
     QTemporaryDir m_folder;
     QProcess m_server;
 };
+
+/// The picture as it lies in a printed file, before any printer scales it.
+[[nodiscard]] QImage printedPicture(const QString& file);

@@ -1,4 +1,5 @@
 #include "tests/gui/desk.h"
+#include "tests/gui/print_server.h"
 
 #include <QGuiApplication>
 #include <gtest/gtest.h>
@@ -156,6 +157,102 @@ TEST(Program, ValueTypedOverThePresetIsPrintedBesideTheSymbolAndBadTextChangesNo
     EXPECT_FALSE(printedAt(153)); // "47", not "4710"
     program.keys({"Right", "Right"});
     waitUntil("wire from the far end", [&] { return program.inked(180, 100); });
+}
+
+TEST(Program, SourceIsChosenByMnemonicTypedAndDrawnByKeyboardAlone)
+{
+    Program program;
+    program.keys({"s"});
+    waitUntil("the panel", [&] { return program.panel().isValid(); });
+    program.keys({"Right"}); // the canvas still has the keyboard
+    waitUntil("wire", [&] { return program.inked(109, 100); });
+    program.keys({"alt+v", "1", "2", "Return"}); // Alt+V is the View menu's too
+    waitUntil("the circle",
+              [&] { return program.inked(109, 100) && program.inked(123, 87) && program.inked(123, 113); });
+    EXPECT_FALSE(program.panel().isValid());
+    program.keys({"Right", "Right"});
+    waitUntil("wire from the far end", [&] { return program.inked(141, 100); });
+
+    const QImage before = program.canvas();
+    program.keys({"b", "alt+n", "5", "Escape"});
+    waitUntil("no panel", [&] { return !program.panel().isValid(); });
+    program.keys({"Down"});
+    waitUntil("wire", [&] { return program.inked(143, 103); });
+    program.moveMouse(5, 5);
+    EXPECT_TRUE(before.copy(0, 0, 140, 300) == program.canvas().copy(0, 0, 140, 300));
+}
+
+TEST(Program, SourceIsChosenAndDrawnByMouse)
+{
+    Program program;
+    program.keys({"b"});
+    waitUntil("the panel", [&] { return program.panel().isValid(); });
+    const QRect panel = program.panel();
+    const auto clickIn = [&](double x, double y) {
+        program.click(1, panel.left() + static_cast<int>(panel.width() * x),
+                      panel.top() + static_cast<int>(panel.height() * y));
+    };
+    clickIn(0.12, 0.44); // Positive
+    program.keys({"9"});
+    clickIn(0.72, 0.61); // Cancel
+    waitUntil("no panel", [&] { return !program.panel().isValid(); });
+    program.keys({"b"});
+    waitUntil("the panel", [&] { return program.panel().isValid(); });
+    clickIn(0.12, 0.44);
+    program.keys({"9"});
+    clickIn(0.57, 0.44); // Negative instead
+    clickIn(0.85, 0.88); // OK
+    waitUntil("the plates", [&] { return program.inked(113, 110) && program.inked(106, 94); });
+    EXPECT_FALSE(program.inked(106, 112)); // the short plate comes first
+    EXPECT_FALSE(program.panel().isValid());
+    program.keys({"Right", "Right"});
+    waitUntil("wire from the far end", [&] { return program.inked(119, 100); });
+}
+
+TEST(Program, OutputWindowStaysUsableBesideTheMainWindow)
+{
+    Program program;
+    program.keys({"ctrl+u"});
+    program.waitForWindow("Output");
+    program.activate();
+    program.keys({"Right", "Right"});
+    waitUntil("wire", [&] { return program.inked(112, 100); });
+    program.keys({"ctrl+u"});
+    program.waitForWindow("Output");
+    program.keys({"Escape"});
+    program.waitForMainWindow();
+    program.keys({"Right", "Right"});
+    waitUntil("wire", [&] { return program.inked(118, 100); });
+}
+
+TEST(Program, OutputWindowPrintsItselfOnTheDefaultPrinter)
+{
+    PrintServer server;
+    Program program;
+    program.keys({"r"});
+    program.waitForWindow(" RESISTANCE ");
+    program.keys({"4", "7", "Return"});
+    program.waitForMainWindow();
+    program.keys({"ctrl+u"});
+    program.waitForWindow("Output");
+    program.keys({"alt+p"});
+    waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
+    const QImage printed = printedPicture(server.printedFiles().first());
+    const QImage window = program.activeWindow();
+    ASSERT_EQ(printed.size(), window.size());
+    int differing = 0;
+    for (int y = 0; y < window.height(); ++y) {
+        for (int x = 0; x < window.width(); ++x) {
+            differing += printed.pixel(x, y) == window.pixel(x, y) ? 0 : 1;
+        }
+    }
+    EXPECT_LT(differing, 100); // no more than a text cursor or a highlight
+
+    server.removeQueue();
+    program.keys({"alt+p"});
+    program.waitForWindow("Schemlet 2.0");
+    program.keys({"Return"});
+    program.waitForWindow("Output");
 }
 
 TEST(Program, MouseToolsDraw)

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTest>
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -48,7 +50,7 @@ TEST(QtWindow, HasEveryControlThatTheProgramNames)
 {
     const MainWindow main;
     for (const Name name : formControls) {
-        EXPECT_NE(main.view.findChild<QWidget*>(QString::fromLatin1(name.data())), nullptr) << name;
+        EXPECT_NE(main.view.findChild<QObject*>(QString::fromLatin1(name.data())), nullptr) << name;
     }
 }
 
@@ -101,7 +103,7 @@ TEST(QtWindow, ReportsTheReleaseThatThePopupMenuSwallowsAndNoOther)
     QMenu& menu = *main.view.findChild<QMenu*>("rcMenu");
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
     main.events.clear();
-    const QPoint outside(-50, -50);
+    const QPoint outside = menu.mapFromGlobal(main.view.frameGeometry().bottomRight() + QPoint(50, 50));
     QTest::mouseRelease(&menu, Qt::LeftButton, {}, outside);
     EXPECT_EQ(main.noted(), "");
     QTest::mouseRelease(&menu, Qt::RightButton, {}, outside);
@@ -130,6 +132,58 @@ TEST(QtWindow, KnowsWhatItWasToldToShow)
         EXPECT_FALSE(main.window->visible(name)) << name;
         main.window->setVisible(name, true);
         EXPECT_TRUE(main.window->visible(name)) << name;
+    }
+}
+
+TEST(QtWindow, TakesBackTheChosenOptionOfAGroupWithoutReportingAClick)
+{
+    MainWindow main;
+    main.window->setValue(control::Option4, 1);
+    EXPECT_EQ(main.window->value(control::Option4), 1);
+    main.window->setValue(control::Option4, 0);
+    EXPECT_EQ(main.window->value(control::Option4), 0);
+    EXPECT_EQ(main.noted(), "");
+    main.form.Option2->setEnabled(true);
+    main.form.Option2->click();
+    main.form.Option4->click(); // of another group
+    EXPECT_EQ(main.noted(), "click Option20\nclick Option40\n");
+    EXPECT_EQ(main.window->value(control::Option2), 1);
+}
+
+TEST(QtWindow, PanelFitsIntoTheSmallestWindowInTheCornerFarthestFromThePen)
+{
+    MainWindow main;
+    main.window->show({control::panel, control::sup, control::bat, control::Text11});
+    main.view.resize(1, 1);
+    QCoreApplication::processEvents();
+    const QRect canvas = main.form.Canvas->geometry();
+    for (const auto& [x, y, corner] : {std::tuple{1500, 1500, canvas.bottomRight()},
+                                       {90000, 1500, canvas.bottomLeft()},
+                                       {1500, 90000, canvas.topRight()},
+                                       {90000, 90000, canvas.topLeft()}}) {
+        main.window->placeAwayFrom(control::panel, x, y);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(canvas.contains(main.form.panel->geometry()));
+        EXPECT_TRUE(main.form.panel->geometry().contains(corner)) << x << ' ' << y;
+    }
+}
+
+TEST(QtWindow, PanelsTextIsReadableOnEveryColour)
+{
+    const MainWindow main;
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    for (int shade = 0; shade < 4096; ++shade) {
+        const auto color = static_cast<Color>((shade & 0xF00) << 12 | (shade & 0xF0) << 8 | (shade & 0xF) << 4);
+        main.window->setBackColor(control::sup, color);
+        const QPalette palette = main.form.Label12->palette();
+        const auto [dark, light] =
+            std::minmax({luminance(palette.color(QPalette::Window)), luminance(palette.color(QPalette::WindowText))});
+        ASSERT_GE((light + 0.05) / (dark + 0.05), 4.5) << color;
     }
 }
 

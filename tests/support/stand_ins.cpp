@@ -103,10 +103,12 @@ std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view 
     return text;
 }
 
-StandInWindow::StandInWindow()
+StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> more)
 {
-    for (const Name name : formControls) {
-        m_controls.emplace(name, Control{});
+    for (const auto& some : {names, more}) {
+        for (const Name name : some) {
+            m_controls.emplace(name, Control{});
+        }
     }
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "canvas/canvas_state.h"
+#include "circuit/output_window.h"
 
 #include <deque>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -60,23 +62,34 @@ private:
 };
 
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
-inline constexpr Name formControls[] = {control::Picture1, control::Shape1,    control::Label27, control::sb,
-                                        control::sbPen,    control::sbHeading, control::sbTool,  control::sbErase};
+inline constexpr Name formControls[] = {
+    control::Canvas,  control::Picture1,  control::Shape1,   control::Label27,  control::sb,
+    control::sbPen,   control::sbHeading, control::sbTool,   control::sbErase,  control::panel,
+    control::sup,     control::bat,       control::Label11,  control::Label12,  control::Label13,
+    control::Label28, control::Option1,   control::Option2,  control::Option3,  control::Option4,
+    control::Option5, control::Text11,    control::Command3, control::Command7, control::Command8};
 
 /// Keeps what was set last.
 class StandInWindow final : public Window {
 public:
     struct Control {
         bool visible = true;
+        bool enabled = true;
         bool checked = false;
+        int value = 0;
+        Color backColor = white;
         std::string text;
         double left = 0;
         double top = 0;
     };
 
-    StandInWindow();
+    explicit StandInWindow(std::span<const Name> names, std::span<const Name> more = {});
 
     std::string caption;
+    std::string focused; ///< the control that was given the keyboard last
+    Point placedAwayFrom;
+    int timesShown = 0;
+    int timesPrinted = 0;
     std::string poppedUp;
     std::map<std::string, int, std::less<>> intervals;
 
@@ -84,16 +97,24 @@ public:
     [[nodiscard]] Control& at(Name name);
 
     void setCaption(std::string_view title) override { caption = title; }
-    void showWindow() override {}
+    void showWindow() override { ++timesShown; }
+    void printForm() override { ++timesPrinted; }
     void addMenuItem(int depth, const MenuItem& item) override;
     void popUp(Name menu) override { poppedUp = menu; }
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
     [[nodiscard]] bool checked(Name item) const override { return m_controls.find(item)->second.checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
     [[nodiscard]] bool visible(Name control) const override { return m_controls.find(control)->second.visible; }
+    void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
+    void focus(Name control) override { focused = control; }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
+    [[nodiscard]] std::string text(Name control) const override { return m_controls.find(control)->second.text; }
+    void setValue(Name control, int value) override { at(control).value = value; }
+    [[nodiscard]] int value(Name control) const override { return m_controls.find(control)->second.value; }
+    void setBackColor(Name control, Color color) override { at(control).backColor = color; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
+    void placeAwayFrom(Name /*control*/, double x, double y) override { placedAwayFrom = {x, y}; }
     void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
 
 private:
@@ -103,9 +124,10 @@ private:
 /// The program as it stands right after start, without a toolkit.
 struct Bench {
     RecordingSurface surface;
-    StandInWindow window;
+    StandInWindow window{formControls};
     ScriptedDialogs dialogs;
-    Form1 form{surface, window, dialogs};
+    StandInWindow output{form4::captions, form4::values};
+    Form1 form{surface, window, dialogs, output};
 
     Bench();
 

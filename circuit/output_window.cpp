@@ -1,0 +1,86 @@
+#include "circuit/output_window.h"
+
+#include "circuit/numbers.h"
+
+namespace {
+
+constexpr double twoPi = 6.285714; // stands for two pi in every result, and must not be made more precise
+
+/// Once, when the window is first touched.
+void loadForm4(Form1& form)
+{
+    if (form.form4Loaded == 1) {
+        return;
+    }
+    form.form4Loaded = 1;
+    for (const Name value : form4::values) {
+        form.form4.setText(value, "0");
+    }
+}
+
+void showNumber(Form1& form, Name label, double number)
+{
+    form.form4.setText(label, toText(number));
+}
+
+void computeResonance(Form1& form)
+{
+    form.resonanceDenominator = checked(squareRoot(checked(form.induc * form.capac)) * twoPi);
+    if (form.resonanceDenominator != 0) {
+        form.resonanceFrequency = checked(1 / form.resonanceDenominator);
+        showNumber(form, form4::Label21, form.resonanceFrequency);
+    }
+}
+
+void computeQuality(Form1& form)
+{
+    form.qualityFactor = checked(squareRoot(checked(form.induc / form.capac)) * checked(1 / form.resist));
+    form.frequencyCopy = form.resonanceFrequency;
+    form.angularFrequency = checked(form.frequencyCopy * twoPi);
+    form.frequencyCapac = checked(form.frequencyCopy * form.capac);
+    form.capacitiveReactance = checked(1 / form.frequencyCapac); // kept, though nothing shows it
+    showNumber(form, form4::Label22, form.qualityFactor);
+    showNumber(form, form4::Label23, checked(form.induc * form.angularFrequency));
+    showNumber(form, form4::Label24, form.capac);
+}
+
+void computeOutput(Form1& form)
+{
+    showNumber(form, form4::Label18, form.resist);
+    showNumber(form, form4::Label19, form.induc);
+    showNumber(form, form4::Label20, form.capac == 0 ? 0 : checked(1 / form.capac));
+    if (form.capac != 0 || form.induc != 0) {
+        computeResonance(form);
+    }
+    if (form.resonanceFrequency != 0 && form.capac != 0 && form.resist != 0) {
+        computeQuality(form);
+    }
+    showNumber(form, form4::Label14, form.supplyVoltage);
+    showNumber(form, form4::Label15, form.supplyCurrent);
+}
+
+} // namespace
+
+void output(Form1& form)
+{
+    loadForm4(form);
+    for (const Name caption : form4::captions) {
+        form.form4.setVisible(caption, true);
+    }
+    for (const Name value : form4::values) {
+        form.form4.setVisible(value, true);
+    }
+    form.form4.showWindow();
+    computeOutput(form);
+}
+
+void refreshOutput(Form1& form)
+{
+    loadForm4(form);
+    computeOutput(form);
+}
+
+void form4::printForm(Form1& form)
+{
+    form.form4.printForm();
+}

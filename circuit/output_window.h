@@ -1,0 +1,51 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+// The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
+// there before. Formulas and the figure for two pi are the product's own: they take the sum of the capacitances'
+// reciprocals wherever a capacitance enters.
+
+/// The Output window and its controls.
+namespace form4 {
+inline constexpr Name window = "Form4";
+// Captions
+inline constexpr Name Label1 = "Label1";   ///< resistance
+inline constexpr Name Label29 = "Label29"; ///< its unit
+inline constexpr Name Label2 = "Label2";   ///< inductance
+inline constexpr Name Label3 = "Label3";   ///< capacitance
+inline constexpr Name Label4 = "Label4";   ///< resonance frequency
+inline constexpr Name Label5 = "Label5";   ///< quality factor
+inline constexpr Name Label6 = "Label6";   ///< inductive reactance
+inline constexpr Name Label7 = "Label7";   ///< capacitive reactance
+inline constexpr Name Label16 = "Label16"; ///< voltage
+inline constexpr Name Label17 = "Label17"; ///< current
+// Their values, in the same order
+inline constexpr Name Label18 = "Label18";
+inline constexpr Name Label19 = "Label19";
+inline constexpr Name Label20 = "Label20";
+inline constexpr Name Label21 = "Label21";
+inline constexpr Name Label22 = "Label22";
+inline constexpr Name Label23 = "Label23";
+inline constexpr Name Label24 = "Label24";
+inline constexpr Name Label14 = "Label14";
+inline constexpr Name Label15 = "Label15";
+inline constexpr Name print = "print"; ///< the button
+
+inline constexpr Name captions[] = {Label1, Label29, Label2, Label3, Label4, Label5, Label6, Label7, Label16, Label17};
+inline constexpr Name values[] = {Label18, Label19, Label20, Label21, Label22, Label23, Label24, Label14, Label15};
+} // namespace form4
+
+/// Fills the Output window and shows it beside the main window. Throws invalidArgument if the product of inductance
+/// and capacitance is negative, overflow if a result is out of range; the values before that are shown.
+void output(Form1& form);
+
+/// Fills the window without showing it. Throws the same.
+void refreshOutput(Form1& form);
+
+namespace form4 {
+
+/// Prints the Output window.
+void printForm(Form1& form);
+
+} // namespace form4

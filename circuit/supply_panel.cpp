@@ -1,0 +1,227 @@
+#include "circuit/supply_panel.h"
+
+#include "circuit/numbers.h"
+#include "symbols/symbol_protocol.h"
+
+namespace {
+
+// The positive battery has its long plate first, the negative one its short one; their odd reaches are intended.
+constexpr auto positiveRight =
+    strokes(line(0, 0, 0, -150), dot(-70, -400), value(), line(0, -150, 0, 200), line(100, 100, 100, -100));
+constexpr auto positiveLeft =
+    strokes(line(0, 0, 0, -150), line(0, -150, 0, 200), dot(-200, 250), value(), line(-100, 100, -100, -100));
+constexpr auto positiveUp = strokes(line(0, 0, 150, 0), line(200, 0, -200, 0), line(0, -100, 100, -100),
+                                    line(100, -100, -100, -100), dot(-500, -100), value());
+constexpr auto positiveDown = strokes(line(0, 0, 150, 0), line(200, 0, -200, 0), line(0, 100, 100, 100),
+                                      line(100, 100, -100, 100), dot(200, 0), value(), dot(-400, 100));
+constexpr Branch positiveBattery[] = {{.heading = heading::right, .strokes = positiveRight, .after = {120, 0}},
+                                      {.heading = heading::left, .strokes = positiveLeft, .after = {-120, 0}},
+                                      {.heading = heading::up, .strokes = positiveUp, .after = {0, -120}},
+                                      {.heading = heading::down, .strokes = positiveDown, .after = {0, 120}}};
+
+constexpr auto negativeRight =
+    strokes(line(0, 0, 0, -100), line(0, -100, 0, 100), line(100, 150, 100, -200), dot(-100, -450), value());
+constexpr auto negativeLeft =
+    strokes(line(0, 0, 0, -100), line(0, -100, 0, 100), dot(-150, 200), value(), line(-100, 150, -100, -200));
+constexpr auto negativeUp = strokes(line(0, 0, -100, 0), line(-110, 0, 130, 0), line(100, -100, -200, -100),
+                                    dot(-500, -120), value(), line(-200, -100, 200, -100));
+constexpr auto negativeDown = strokes(line(0, 0, -100, 0), line(-110, 0, 130, 0), line(100, 100, -200, 100),
+                                      dot(200, -70), value(), line(-200, 100, 200, 100));
+constexpr Branch negativeBattery[] = {{.heading = heading::right, .strokes = negativeRight, .after = {120, 0}},
+                                      {.heading = heading::left, .strokes = negativeLeft, .after = {-120, 0}},
+                                      {.heading = heading::up, .strokes = negativeUp, .after = {0, -120}},
+                                      {.heading = heading::down, .strokes = negativeDown, .after = {0, 120}}};
+
+// A circle around the moved pen; its text is never turned.
+constexpr auto supplyRows = strokes(circle(0, 0, 200), dot(-200, -50), value(), dot(50, -50));
+constexpr auto voltageRows = join(supplyRows, strokes(sameLine("V")));
+constexpr auto currentRows = join(supplyRows, strokes(sameLine("A")));
+
+using SupplyBranches = std::array<Branch, 4>;
+
+constexpr SupplyBranches supplyBranches(std::span<const Stroke> rows)
+{
+    constexpr auto moved = Origin::movedPen;
+    return {Branch{.heading = heading::right, .strokes = rows, .after = {210, 0}, .before = {200, 0}, .origin = moved},
+            Branch{.heading = heading::left, .strokes = rows, .after = {-210, 0}, .before = {-200, 0}, .origin = moved},
+            Branch{.heading = heading::up, .strokes = rows, .after = {0, -210}, .before = {0, -200}, .origin = moved},
+            Branch{.heading = heading::down, .strokes = rows, .after = {0, 210}, .before = {0, 200}, .origin = moved}};
+}
+
+constexpr SupplyBranches voltageSupply = supplyBranches(voltageRows);
+constexpr SupplyBranches currentSupply = supplyBranches(currentRows);
+
+constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, control::Option5};
+
+/// The box shows as long as a family is open.
+void followFamilies(Form1& form)
+{
+    const bool open = form.controls.visible(control::sup) || form.controls.visible(control::bat);
+    if (open && !form.controls.visible(control::panel)) {
+        form.controls.placeAwayFrom(control::panel, form.x, form.y);
+    }
+    form.controls.setVisible(control::panel, open);
+}
+
+void askForValue(Form1& form, Name prompt, Name cancel)
+{
+    form.controls.show({prompt, control::Command3, cancel, control::Text11});
+    form.controls.enable({control::Command3, cancel, control::Text11});
+    form.controls.focus(control::Text11);
+}
+
+void hideRestOfPanel(Form1& form)
+{
+    form.controls.hide({control::Option1, control::Option2, control::Option3, control::Option4, control::Option5,
+                        control::Label11, control::Label13, control::bat, control::sup});
+    followFamilies(form);
+}
+
+/// Whether this kind was chosen; if so, it is drawn next.
+bool takes(Form1& form, Name option)
+{
+    if (form.controls.value(option) == 0) {
+        return false;
+    }
+    hideRestOfPanel(form);
+    return true;
+}
+
+void drawSource(Form1& form, std::span<const Branch> branches, double value)
+{
+    form.surface.setForeColor(black);
+    drawBranch(form, branches, toText(value));
+}
+
+void placeBattery(Form1& form, double CanvasState::*battery, std::span<const Branch> branches)
+{
+    form.*battery = form.supplyValue;
+    drawSource(form, branches, form.*battery);
+}
+
+void placeSupply(Form1& form, double CanvasState::*sum, std::span<const Branch> branches)
+{
+    form.*sum = checked(form.*sum + form.supplyValue);
+    drawSource(form, branches, form.supplyValue);
+}
+
+} // namespace
+
+void suppl(Form1& form)
+{
+    form.controls.enable({control::Option1});
+    form.controls.show({control::sup});
+    form.controls.enable({control::Option2, control::Option3});
+    form.controls.setValue(control::Option2, 0);
+    form.controls.setValue(control::Option3, 0);
+    form.controls.show({control::Label11, control::Option1, control::Option2, control::Option3});
+    form.lastFamily = control::sup;
+    followFamilies(form);
+}
+
+void batter(Form1& form)
+{
+    form.controls.show({control::bat});
+    form.controls.enable({control::Option4, control::Option5});
+    form.controls.show({control::Option1, control::Label13, control::Option4, control::Option5});
+    form.controls.enable({control::Option5});
+    form.controls.setValue(control::Option4, 0);
+    form.controls.setValue(control::Option5, 0);
+    form.controls.hide({control::Label28});
+    form.lastFamily = control::bat;
+    followFamilies(form);
+}
+
+void Option2(Form1& form)
+{
+    askForValue(form, control::Label12, control::Command8);
+}
+
+void Option3(Form1& form)
+{
+    askForValue(form, control::Label12, control::Command8);
+}
+
+void Option4(Form1& form)
+{
+    form.controls.setValue(control::Option5, 0);
+    askForValue(form, control::Label28, control::Command7);
+}
+
+void Option5(Form1& form)
+{
+    form.controls.setValue(control::Option4, 0);
+    askForValue(form, control::Label28, control::Command7);
+}
+
+void Command3(Form1& form)
+{
+    const double typed =
+        leadingNumber(form.controls.text(control::Text11)); // before anything is hidden: it may overflow
+    form.controls.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
+    form.controls.focus(control::Canvas);
+    form.supplyValue = typed;
+    if (takes(form, control::Option4)) {
+        placeBattery(form, &CanvasState::batteryPositive, positiveBattery);
+    }
+    if (takes(form, control::Option5)) {
+        placeBattery(form, &CanvasState::batteryNegative, negativeBattery);
+    }
+    form.controls.setText(control::Text11, "");
+    if (takes(form, control::Option3)) {
+        placeSupply(form, &CanvasState::supplyVoltage, voltageSupply);
+    }
+    if (takes(form, control::Option2)) {
+        placeSupply(form, &CanvasState::supplyCurrent, currentSupply);
+    }
+    clearOptions(form);
+}
+
+void Command7(Form1& form)
+{
+    form.controls.disable({control::Option4, control::Option5, control::Option1});
+    form.controls.hide({control::bat});
+    form.controls.disable({control::Command3, control::Command7});
+    form.controls.hide({control::Option4, control::Option5});
+    form.controls.disable({control::Text11});
+    form.lastFamily = control::sup; // if that is open too
+    form.controls.focus(control::Canvas);
+    followFamilies(form);
+}
+
+void Command8(Form1& form)
+{
+    form.controls.disable({control::Option2, control::Option3, control::Option1});
+    form.controls.hide({control::sup});
+    form.controls.disable({control::Command3, control::Command8});
+    form.controls.hide({control::Option2, control::Option3, control::Label11, control::Label12});
+    form.controls.disable({control::Text11});
+    form.lastFamily = control::bat;
+    form.controls.focus(control::Canvas);
+    followFamilies(form);
+}
+
+void cancelPanel(Form1& form)
+{
+    if (form.lastFamily == control::bat) {
+        Command7(form);
+    } else {
+        Command8(form);
+    }
+}
+
+void clearOptions(Form1& form)
+{
+    for (const Name option : kinds) {
+        form.controls.setValue(option, 0);
+    }
+}
+
+void colorPanel(Form1& form)
+{
+    for (const Name option : kinds) {
+        form.controls.setBackColor(option, form.canvasBackColor);
+    }
+    form.controls.setBackColor(control::bat, form.canvasBackColor);
+    form.controls.setBackColor(control::sup, form.canvasBackColor);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/window.h"
+
+// A window and boxes for nobody to see: with them a symbol can be drawn on any surface, for a picture of it.
+
+/// Keeps nothing but the option that is chosen; its text boxes hold the usual value.
+class QuietWindow final : public Window {
+public:
+    void setCaption(std::string_view /*title*/) override {}
+    void showWindow() override {}
+    void printForm() override {}
+    void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
+    void popUp(Name /*menu*/) override {}
+    void setChecked(Name /*item*/, bool /*checked*/) override {}
+    [[nodiscard]] bool checked(Name /*item*/) const override { return false; }
+    void setVisible(Name /*control*/, bool /*visible*/) override {}
+    [[nodiscard]] bool visible(Name /*control*/) const override { return false; }
+    void setEnabled(Name /*control*/, bool /*enabled*/) override {}
+    void focus(Name /*control*/) override {}
+    void setText(Name /*control*/, std::string_view /*text*/) override {}
+    [[nodiscard]] std::string text(Name /*control*/) const override { return "10"; }
+    void setValue(Name control, int value) override { m_chosen = value == 1 ? control : Name(); }
+    [[nodiscard]] int value(Name control) const override { return control == m_chosen ? 1 : 0; }
+    void setBackColor(Name /*control*/, Color /*color*/) override {}
+    void setLeft(Name /*control*/, double /*twips*/) override {}
+    void setTop(Name /*control*/, double /*twips*/) override {}
+    void placeAwayFrom(Name /*control*/, double /*x*/, double /*y*/) override {}
+    void setInterval(Name /*timer*/, int /*milliseconds*/) override {}
+
+private:
+    Name m_chosen;
+};
+
+/// Takes the preset of every input box and says No to everything else.
+class QuietDialogs final : public Dialogs {
+public:
+    int messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view /*title*/) override
+    {
+        return answer::no;
+    }
+    std::string inputBox(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view preset) override
+    {
+        return std::string(preset);
+    }
+};
