@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+/// What a canvas may become by loading a picture. A picture this large takes 128 MB while it is open.
+inline constexpr qint64 mostPixels = 32'000'000;
+
+/// The picture in any file that Qt reads, whatever the file is called: in Format_RGB32, upright, on white where it is
+/// transparent, one pixel of the picture to one of the screen. What cannot be shown whole is refused: throws
+/// RuntimeError(Fault::invalidPicture) whose text names the file and the cause.
+[[nodiscard]] QImage loadPicture(const QString& path);
+
+/// Writes a BMP of 24 bits and 96 dpi under exactly this path, in place of what was there. Throws
+/// RuntimeError(Fault::pictureNotSaved); then the old file is as it was, and nothing is left beside it.
+void savePicture(const QImage& image, const QString& path);
