@@ -4,7 +4,7 @@
 #include <QString>
 
 /// What a canvas may become by loading a picture. A picture this large takes 128 MB while it is open.
-inline constexpr qint64 mostPixels = 32'000'000;
+inline constexpr int mostPixels = 32'000'000;
 
 /// The picture in any file that Qt reads, whatever the file is called: in Format_RGB32, upright, on white where it is
 /// transparent, one pixel of the picture to one of the screen. What cannot be shown whole is refused: throws

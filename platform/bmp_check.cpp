@@ -1,0 +1,116 @@
+#include "platform/bmp_check.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace picture {
+
+namespace {
+
+enum class Compression : std::uint32_t { none, rle8, rle4, bitFields };
+
+struct BmpHeader {
+    std::int64_t width = 0;
+    std::int64_t height = 0; ///< never negative: which way the rows run does not matter here
+    std::uint32_t bitsPerPixel = 0;
+    Compression compression = Compression::none;
+    std::int64_t dataBytes = 0; ///< of compressed pixels; 0 if the header does not say
+    std::int64_t pixelsAt = 0;
+};
+
+constexpr std::int64_t bmpFileHeader = 14;
+constexpr std::uint32_t bmpCoreHeader = 12;
+constexpr std::uint32_t bmpInfoHeader = 40;
+
+std::int64_t paletteBytes(const BmpHeader& header, std::uint32_t used, int entryBytes)
+{
+    if (header.bitsPerPixel > 8) {
+        return 0;
+    }
+    require(used <= 256);
+    return std::int64_t{used != 0 ? used : 1U << header.bitsPerPixel} * entryBytes;
+}
+
+BmpHeader bmpHeader(const Bytes& file, Finding& finding)
+{
+    BmpHeader header;
+    const std::uint32_t infoBytes = file.little32(bmpFileHeader);
+    std::int64_t end = bmpFileHeader + infoBytes;
+    if (infoBytes == bmpCoreHeader) {
+        header.width = file.little16(18);
+        header.height = file.little16(20);
+        header.bitsPerPixel = file.little16(24);
+        end += paletteBytes(header, 0, 3);
+    } else {
+        require(infoBytes >= bmpInfoHeader && infoBytes <= 124);
+        header.width = static_cast<std::int32_t>(file.little32(18));
+        header.height = std::abs(std::int64_t{static_cast<std::int32_t>(file.little32(22))});
+        header.bitsPerPixel = file.little16(28);
+        header.compression = Compression{file.little32(30)};
+        header.dataBytes = file.little32(34);
+        const bool masksBehind = infoBytes == bmpInfoHeader && header.compression == Compression::bitFields;
+        end += paletteBytes(header, file.little32(46), 4) + (masksBehind ? 12 : 0);
+    }
+    finding.width = header.width;
+    finding.height = header.height;
+    header.pixelsAt = std::max<std::int64_t>(end, file.little32(10));
+    file.reach(header.pixelsAt);
+    return header;
+}
+
+/// Runs of pixels up to the mark that ends the picture, or all its rows. Steps that draw nothing are legal but of no
+/// use in number; without a bound on them a file could keep a decoder busy for long.
+void walkRuns(const Bytes& file, const BmpHeader& header)
+{
+    const bool nibbles = header.compression == Compression::rle4;
+    const std::int64_t steps = (header.width + 1) * (header.height + 1);
+    std::int64_t at = header.pixelsAt;
+    for (std::int64_t row = 0; row < header.height;) {
+        require((at - header.pixelsAt) / 3 <= steps);
+        if (header.dataBytes != 0 && at >= header.pixelsAt + header.dataBytes && at == file.size()) {
+            return; // without the mark, but as long as was said
+        }
+        const std::uint32_t count = file.u8(at);
+        const std::uint32_t value = file.u8(at + 1);
+        at += 2;
+        if (count != 0) {
+            continue; // so many pixels of one colour
+        }
+        switch (value) {
+        case 0: ++row; break;
+        case 1: return;
+        case 2:
+            row += file.u8(at + 1);
+            at += 2;
+            break;
+        default: // so many pixels as they are, padded to an even number of bytes
+            at += nibbles ? (value + 3) / 4 * 2LL : (value + 1) / 2 * 2LL;
+        }
+    }
+}
+
+} // namespace
+
+void checkBmp(const Bytes& file, Finding& finding)
+{
+    const BmpHeader header = bmpHeader(file, finding);
+    const std::uint32_t bits = header.bitsPerPixel;
+    require(header.width > 0 && header.height > 0);
+    switch (header.compression) {
+    case Compression::none:
+        require(bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32);
+        break;
+    case Compression::bitFields: require(bits == 16 || bits == 32); break;
+    case Compression::rle8:
+    case Compression::rle4:
+        require(bits == (header.compression == Compression::rle8 ? 8U : 4U));
+        walkRuns(file, header);
+        return;
+    default: throw Unreadable{};
+    }
+    const std::int64_t rowBytes = (header.width * bits + 31) / 32 * 4;
+    require(header.height <= INT64_MAX / 2 / rowBytes);
+    file.reach(header.pixelsAt + rowBytes * header.height);
+}
+
+} // namespace picture

@@ -1,0 +1,333 @@
+#include "platform/qt/picture_files.h"
+
+#include "platform/runtime_error.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Neighbours differ.
+QImage colourful(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, qRgb(x * 19 % 256, y * 23 % 256, (x ^ y) * 7 % 256));
+        }
+    }
+    return image;
+}
+
+QByteArray written(const QImage& image, const char* format, bool progressive = false)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(progressive);
+    EXPECT_TRUE(writer.write(image));
+    return buffer.data();
+}
+
+/// The same JPEG, said to lie on the sheet in one of the eight ways.
+QByteArray turned(QByteArray jpeg, int orientation)
+{
+    QByteArray exif = QByteArray::fromHex("FFE1002245786966000049492A00080000000100120103000100000000000000");
+    exif[28] = static_cast<char>(orientation);
+    return jpeg.insert(2, exif + QByteArray(4, '\0'));
+}
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+class PictureFiles : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QStringList listing() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    void allow(const QString& name, mode_t mode) const
+    {
+        EXPECT_EQ(chmod(path(name).toLocal8Bit().constData(), mode), 0);
+    }
+
+    QString store(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return path(name);
+    }
+
+    /// Why a picture is not loaded; empty if it is.
+    static std::string refusal(const QString& path)
+    {
+        try {
+            EXPECT_FALSE(loadPicture(path).isNull());
+            return {};
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.fault, Fault::invalidPicture);
+            return error.what();
+        }
+    }
+
+    /// Why a picture is not saved, which must leave everything as it was.
+    std::string refusalToSave(const QString& path, const QImage& image = colourful(90, 90))
+    {
+        const QStringList before = listing();
+        try {
+            savePicture(image, path);
+            ADD_FAILURE() << "saved";
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.fault, Fault::pictureNotSaved);
+            EXPECT_EQ(listing(), before);
+            return error.what();
+        }
+        return {};
+    }
+
+    QTemporaryDir m_folder;
+};
+
+/// Root may write anywhere; until this goes, the process is somebody else's.
+class OrdinaryUser {
+public:
+    OrdinaryUser() { m_changed = getuid() == 0 && setresuid(nobody, nobody, 0) == 0; }
+    ~OrdinaryUser()
+    {
+        if (m_changed) {
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
+    }
+    [[nodiscard]] static bool isOne() { return geteuid() != 0; }
+
+private:
+    static constexpr uid_t nobody = 65534;
+    bool m_changed;
+};
+
+/// Files cannot grow beyond this size until it goes, as on a disk that is full.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_limit), 0);
+        const rlimit tight{bytes, m_limit.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    }
+    ~FullDisk()
+    {
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_limit), 0);
+        static_cast<void>(std::signal(SIGXFSZ, m_handler));
+    }
+
+private:
+    void (*m_handler)(int);
+    rlimit m_limit{};
+};
+
+} // namespace
+
+TEST_F(PictureFiles, LoadsWholePicturesAndRefusesEveryPartOfOne)
+{
+    const QImage image = colourful(17, 11);
+    const std::pair<QByteArray, QImage> files[] = {
+        {written(image, "png"), image},
+        {written(image, "bmp"), image},
+        {written(image, "ppm"), image},
+        {written(image, "ico"), image},
+        {written(image.convertToFormat(QImage::Format_Indexed8), "png"),
+         image.convertToFormat(QImage::Format_Indexed8)},
+        {written(image.convertToFormat(QImage::Format_Mono), "bmp"), image.convertToFormat(QImage::Format_Mono)},
+        {written(image, "jpg"), QImage::fromData(written(image, "jpg"))},
+        {written(image, "jpg", true), QImage::fromData(written(image, "jpg", true))},
+    };
+    for (const auto& [bytes, expected] : files) {
+        SCOPED_TRACE(bytes.left(4).toStdString());
+        const QImage loaded = loadPicture(store("whole.txt", bytes + "behind"));
+        EXPECT_EQ(loaded.format(), QImage::Format_RGB32);
+        EXPECT_EQ(loaded.devicePixelRatio(), 1);
+        EXPECT_TRUE(loaded == expected.convertToFormat(QImage::Format_RGB32));
+        for (qsizetype length = 0; length < bytes.size(); ++length) {
+            ASSERT_TRUE(
+                refusal(store("part.bmp", bytes.left(length))).starts_with("Invalid picture\n\nThe file part.bmp "))
+                << length;
+        }
+    }
+}
+
+TEST_F(PictureFiles, PutsTransparentPicturesOnWhiteHoweverWide)
+{
+    QImage image(40000, 2, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    image.setPixel(39999, 1, qRgba(255, 0, 0, 128));
+    image.setPixel(0, 1, qRgba(1, 2, 3, 255));
+    const QImage loaded = loadPicture(store("wide", written(image, "png")));
+    EXPECT_EQ(loaded.pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(loaded.pixel(39999, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(loaded.pixel(39999, 1), qRgb(255, 127, 127));
+    EXPECT_EQ(loaded.pixel(0, 1), qRgb(1, 2, 3));
+}
+
+TEST_F(PictureFiles, SetsEveryPictureUpright)
+{
+    for (const QSize size : {QSize(37, 22), QSize(4000, 2100)}) { // the second is read in two parts
+        const QByteArray jpeg = written(colourful(size.width(), size.height()), "jpg");
+        for (int orientation = size.width() > 100 ? 5 : 1; orientation <= 8; ++orientation) {
+            SCOPED_TRACE(orientation);
+            const QString path = store("turned.jpg", turned(jpeg, orientation));
+            QImageReader reader(path);
+            reader.setAutoTransform(true);
+            const QImage expected = reader.read();
+            EXPECT_EQ(expected.size(), orientation < 5 ? size : size.transposed());
+            EXPECT_TRUE(loadPicture(path) == expected);
+        }
+    }
+}
+
+TEST_F(PictureFiles, RefusesWhatIsTooLargeByItsHeader)
+{
+    const auto claiming = [](QByteArray file, int at, const char* size) {
+        const QByteArray number = QByteArray::fromHex(size);
+        return file.replace(at, number.size(), number);
+    };
+    const QByteArray png = written(colourful(9, 9), "png");
+    const QByteArray bmp = written(colourful(9, 9), "bmp");
+    const QByteArray jpeg = written(colourful(9, 9), "jpg", true);
+    const auto frame = static_cast<int>(jpeg.indexOf("\xFF\xC2"));
+    const std::tuple<QByteArray, std::string> cases[] = {
+        {claiming(png, 16, "00004E2000004E20"), "20000 x 20000 pixels, at most 32 megapixels"},
+        {claiming(png, 16, "0000EA600000EA60"), "60000 x 60000 pixels, at most 32 megapixels"},
+        {claiming(bmp, 18, "FFFF0000FFFF0000"), "65535 x 65535 pixels, at most 32 megapixels"},
+        {claiming(bmp, 18, "0500000000000080"), "5 x 2147483648 pixels, at most 32 megapixels"},
+        {claiming(jpeg, frame + 5, "10011000"), "4096 x 4097 pixels, at most 16 megapixels of this kind"},
+        {"P6 8001 4000 255\n", "8001 x 4000 pixels, at most 32 megapixels"},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        EXPECT_EQ(refusal(store("a", bytes)), "Invalid picture\n\nThe file a is too large: " + expected + ".");
+    }
+    EXPECT_NE(refusal(store("a", claiming(bmp, 18, "FBFFFFFF"))), "");
+    EXPECT_NE(refusal(store("a", claiming(png, 16, "00000000"))), "");
+}
+
+TEST_F(PictureFiles, NamesTheFileAndTheCause)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
+    ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
+    const QByteArray bmp = written(colourful(9, 9), "bmp");
+    for (const auto& [name, bytes] : {std::pair{"large.bmp", bmp}, {"large.png", QByteArray("\x89PNG")}}) {
+        QFile file(store(name, bytes));
+        ASSERT_TRUE(file.resize(10'000'000'000)); // most of which takes no room on the disk
+    }
+    const std::pair<QString, std::string> cases[] = {
+        {path("none.bmp"), "none.bmp does not exist"},
+        {path("folder"), "folder is a folder"},
+        {path("folder/"), "folder is a folder"},
+        {path("pipe"), "pipe is no picture that Schemlet can read"},
+        {"/dev/zero", "zero is no picture that Schemlet can read"},
+        {store("empty.bmp", ""), "empty.bmp is no picture that Schemlet can read"},
+        {store("text.png", "A circuit %1 of mine"), "text.png is no picture that Schemlet can read"},
+        {store("100 %2.bmp", bmp.left(99)), "100 %2.bmp is cut short"},
+        {path("large.png"), "large.png is too large: 10000 megabytes, at most 129 megabytes"},
+    };
+    for (const auto& [path, expected] : cases) {
+        EXPECT_EQ(refusal(path), "Invalid picture\n\nThe file " + expected + ".");
+    }
+    EXPECT_EQ(refusal(path("large.bmp")), "");
+
+    store("secret.bmp", bmp);
+    allow("secret.bmp", 0);
+    allow(".", 0755);
+    const OrdinaryUser user;
+    EXPECT_TRUE(!OrdinaryUser::isOne() ||
+                refusal(path("secret.bmp")) == "Invalid picture\n\nThe file secret.bmp may not be read.");
+}
+
+TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
+{
+    const QImage image = colourful(33, 21);
+    const QByteArray old = "not a picture";
+    store("mine.png", old);
+    allow("mine.png", 0600);
+    ASSERT_TRUE(QFile::link("mine.png", path("link")) && QFile::link("link", path("chain")));
+    const QStringList before = listing();
+    for (const char* const name : {"mine.png", "link", "chain"}) {
+        SCOPED_TRACE(name);
+        store("mine.png", old);
+        savePicture(image, path(name));
+        const QByteArray saved = contents(path("mine.png"));
+        EXPECT_TRUE(saved.startsWith("BM"));
+        EXPECT_EQ(saved.mid(28, 2).toHex(), "1800");             // bits a pixel
+        EXPECT_EQ(saved.mid(38, 8).toHex(), "c40e0000c40e0000"); // 3780 dots a metre
+        EXPECT_TRUE(loadPicture(path("mine.png")) == image);
+        EXPECT_TRUE(QFileInfo(path("link")).isSymLink() && QFileInfo(path("chain")).isSymLink());
+        EXPECT_EQ(listing(), before);
+        struct stat status {};
+        EXPECT_EQ(stat(path("mine.png").toLocal8Bit().constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    }
+    savePicture(colourful(5, 5).convertToFormat(QImage::Format_Mono), path("new"));
+    EXPECT_EQ(contents(path("new")).mid(28, 2).toHex(), "1800");
+}
+
+TEST_F(PictureFiles, LeavesTheOldFileAloneWhenTheDiskIsFull)
+{
+    const QImage image = colourful(90, 90);
+    savePicture(image, path("a.bmp"));
+    const QByteArray old = contents(path("a.bmp"));
+    for (const rlim_t room : {0, 1, 54, 16384, 24353}) { // of 24354 bytes
+        const FullDisk full(room);
+        EXPECT_EQ(refusalToSave(path("a.bmp"), colourful(90, 90).mirrored()),
+                  "Picture not saved\n\nThe file a.bmp could not be written; the disk may be full.");
+        EXPECT_EQ(contents(path("a.bmp")), old);
+        EXPECT_NE(refusalToSave(path("new.bmp")), "");
+    }
+}
+
+TEST_F(PictureFiles, SaysWhyItCannotSave)
+{
+    const auto expect = [&](const QString& name, const std::string& cause) {
+        EXPECT_EQ(refusalToSave(path(name)), "Picture not saved\n\nThe file " + cause + ".");
+    };
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
+    ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
+    expect("folder", "folder is a folder");
+    expect("pipe", "pipe is no ordinary file");
+    expect("gone/a.bmp", "a.bmp could not be written: its folder does not exist");
+
+    const QByteArray old = written(colourful(9, 9), "bmp");
+    store("closed.bmp", old);
+    store("open.bmp", old);
+    allow("closed.bmp", 0444);
+    allow("open.bmp", 0666);
+    allow(".", 0777);
+    {
+        const OrdinaryUser user;
+        if (!OrdinaryUser::isOne()) {
+            GTEST_SKIP() << "root may write anywhere";
+        }
+        expect("closed.bmp", "closed.bmp is write-protected");
+    }
+    allow(".", 0555);
+    {
+        const OrdinaryUser user;
+        expect("open.bmp", "open.bmp could not be written: Permission denied");
+        expect("new.bmp", "new.bmp could not be written: Permission denied");
+    }
+    allow(".", 0700);
+    EXPECT_EQ(contents(path("closed.bmp")), old);
+    EXPECT_EQ(contents(path("open.bmp")), old);
+}
