@@ -105,7 +105,7 @@ protected:
 /// Root may write anywhere; until this goes, the process is somebody else's.
 class OrdinaryUser {
 public:
-    OrdinaryUser() { m_changed = getuid() == 0 && setresuid(nobody, nobody, 0) == 0; }
+    OrdinaryUser() : m_changed(getuid() == 0 && setresuid(nobody, nobody, 0) == 0) {}
     ~OrdinaryUser()
     {
         if (m_changed) {
@@ -288,7 +288,7 @@ TEST_F(PictureFiles, LeavesTheOldFileAloneWhenTheDiskIsFull)
     const QImage image = colourful(90, 90);
     savePicture(image, path("a.bmp"));
     const QByteArray old = contents(path("a.bmp"));
-    for (const rlim_t room : {0, 1, 54, 16384, 24353}) { // of 24354 bytes
+    for (const rlim_t room : {0U, 1U, 54U, 16384U, 24353U}) { // of 24354 bytes
         const FullDisk full(room);
         EXPECT_EQ(refusalToSave(path("a.bmp"), colourful(90, 90).mirrored()),
                   "Picture not saved\n\nThe file a.bmp could not be written; the disk may be full.");

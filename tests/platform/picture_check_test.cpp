@@ -36,14 +36,16 @@ std::string bytes(std::initializer_list<int> list)
 
 std::string filler(std::int64_t count)
 {
-    return std::string(static_cast<std::size_t>(count), '\x55');
+    std::string out;
+    out.resize(static_cast<std::size_t>(count), '\x55');
+    return out;
 }
 
 /// What is worth varying of a BMP.
 struct Bmp {
-    std::int64_t width;
-    std::int64_t height;
-    int bits;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    int bits = 0;
     int compression = 0;
     int dataBytes = 0;
     int colors = 0;  ///< as the header counts them
@@ -87,9 +89,10 @@ std::string segment(int code, const std::string& data)
 std::string jpeg(int frame, int components, int scans)
 {
     const std::string end = bytes({0xFF, 0xD9});
-    std::string out = bytes({0xFF, 0xD8}) + segment(0xE1, bytes({0xFF, 0xD8}) + filler(5) + end) +
-                      bytes({0xFF, 0xFF, 0xFF}) + segment(0xDB, filler(3)).substr(1) +
-                      segment(frame, bytes({8}) + big(7, 2) + big(9, 2) + bytes({components}) + filler(components * 3));
+    std::string out =
+        bytes({0xFF, 0xD8}) + segment(0xE1, bytes({0xFF, 0xD8}) + filler(5) + end) + bytes({0xFF, 0xFF, 0xFF}) +
+        segment(0xDB, filler(3)).substr(1) +
+        segment(frame, bytes({8}) + big(7, 2) + big(9, 2) + bytes({components}) + filler(components * 3LL));
     for (int i = 0; i < scans; ++i) {
         out += segment(0xC4, filler(4)) + segment(0xDA, bytes({frame == 0xC0 ? components : 1}) + filler(5)) +
                filler(4) + bytes({0xFF, 0x00, 0x12, 0xFF, 0xD3}) + filler(3);
@@ -187,7 +190,7 @@ TEST(PictureCheck, SaysTheSizeThatABmpClaimsAndRefusesNonsense)
         {bmp({5, 5, 24, 3}, filler(99)), State::unreadable, 5, 5},
         {bmp({5, 5, 8, 0, 0, 257}, filler(99)), State::unreadable},
         {bmp({5, 5, 8, 1}, uselessSteps + bytes({0, 1})), State::unreadable, 5, 5},
-        {"BM" + little(0, 12) + little(-1, 4) + filler(99), State::unreadable},
+        {"BM" + filler(12) + little(-1, 4) + filler(99), State::unreadable},
     });
 }
 
