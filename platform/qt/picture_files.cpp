@@ -213,8 +213,10 @@ void savePicture(const QImage& image, const QString& path)
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
     QImage picture = image.convertToFormat(QImage::Format_RGB32);
-    picture.setDotsPerMeterX(dotsPerMetre);
-    picture.setDotsPerMeterY(dotsPerMetre);
+    if (picture.dotsPerMeterX() != dotsPerMetre || picture.dotsPerMeterY() != dotsPerMetre) { // else a copy for nothing
+        picture.setDotsPerMeterX(dotsPerMetre);
+        picture.setDotsPerMeterY(dotsPerMetre);
+    }
     if (!file.open(QIODevice::WriteOnly)) {
         refuseToSave(path, QStringLiteral("could not be written: ") + file.errorString());
     }

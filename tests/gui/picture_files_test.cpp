@@ -258,7 +258,8 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
 
 TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
 {
-    const QImage image = colourful(33, 21);
+    QImage image = colourful(33, 21);
+    image.setDotsPerMeterX(5000);
     const QByteArray old = "not a picture";
     store("mine.png", old);
     allow("mine.png", 0600);
