@@ -1,5 +1,6 @@
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
 #include "shell/events.h"
 #include "shell/view.h"
@@ -27,7 +28,8 @@ int main(int argc, char* argv[])
     QtWindow window(mainView, report);
     QtWindow form4(outputView, report);
     QtDialogs dialogs(mainView);
-    Form1 form1(form.Canvas->surface(), window, dialogs, form4);
+    QtPictures pictures(form.Canvas->surface());
+    Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form4);
     schemlet = &form1;
 
     openMainWindow(form1);

@@ -3,6 +3,7 @@
 
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
 #include "platform/quiet.h"
 #include "shell/events.h"
@@ -23,8 +24,9 @@ struct Program {
     }();
     QtWindow window{view, [this](const Event& event) { deliver(form1, event); }};
     QtDialogs dialogs{view};
+    QtPictures pictures{form.Canvas->surface()};
     QuietWindow output;
-    Form1 form1{form.Canvas->surface(), window, dialogs, output};
+    Form1 form1{form.Canvas->surface(), window, dialogs, pictures, output};
 
     Program()
     {

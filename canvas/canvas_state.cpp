@@ -3,10 +3,14 @@
 #include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 
+void setTitle(Form1& form, std::string_view file)
+{
+    form.controls.setCaption(" - Schemlet 2.0 " + std::string(file));
+}
+
 void load(Form1& form)
 {
-    form.controls.setCaption(" - Schemlet 2.0 "
-                             " New File ");
+    setTitle(form, noFile);
     form.confirm.fill(1);
     form.canvasBackColor = white;
     form.wireColor = black;
@@ -20,6 +24,7 @@ void load(Form1& form)
     form.frequencyCopy = form.angularFrequency = form.frequencyCapac = form.capacitiveReactance = 0;
     form.diodeCount = 0;
     form.blinkCount = 0;
+    form.toolboxFollow = 0;
     form.controls.setText(control::sb, " Press F1 for Help ");
     // Before the pen gets its place: the first free-hand line starts at (0, 0), and after a reset at the old pen.
     form.surface.setCurrent(static_cast<float>(form.x), static_cast<float>(form.y));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/pictures.h"
 #include "platform/surface.h"
 #include "platform/window.h"
 
@@ -13,8 +14,12 @@ inline constexpr Name Picture1 = "Picture1"; ///< the pen marker
 inline constexpr Name Shape1 = "Shape1";     ///< the eraser's outline
 inline constexpr Name Label27 = "Label27";   ///< says that erase mode is on
 inline constexpr Name Canvas = "Canvas";
-inline constexpr Name rc = "rc"; ///< the right-click menu
-inline constexpr Name sb = "sb"; ///< panel 1 of the status bar, the hint
+inline constexpr Name Toolbar1 = "Toolbar1";
+inline constexpr Name statusBar = "statusBar";
+inline constexpr Name Frame2 = "Frame2"; ///< the toolbox
+inline constexpr Name Label1 = "Label1"; ///< its handle
+inline constexpr Name rc = "rc";         ///< the right-click menu
+inline constexpr Name sb = "sb";         ///< panel 1 of the status bar, the hint
 inline constexpr Name sbPen = "sbPen";
 inline constexpr Name sbHeading = "sbHeading";
 inline constexpr Name sbTool = "sbTool";
@@ -84,10 +89,13 @@ struct CanvasState {
     double mouseUpY = 0;
 
     int autoJumper = 0;
+    int toolboxFollow = 0;    ///< 1 while the toolbox follows the mouse
     Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
     int jumperAnswer = 0;
 
-    int savedMark = 0; ///< 100 = nothing changed since start or save, 0 = changed
+    int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
+    std::string fileTitle; ///< the name of the file saved last, without its folder
+    int printAnswer = 0;
     int blinkCount = 0;
     int statusDue = 0; ///< 1 while the status bar waits to be brought up to date
 
@@ -150,14 +158,15 @@ struct CanvasState {
 
 /// What every command gets: the state and the way to the screen.
 struct Form1 : CanvasState {
-    Form1(Surface& canvas, Window& window, Dialogs& boxes, Window& output)
-        : surface(canvas), controls(window), dialogs(boxes), form4(output)
+    Form1(Surface& canvas, Window& window, Dialogs& boxes, Pictures& files, Window& output)
+        : surface(canvas), controls(window), dialogs(boxes), pictures(files), form4(output)
     {
     }
 
     Surface& surface;
     Window& controls;
     Dialogs& dialogs;
+    Pictures& pictures;
     Window& form4; ///< the Output window
 };
 
@@ -171,6 +180,12 @@ inline constexpr double markerRise = 300;
 /// the Output window from the zeros, without showing it. What it
 /// does not assign stays: family colours, tools, automatic jumpers.
 void load(Form1& form);
+
+/// What the title shows in place of a file's name.
+inline constexpr std::string_view noFile = " New File ";
+
+/// Puts a file's name into the main window's title.
+void setTitle(Form1& form, std::string_view file);
 
 /// Moves the marker to a left edge of its own and to the pen's height.
 void placeMarker(Form1& form, double left);

@@ -63,6 +63,10 @@ void mouseMove(Form1& form, int buttons, float x, float y)
     if (form.eraseMode == 1 && buttons == button::left) {
         erase(form, x, y);
     }
+    if (form.toolboxFollow == 1) {
+        form.controls.setLeft(control::Frame2, x);
+        form.controls.setTop(control::Frame2, y);
+    }
 }
 
 void mouseUp(Form1& form, int button, float x, float y)

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "platform/surface.h"
+
 #include <string>
 #include <string_view>
 
-/// Buttons and icon of a message box, in the numbering of the classic message box call: 4 is Yes and No, 32 the
-/// question mark.
-enum class Box { okOnly = 0, yesNoQuestion = 36 };
+/// Buttons and icon of a message box, in the numbering of the classic message box call: 3 is Yes, No and Cancel, 4 Yes
+/// and No, 32 the question mark, 48 the exclamation mark.
+enum class Box { okOnly = 0, yesNoQuestion = 36, okWarning = 48, yesNoCancelWarning = 51 };
 
 /// What a message box answers, in the same numbering.
 namespace answer {
+inline constexpr int cancel = 2;
 inline constexpr int yes = 6;
 inline constexpr int no = 7;
 } // namespace answer
@@ -18,9 +21,18 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    /// Esc or closing a box with Yes and No counts as No.
+    /// Esc or closing the box counts as Cancel if it has that button, else as No.
     virtual int messageBox(std::string_view prompt, Box style, std::string_view title) = 0;
 
     /// Asks for one line of text, with the preset selected so that typing replaces it. Empty on Cancel.
     virtual std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) = 0;
+
+    /// Lets the user pick a colour. On Cancel it is the one picked last, by whatever command; black before the first.
+    virtual Color pickColor() = 0;
+
+    /// Asks for a picture file to open; its path, empty on Cancel.
+    virtual std::string openFile() = 0;
+    /// Asks for a file to write; its path. A name without an extension gets this one; the filter is what the dialog
+    /// says of the files, a bar, and their pattern. Throws dialogCancelled.
+    virtual std::string saveFile(std::string_view extension, std::string_view filter) = 0;
 };

@@ -26,11 +26,12 @@ inline constexpr int middle = 4;
 
 /// One thing the user or the clock did. All windows report through one function that takes these.
 struct Event {
-    enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, tick };
+    enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, hover, tick, close };
 
     Kind kind;
     Name window = mainWindow;
-    Name name{};  ///< what was clicked or ticked; of a keyPress, the control that took it, none for the canvas
+    Name name{};  ///< what was clicked, hovered over or ticked; of a keyPress, the control that took it, none for the
+                  ///< canvas
     int code = 0; ///< keyDown: a key; keyPress: a character (Unicode); mouse: button or buttons
     float x = 0;  ///< mouse: the place on the canvas, in twips
     float y = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/pictures.h"
 #include "platform/window.h"
 
 // A window and boxes for nobody to see: with them a symbol can be drawn on any surface, for a picture of it.
@@ -11,6 +12,9 @@ public:
     void setCaption(std::string_view /*title*/) override {}
     void showWindow() override {}
     void printForm() override {}
+    void endProgram() override {}
+    void addToolButton(Name /*key*/, std::string_view /*tip*/) override {}
+    void setCursor(const Cursor& /*cursor*/) override {}
     void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
     void popUp(Name /*menu*/) override {}
     void setChecked(Name /*item*/, bool /*checked*/) override {}
@@ -44,4 +48,14 @@ public:
     {
         return std::string(preset);
     }
+    Color pickColor() override { return black; }
+    std::string openFile() override { return {}; }
+    std::string saveFile(std::string_view /*extension*/, std::string_view /*filter*/) override { return {}; }
+};
+
+/// Knows no files.
+class QuietPictures final : public Pictures {
+public:
+    void loadBackground(std::string_view /*path*/) override {}
+    void saveImage(std::string_view /*path*/) override {}
 };

@@ -43,6 +43,10 @@ public:
     /// The colour of the pixel at a place; none outside the retained image.
     [[nodiscard]] virtual std::optional<Color> point(float x, float y) const = 0;
 
+    /// Wipes ink and background picture and gives the image the window's size again.
+    virtual void clear() = 0;
+    /// The colour of the paper. Setting it wipes ink and background picture.
+    virtual void setBackColor(Color color) = 0;
     /// The colour of everything drawn from now on.
     virtual void setForeColor(Color color) = 0;
 

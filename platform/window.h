@@ -14,6 +14,7 @@ inline constexpr Name mainWindow = "Form1";
 enum class Look {
     plain,
     unchecked, ///< a check item whose mark is off at start
+    checked,   ///< a check item whose mark is on at start
     hidden     ///< a menu that is not on the bar but pops up at the mouse
 };
 
@@ -22,6 +23,13 @@ struct MenuItem {
     std::string_view caption;    ///< & marks the mnemonic; "-" is a separator
     std::string_view shortcut{}; ///< such as "Ctrl+E"
     Look look = Look::plain;
+};
+
+/// A pointer, by the name of its picture, and the pixel of it that points.
+struct Cursor {
+    Name picture;
+    int hotX;
+    int hotY;
 };
 
 /// A top-level window and its named controls. A name the window does not have is a fault of the program and ends it.
@@ -34,6 +42,14 @@ public:
     virtual void showWindow() = 0;
     /// Prints the window's image on the default printer. Throws printerError.
     virtual void printForm() = 0;
+
+    /// Ends the program's main loop, as if nothing were open.
+    virtual void endProgram() = 0;
+
+    /// Appends a button to the toolbar, with the picture of this name; a separator if it has none.
+    virtual void addToolButton(Name key, std::string_view tip) = 0;
+    /// The pointer over the canvas.
+    virtual void setCursor(const Cursor& cursor) = 0;
 
     /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;

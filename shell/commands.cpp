@@ -6,6 +6,10 @@
 #include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
+#include "shell/colors.h"
+#include "shell/confirmations.h"
+#include "shell/files.h"
+#include "shell/toolbox.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -24,6 +28,12 @@ constexpr MenuItem separator{"", "-"};
 // The whole tree in its visible order. Blanks and spellings of the captions are the product's own.
 // clang-format off
 constexpr Command menu[] = {
+    {0, {"file", "  &File  "}},
+        {1, {"new", "&New", "Ctrl+N"}, new_}, {1, separator},
+        {1, {"open", "&Open", "Ctrl+O"}, open}, {1, separator},
+        {1, {"save", "Sa&ve", "Ctrl+S"}, save}, {1, separator},
+        {1, {"print", "&Print", "Ctrl+P"}, print}, {1, separator},
+        {1, {"exit", "E&xit", "Ctrl+X"}, exit_},
     {0, {"edit", " &Edit "}},
         {1, {"eraser", "&Eraser", "Ctrl+E"}, eraser}, {1, separator},
         {1, {"pencil1", "&Pencil", "Ctrl+C"}, pencil1}, {1, separator},
@@ -32,6 +42,9 @@ constexpr Command menu[] = {
         {1, {"ground", "&Ground", "Ctrl+G"}, ground}, {1, separator},
         {1, {"jumper", "Jumper", "Ctrl+J"}, jumper},
     {0, {"view", " &View "}},
+        {1, {"lll", "&ToolBar", "Ctrl+H", Look::checked}, lll}, {1, separator},
+        {1, {"sss", "&StatusBar", "Ctrl+K", Look::checked}, sss}, {1, separator},
+        {1, {"toolbox", "&ToolBox", "Ctrl+T", Look::checked}, toolbox}, {1, separator},
         {1, {"output", "&Output", "Ctrl+U"}, output},
     {0, {"electricalcomponents", " &Electrical Components "}},
         {1, {"resistance", "&Resistance"}, resistanc}, {1, separator},
@@ -82,11 +95,46 @@ constexpr Command menu[] = {
             {2, {"tunneldiode", "&Tunnel Diode"}, tunneldiode}, {1, separator},
         {1, {"buffering", "&Buffer"}, buffer}, {1, separator},
         {1, {"opamp", "&Op - Amplifier"}, opamp},
+    {0, {"cc", " Components Color "}},
+        {1, {"resistancecolor", "Resistance"}, pickColor<&CanvasState::resistanceColor>},
+        {1, {"inductancecolor", "Inductance"}, pickColor<&CanvasState::inductanceColor>},
+        {1, {"capacitancecolor", "Capacitance"}, pickColor<&CanvasState::capacitanceColor>},
+        {1, {"batterycolor", "Battery"}},
+        {1, {"motorcolor", "Motors"}, pickColor<&CanvasState::motorColor>},
+        {1, {"generatorcolor", "Generators"}, pickColor<&CanvasState::generatorColor>},
+        {1, {"transformercolor", "Transformers"}, pickColor<&CanvasState::transformerColor>},
+        {1, {"ar", "Armature"}, pickColor<&CanvasState::armatureColor>},
+        {1, {"field1", "Field"}, pickColor<&CanvasState::fieldColor>},
+        {1, {"transistorcolor", "&Transistors"}, pickColor<&CanvasState::transformerColor>},
+        {1, {"Thyristorscolor", "Thyristors"}},
+        {1, {"gatescolor", "Gates"}, pickColor<&CanvasState::gatesColor>},
+        {1, {"diodescolor", "Diodes"}, pickColor<&CanvasState::diodesColor>},
+        {1, {"buffercolor", "&Buffer"}, pickColor<&CanvasState::bufferColor>},
+        {1, {"opampcolor", "Op-Amplifier"}, pickColor<&CanvasState::opampColor>},
+    {0, {"fc", " Form Color "}},
+        {1, {"forec", "Forecolor", "Ctrl+F"}, forec}, {1, separator},
+        {1, {"bc", "Backcolor", "Ctrl+B"}, bc},
     {0, {control::rc, "&Rightclick", "", Look::hidden}},
         {1, {"eras", "&Eraser"}, eraser}, {1, separator},
         {1, {"penc", "&Pencil"}, pencil1},
         {1, {"rectang", "&Rectangle"}, rectan},
-        {1, {"lineee", "&Line"}, linee},
+        {1, {"lineee", "&Line"}, linee}, {1, separator},
+        {1, {"foreco", "&Fore Color"}, forec},
+        {1, {"backc", "&Back Color"}, bc},
+    {0, {"askc", " &Ask Confirmation"}},
+        {1, {"m", "&Motors", "", Look::checked}, toggleConfirm<motorsConfirm>}, {1, separator},
+        {1, {"g", "&Generators", "", Look::checked}, toggleConfirm<generatorsConfirm>}, {1, separator},
+        {1, {"tr", "&Transformers", "", Look::checked}, toggleConfirm<transformersConfirm>}, {1, separator},
+        {1, {"aar", "&Armature", "", Look::checked}, toggleConfirm<armatureConfirm>}, {1, separator},
+        {1, {"f", "&Field", "", Look::checked}, toggleConfirm<fieldConfirm>}, {1, separator},
+        {1, {"npnt", "&NPN Transistors", "", Look::checked}, toggleConfirm<npnConfirm>}, {1, separator},
+        {1, {"pnpt", "&PNP Transistors", "", Look::checked}, toggleConfirm<pnpConfirm>}, {1, separator},
+        {1, {"jfett", "&JEFT Transistors", "", Look::checked}, toggleConfirm<jfetConfirm>}, {1, separator},
+        {1, {"thy", "T&hyristors", "", Look::checked}, toggleConfirm<thyristorsConfirm>}, {1, separator},
+        {1, {"gg", "&Gates", "", Look::checked}, toggleConfirm<gatesConfirm>}, {1, separator},
+        {1, {"dii", "&Diodes", "", Look::checked}, toggleConfirm<diodesConfirm>}, {1, separator},
+        {1, {"buffer1", "&Buffer", "", Look::checked}, toggleConfirm<bufferConfirm>}, {1, separator},
+        {1, {"opamp1", "&OP - AMP", "", Look::checked}, toggleConfirm<opampConfirm>}, {1, separator},
     {0, {"ae", " &Enable "}},
         {1, {"jj", "Automatic Jumper", "", Look::unchecked}, jj},
 };
@@ -99,11 +147,26 @@ struct Clickable {
 };
 
 constexpr Clickable controls[] = {
-    {mainWindow, control::Option2, Option2},   {mainWindow, control::Option3, Option3},
-    {mainWindow, control::Option4, Option4},   {mainWindow, control::Option5, Option5},
-    {mainWindow, control::Command3, Command3}, {mainWindow, control::Command7, Command7},
-    {mainWindow, control::Command8, Command8}, {form4::window, form4::print, form4::printForm},
+    {mainWindow, control::Option2, Option2},         {mainWindow, control::Option3, Option3},
+    {mainWindow, control::Option4, Option4},         {mainWindow, control::Option5, Option5},
+    {mainWindow, control::Command3, Command3},       {mainWindow, control::Command7, Command7},
+    {mainWindow, control::Command8, Command8},       {mainWindow, control::Label1, Label1},
+    {form4::window, form4::print, form4::printForm},
 };
+
+Handler handlerOf(Name window, Name name)
+{
+    const auto* const control =
+        std::ranges::find_if(controls, [&](const Clickable& row) { return row.window == window && row.name == name; });
+    if (control != std::end(controls)) {
+        return control->handler;
+    }
+    if (window != mainWindow) {
+        return nullptr;
+    }
+    const auto* const item = std::ranges::find(menu, name, [](const Command& row) { return row.item.name; });
+    return item != std::end(menu) ? item->handler : toolHandler(name);
+}
 
 } // namespace
 
@@ -116,13 +179,7 @@ void addMenus(Form1& form)
 
 void runCommand(Form1& form, Name window, Name name)
 {
-    const auto* const control =
-        std::ranges::find_if(controls, [&](const Clickable& row) { return row.window == window && row.name == name; });
-    if (control != std::end(controls)) {
-        return control->handler(form);
-    }
-    const auto* const command = std::ranges::find(menu, name, [](const Command& row) { return row.item.name; });
-    if (window == mainWindow && command != std::end(menu) && command->handler != nullptr) {
-        command->handler(form);
+    if (const Handler handler = handlerOf(window, name)) {
+        handler(form);
     }
 }

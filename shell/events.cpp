@@ -5,6 +5,8 @@
 #include "circuit/supply_panel.h"
 #include "platform/runtime_error.h"
 #include "shell/commands.h"
+#include "shell/files.h"
+#include "shell/toolbox.h"
 #include "shell/view.h"
 
 namespace {
@@ -37,6 +39,8 @@ void dispatch(Form1& form, const Event& event)
     case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
     case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
     case Event::Kind::click: return runCommand(form, event.window, event.name);
+    case Event::Kind::hover: return hover(form, event.name);
+    case Event::Kind::close: return exit_(form);
     case Event::Kind::tick: return tick(form, event.name);
     }
 }
@@ -48,10 +52,12 @@ void deliver(Form1& form, const Event& event)
     try {
         dispatch(form, event);
     } catch (const RuntimeError& error) {
-        form.dialogs.messageBox(error.what(), Box::okOnly, "Schemlet 2.0");
+        form.dialogs.messageBox(error.what(), Box::okWarning, "Schemlet 2.0");
     }
     // Neither a tick nor a move changes what the status bar shows.
-    if (event.kind != Event::Kind::tick && event.kind != Event::Kind::mouseMove) {
+    const bool quiet =
+        event.kind == Event::Kind::tick || event.kind == Event::Kind::mouseMove || event.kind == Event::Kind::hover;
+    if (!quiet) {
         showStatusSoon(form);
     }
 }

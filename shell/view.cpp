@@ -1,6 +1,7 @@
 #include "shell/view.h"
 
 #include "shell/commands.h"
+#include "shell/toolbox.h"
 
 #include <string>
 
@@ -28,6 +29,21 @@ std::string_view toolText(const CanvasState& state)
     return state.pencilTool == 1 ? "Pencil" : "Pen";
 }
 
+/// The pointer over the canvas: it points where the tool's ink starts.
+Cursor cursorFor(const CanvasState& state)
+{
+    if (state.eraseMode == 1) {
+        return {"eraser", 12, 12};
+    }
+    if (state.lineTool == 1) {
+        return {"line", 8, 8};
+    }
+    if (state.rectTool == 1) {
+        return {"box", 8, 8};
+    }
+    return state.pencilTool == 1 ? Cursor{"pencil", 2, 21} : Cursor{"pen", 2, 21};
+}
+
 std::string wholeTwips(double twips)
 {
     return std::to_string(static_cast<long long>(twips));
@@ -47,6 +63,7 @@ void prepareControls(Form1& form)
 void openMainWindow(Form1& form)
 {
     addMenus(form);
+    addTools(form);
     prepareControls(form);
     load(form);
     showStatus(form);
@@ -62,6 +79,7 @@ void showStatus(Form1& form)
     form.controls.setText(control::sbPen, wholeTwips(form.x) + ", " + wholeTwips(form.y));
     form.controls.setText(control::sbHeading, headingText(form.heading));
     form.controls.setText(control::sbTool, toolText(form));
+    form.controls.setCursor(cursorFor(form));
     form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
 }
 

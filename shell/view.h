@@ -5,7 +5,8 @@
 /// Fills the main window, loads its state, shows it and starts its timer. Once, at start.
 void openMainWindow(Form1& form);
 
-/// Brings the status bar's panels behind the hint up to date: pen, heading, tool in hand, erase mode.
+/// Brings what shows the state up to date: the status bar's panels behind the hint (pen, heading, tool in hand, erase
+/// mode) and the pointer over the canvas.
 void showStatus(Form1& form);
 
 /// The same a moment later, once for all events until then: ink comes first, and nobody reads faster.

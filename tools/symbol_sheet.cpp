@@ -103,7 +103,8 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPoint pen)
     surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
     QuietWindow window;
     QuietDialogs dialogs;
-    Form1 form(surface, window, dialogs, window); // all switches off: nothing asks
+    QuietPictures pictures;
+    Form1 form(surface, window, dialogs, pictures, window); // all switches off: nothing asks
     form.heading = heading;
     form.x = pen.x() * twipsPerPixel;
     form.y = pen.y() * twipsPerPixel;

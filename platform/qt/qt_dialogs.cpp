@@ -1,9 +1,14 @@
 #include "platform/qt/qt_dialogs.h"
 
+#include "platform/qt/colors.h"
 #include "platform/qt/text.h"
+#include "platform/runtime_error.h"
 
 #include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
 #include <QGridLayout>
+#include <QImageReader>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -49,6 +54,52 @@ private:
     bool m_dropping = true;
 };
 
+/// Buttons and icon as the numbers of the style say.
+void applyStyle(QMessageBox& box, Box style)
+{
+    switch (style) {
+    case Box::okOnly: break;
+    case Box::okWarning: box.setIcon(QMessageBox::Warning); break;
+    case Box::yesNoQuestion:
+        box.setIcon(QMessageBox::Question);
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        break;
+    case Box::yesNoCancelWarning:
+        box.setIcon(QMessageBox::Warning);
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        break;
+    }
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(box.button(QMessageBox::Cancel) != nullptr ? QMessageBox::Cancel : QMessageBox::No);
+}
+
+int answerOf(int button)
+{
+    switch (button) {
+    case QMessageBox::Yes: return answer::yes;
+    case QMessageBox::Cancel: return answer::cancel;
+    default: return answer::no;
+    }
+}
+
+/// Every picture that the toolkit reads, then all files.
+QStringList pictureFilters()
+{
+    QString patterns;
+    for (const QByteArray& format : QImageReader::supportedImageFormats()) {
+        patterns += " *." + QString::fromLatin1(format);
+    }
+    return {"Pictures (" + patterns.trimmed() + ")", "All files (*)"};
+}
+
+/// Empty if the user cancels.
+QString chooseFile(QFileDialog& dialog)
+{
+    dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
+    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
+}
+
 } // namespace
 
 QWidget* QtDialogs::front() const
@@ -63,18 +114,10 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     box.setWindowTitle(toQString(title));
     box.setText(toQString(prompt));
     box.setTextFormat(Qt::PlainText);
-    switch (style) {
-    case Box::okOnly: box.setIcon(QMessageBox::Warning); break;
-    case Box::yesNoQuestion:
-        box.setIcon(QMessageBox::Question);
-        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        box.setDefaultButton(QMessageBox::Yes);
-        box.setEscapeButton(QMessageBox::No);
-        break;
-    }
+    applyStyle(box, style);
     makeRoomForTitle(box);
     const StrayKeys strayKeys(StrayKeys::Drop::repeatsAndArrows);
-    return box.exec() == QMessageBox::Yes ? answer::yes : answer::no;
+    return answerOf(box.exec());
 }
 
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
@@ -85,4 +128,37 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
     box.setTextValue(toQString(preset));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+Color QtDialogs::pickColor()
+{
+    QColorDialog dialog(toQColor(m_color), front());
+    dialog.setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
+    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
+    if (dialog.exec() == QDialog::Accepted) {
+        m_color = toColor(dialog.selectedColor());
+    }
+    return m_color;
+}
+
+std::string QtDialogs::openFile()
+{
+    QFileDialog dialog(front(), "Open");
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(pictureFilters());
+    return chooseFile(dialog).toStdString();
+}
+
+std::string QtDialogs::saveFile(std::string_view extension, std::string_view filter)
+{
+    const QStringList descriptionAndPattern = toQString(filter).split('|');
+    QFileDialog dialog(front(), "Save");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(toQString(extension));
+    dialog.setNameFilter(descriptionAndPattern.value(0) + " (" + descriptionAndPattern.value(1) + ")");
+    const QString path = chooseFile(dialog);
+    if (path.isEmpty()) {
+        throw RuntimeError(Fault::dialogCancelled, "Nothing was chosen.");
+    }
+    return path.toStdString();
 }

@@ -33,9 +33,10 @@ QFont canvasFont()
 
 QtSurface::QtSurface() : m_font(canvasFont()) {}
 
-void QtSurface::growTo(QSize pixels)
+void QtSurface::growTo(QSize window)
 {
-    const QSize size = m_image.size().expandedTo(pixels);
+    m_window = window;
+    const QSize size = m_image.size().expandedTo(window);
     if (size == m_image.size()) {
         return;
     }
@@ -45,6 +46,34 @@ void QtSurface::growTo(QSize pixels)
         QPainter(&larger).drawImage(0, 0, m_image);
     }
     m_image = larger;
+}
+
+void QtSurface::setPicture(const QImage& picture)
+{
+    startAfresh(m_window.expandedTo(picture.size()));
+    QPainter(&m_image).drawImage(0, 0, picture);
+}
+
+void QtSurface::clear()
+{
+    startAfresh(m_window);
+}
+
+void QtSurface::setBackColor(Color color)
+{
+    m_backColor = toQColor(color).rgb();
+    startAfresh(m_image.size());
+}
+
+void QtSurface::startAfresh(QSize size)
+{
+    if (size != m_image.size()) {
+        m_image = QImage(size, QImage::Format_RGB32);
+    }
+    m_image.fill(m_backColor);
+    if (changed) {
+        changed(m_image.rect());
+    }
 }
 
 void QtSurface::line(float x1, float y1, float x2, float y2)

@@ -21,7 +21,9 @@ public:
     [[nodiscard]] const QImage& image() const { return m_image; }
     /// Makes room for a larger window; the image never shrinks, so that nothing drawn is lost. New room has the back
     /// colour.
-    void growTo(QSize pixels);
+    void growTo(QSize window);
+    /// Lays a picture on clean paper; the image becomes as large as the window and the picture need.
+    void setPicture(const QImage& picture);
 
     void line(float x1, float y1, float x2, float y2) override;
     void box(float x1, float y1, float x2, float y2) override;
@@ -29,6 +31,8 @@ public:
     void arc(float x, float y, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(float x, float y) const override;
+    void clear() override;
+    void setBackColor(Color color) override;
     void setForeColor(Color color) override;
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
@@ -36,10 +40,12 @@ public:
     void setCurrent(float x, float y) override { m_current = {x, y}; }
 
 private:
+    void startAfresh(QSize size);
     [[nodiscard]] ink::Image pixels();
     [[nodiscard]] ink::Pen pen() const;
     void report(const ink::Area& area) const;
 
+    QSize m_window; ///< as far as the user sees, in pixels
     QImage m_image;
     QFont m_font;
     QRgb m_foreColor = qRgb(0, 0, 0);

@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
@@ -17,6 +18,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QToolBar>
 #include <cmath>
 
 namespace {
@@ -40,6 +42,18 @@ QColor readableOn(const QColor& ground)
 {
     constexpr double equalContrast = 0.179;
     return luminance(ground) > equalContrast ? Qt::black : Qt::white;
+}
+
+constexpr QSize cursorSize(24, 24); // pixels
+
+/// Whether an object belongs to this window and not to another one that the window owns.
+bool liesIn(const QWidget& window, const QObject& object)
+{
+    const QObject* up = &object;
+    while (qobject_cast<const QWidget*>(up) == nullptr) {
+        up = up->parent();
+    }
+    return qobject_cast<const QWidget*>(up)->window() == &window;
 }
 
 /// What the form says of a control in properties of our own.
@@ -69,11 +83,14 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),
       m_report(std::move(report))
 {
-    for (QObject* const control : form.findChildren<QObject*>()) {
-        m_named.emplace(control->objectName().toStdString(), control);
-    }
-    for (QWidget* const control : form.findChildren<QWidget*>()) {
-        applyFormProperties(*control);
+    for (QObject* const object : form.findChildren<QObject*>()) {
+        if (!liesIn(form, *object)) {
+            continue;
+        }
+        m_named.emplace(object->objectName().toStdString(), object);
+        if (auto* const control = qobject_cast<QWidget*>(object)) {
+            applyFormProperties(*control);
+        }
     }
     connectControls();
     if (m_canvas != nullptr) {
@@ -92,12 +109,44 @@ void QtWindow::connectControls()
             connect(text, &QLineEdit::returnPressed, this, [this, name = Name(name)] {
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::enter});
             });
+        } else if (object->property("reportsHovering").toBool()) {
+            reportHovering(dynamic_cast<QWidget&>(*object));
         } else if (object->property("isPanel").toBool()) {
             new PanelKeys(dynamic_cast<QWidget&>(*object), [this, name = Name(name)] {
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::escape});
             });
         }
     }
+}
+
+/// A frame that lies on the canvas keeps the mouse to itself and its controls.
+void QtWindow::reportHovering(QWidget& frame)
+{
+    QList<QWidget*> widgets = frame.findChildren<QWidget*>();
+    widgets.push_back(&frame);
+    for (QWidget* const widget : widgets) {
+        widget->setMouseTracking(true);
+        widget->installEventFilter(this);
+    }
+}
+
+bool QtWindow::filterHovering(QObject& watched, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::MouseMove:
+        if (dynamic_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton) {
+            break;
+        }
+        if (const auto found = m_named.find(watched.objectName().toStdString()); found != m_named.end()) {
+            report({.kind = Event::Kind::hover, .name = found->first});
+        }
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease: break;
+    default: return false;
+    }
+    return watched.property("reportsHovering").toBool(); // the rest goes no further than the frame
 }
 
 void QtWindow::report(const Event& event) const
@@ -121,7 +170,53 @@ void QtWindow::showWindow()
 
 void QtWindow::printForm()
 {
-    printPicture(m_form.grab().toImage(), m_form.windowTitle());
+    printPicture(m_canvas != nullptr ? pictureOfCanvas() : m_form.grab().toImage(), m_form.windowTitle());
+}
+
+/// The canvas with what lies on it, but without what only guides the hand.
+QImage QtWindow::pictureOfCanvas()
+{
+    std::vector<Name> hidden;
+    for (const auto& [name, object] : m_named) {
+        if (object->property("notPrinted").toBool() && visible(name)) {
+            hidden.emplace_back(name);
+        }
+    }
+    for (const Name name : hidden) {
+        setVisible(name, false);
+    }
+    const QImage picture = m_canvas->parentWidget()->grab(m_canvas->geometry()).toImage();
+    for (const Name name : hidden) {
+        setVisible(name, true);
+    }
+    return picture;
+}
+
+void QtWindow::endProgram()
+{
+    QCoreApplication::quit();
+}
+
+void QtWindow::addToolButton(Name key, std::string_view tip)
+{
+    auto& bar = *m_form.findChild<QToolBar*>();
+    if (key.empty()) {
+        bar.addSeparator();
+        return;
+    }
+    QAction* const button = bar.addAction(QIcon(":/pictures/toolbar/" + toQString(key) + ".svg"), toQString(key));
+    button->setToolTip(toQString(tip));
+    connect(button, &QAction::triggered, this, [this, key] { report({.kind = Event::Kind::click, .name = key}); });
+    connect(button, &QAction::hovered, this, [this, key] { report({.kind = Event::Kind::hover, .name = key}); });
+}
+
+void QtWindow::setCursor(const Cursor& cursor)
+{
+    if (cursor.picture != m_cursor) {
+        m_cursor = cursor.picture;
+        const QIcon picture(":/pictures/cursors/" + toQString(cursor.picture) + ".svg");
+        m_canvas->setCursor(QCursor(picture.pixmap(cursorSize, m_form.devicePixelRatioF()), cursor.hotX, cursor.hotY));
+    }
 }
 
 void QtWindow::addMenuItem(int depth, const MenuItem& item)
@@ -130,7 +225,8 @@ void QtWindow::addMenuItem(int depth, const MenuItem& item)
     auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
     action->setSeparator(separator);
     action->setShortcut(QKeySequence::fromString(toQString(item.shortcut), QKeySequence::PortableText));
-    action->setCheckable(item.look == Look::unchecked);
+    action->setCheckable(item.look == Look::unchecked || item.look == Look::checked);
+    action->setChecked(item.look == Look::checked);
     action->setVisible(item.look != Look::hidden);
     if (!item.name.empty()) {
         addNamed(item.name, *action);
@@ -172,6 +268,9 @@ void QtWindow::popUp(Name menu)
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    if (qobject_cast<QMenu*>(watched) == nullptr) {
+        return filterHovering(*watched, *event) || QObject::eventFilter(watched, event);
+    }
     // An open popup menu gets the release of the button that opened it; it is the canvas's all the same.
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto& release = dynamic_cast<const QMouseEvent&>(*event);

@@ -25,6 +25,9 @@ public:
     void setCaption(std::string_view title) override;
     void showWindow() override;
     void printForm() override;
+    void endProgram() override;
+    void addToolButton(Name key, std::string_view tip) override;
+    void setCursor(const Cursor& cursor) override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void popUp(Name menu) override;
     void setChecked(Name item, bool checked) override;
@@ -47,6 +50,9 @@ public:
 
 private:
     void connectControls();
+    void reportHovering(QWidget& frame);
+    [[nodiscard]] bool filterHovering(QObject& watched, const QEvent& event);
+    [[nodiscard]] QImage pictureOfCanvas();
     void report(const Event& event) const;
     /// The object with this name if it is of this kind, else null.
     template <typename Kind> [[nodiscard]] Kind* findIf(Name name) const;
@@ -57,6 +63,7 @@ private:
     QWidget& m_form;
     CanvasWidget* m_canvas; ///< null in a form without one
     std::string m_name;
+    Name m_cursor;
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
     std::vector<QAction*> m_lastItems; ///< the last menu row of each depth

@@ -103,6 +103,31 @@ std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view 
     return text;
 }
 
+std::string ScriptedDialogs::openFile()
+{
+    EXPECT_TRUE(fileToOpen) << "unexpected file dialog";
+    return std::exchange(fileToOpen, {}).value_or("");
+}
+
+std::string ScriptedDialogs::saveFile(std::string_view extension, std::string_view filter)
+{
+    lastFilter = std::string(extension) + ", " + std::string(filter);
+    EXPECT_TRUE(fileToSave) << "unexpected file dialog";
+    const std::string path = std::exchange(fileToSave, {}).value_or("");
+    if (path.empty()) {
+        throw RuntimeError(Fault::dialogCancelled, "");
+    }
+    return path;
+}
+
+void StandInPictures::note(const char* what, std::string_view path)
+{
+    notes += what + std::string(path) + "\n";
+    if (const auto thrown = std::exchange(fault, {})) {
+        throw RuntimeError(*thrown, "Invalid picture");
+    }
+}
+
 StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> more)
 {
     for (const auto& some : {names, more}) {
@@ -123,7 +148,7 @@ StandInWindow::Control& StandInWindow::at(Name name)
 
 void StandInWindow::addMenuItem(int /*depth*/, const MenuItem& item)
 {
-    m_controls.emplace(item.name, Control{});
+    m_controls[std::string(item.name)].checked = item.look == Look::checked;
 }
 
 Bench::Bench()

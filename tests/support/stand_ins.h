@@ -2,6 +2,7 @@
 
 #include "canvas/canvas_state.h"
 #include "circuit/output_window.h"
+#include "platform/runtime_error.h"
 
 #include <deque>
 #include <map>
@@ -26,6 +27,8 @@ public:
     void arc(float x, float y, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(float x, float y) const override;
+    void clear() override { note("clear"); }
+    void setBackColor(Color color) override { note("back " + std::to_string(color)); }
     void setForeColor(Color color) override;
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
@@ -52,7 +55,14 @@ public:
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
+    Color pickColor() override { return picked; }
+    std::string openFile() override;
+    std::string saveFile(std::string_view extension, std::string_view filter) override;
 
+    Color picked = black;                  ///< what the colour dialog says
+    std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
+    std::optional<std::string> fileToSave;
+    std::string lastFilter;
     std::string lastPrompt; ///< of any box
     Box lastStyle = Box::okOnly;
 
@@ -61,13 +71,26 @@ private:
     std::deque<std::pair<std::string, int>> m_expected;
 };
 
+/// Notes what is asked of it.
+class StandInPictures final : public Pictures {
+public:
+    std::string notes;
+    std::optional<Fault> fault; ///< thrown by the next call
+
+    void loadBackground(std::string_view path) override { note("load ", path); }
+    void saveImage(std::string_view path) override { note("save ", path); }
+
+private:
+    void note(const char* what, std::string_view path);
+};
+
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
 inline constexpr Name formControls[] = {
-    control::Canvas,  control::Picture1,  control::Shape1,   control::Label27,  control::sb,
-    control::sbPen,   control::sbHeading, control::sbTool,   control::sbErase,  control::panel,
-    control::sup,     control::bat,       control::Label11,  control::Label12,  control::Label13,
-    control::Label28, control::Option1,   control::Option2,  control::Option3,  control::Option4,
-    control::Option5, control::Text11,    control::Command3, control::Command7, control::Command8};
+    control::Canvas,    control::Picture1, control::Shape1,  control::Label27, control::sb,       control::sbPen,
+    control::sbHeading, control::sbTool,   control::sbErase, control::panel,   control::sup,      control::bat,
+    control::Label11,   control::Label12,  control::Label13, control::Label28, control::Option1,  control::Option2,
+    control::Option3,   control::Option4,  control::Option5, control::Text11,  control::Command3, control::Command7,
+    control::Command8,  control::Toolbar1, control::Frame2,  control::Label1,  control::statusBar};
 
 /// Keeps what was set last.
 class StandInWindow final : public Window {
@@ -88,6 +111,8 @@ public:
     std::string caption;
     std::string focused; ///< the control that was given the keyboard last
     Point placedAwayFrom;
+    std::string cursor;
+    int timesEnded = 0;
     int timesShown = 0;
     int timesPrinted = 0;
     std::string poppedUp;
@@ -100,6 +125,9 @@ public:
     void showWindow() override { ++timesShown; }
     void printForm() override { ++timesPrinted; }
     void addMenuItem(int depth, const MenuItem& item) override;
+    void endProgram() override { ++timesEnded; }
+    void addToolButton(Name key, std::string_view /*tip*/) override { m_controls.emplace(key, Control{}); }
+    void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
     void popUp(Name menu) override { poppedUp = menu; }
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
     [[nodiscard]] bool checked(Name item) const override { return m_controls.find(item)->second.checked; }
@@ -126,8 +154,9 @@ struct Bench {
     RecordingSurface surface;
     StandInWindow window{formControls};
     ScriptedDialogs dialogs;
+    StandInPictures pictures;
     StandInWindow output{form4::captions, form4::values};
-    Form1 form{surface, window, dialogs, output};
+    Form1 form{surface, window, dialogs, pictures, output};
 
     Bench();
 

@@ -1,0 +1,14 @@
+#include "platform/qt/qt_pictures.h"
+
+#include "platform/qt/picture_files.h"
+#include "platform/qt/text.h"
+
+void QtPictures::loadBackground(std::string_view path)
+{
+    m_surface.setPicture(loadPicture(toQString(path)));
+}
+
+void QtPictures::saveImage(std::string_view path)
+{
+    savePicture(m_surface.image(), toQString(path));
+}

@@ -1,0 +1,18 @@
+#include "shell/colors.h"
+
+#include "circuit/supply_panel.h"
+
+void forec(Form1& form)
+{
+    pickColor<&CanvasState::wireColor>(form);
+}
+
+void bc(Form1& form)
+{
+    pickColor<&CanvasState::canvasBackColor>(form);
+    if (form.canvasBackColor != black) {
+        form.surface.setBackColor(form.canvasBackColor);
+        form.controls.setBackColor(control::Frame2, form.canvasBackColor);
+    }
+    colorPanel(form);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+#include <array>
+
+/// The menu items of the confirmation switches, in the order of the switches.
+inline constexpr std::array<Name, confirmCount> confirmItems = {"m",     "g",   "tr", "aar", "f",       "pnpt",  "npnt",
+                                                                "jfett", "thy", "gg", "dii", "buffer1", "opamp1"};
+
+/// Flips a family's switch and, on its own, the mark of its menu item.
+template <Confirm family> void toggleConfirm(Form1& form)
+{
+    form.confirm[family] = form.confirm[family] == 1 ? 0 : 1;
+    form.controls.setChecked(confirmItems[family], !form.controls.checked(confirmItems[family]));
+}

@@ -1,0 +1,115 @@
+#include "shell/files.h"
+
+#include "circuit/output_window.h"
+#include "platform/runtime_error.h"
+#include "shell/confirmations.h"
+
+#include <filesystem>
+
+namespace {
+
+void askToSave(Form1& form)
+{
+    form.heading = form.dialogs.messageBox("Do you want to save changes?", Box::yesNoCancelWarning, "Schemlet 2.0");
+}
+
+std::string withoutFolder(std::string_view path)
+{
+    return std::filesystem::path(path).filename().string();
+}
+
+} // namespace
+
+void new_(Form1& form)
+{
+    form.penMoved = 0;
+    if (form.savedMark != 0) {
+        return Command4(form);
+    }
+    askToSave(form);
+    const int reply = form.heading;
+    if (reply == answer::yes) {
+        save(form);
+    }
+    if (reply == answer::yes || reply == answer::no) {
+        Command4(form);
+        form.heading = reply;
+    }
+}
+
+void open(Form1& form)
+{
+    form.pencilTool = 0;
+    if (form.penMoved != 1) {
+        return;
+    }
+    askToSave(form);
+    const bool yes = form.heading == answer::yes;
+    if (form.heading == answer::cancel) {
+        return;
+    }
+    if (yes) {
+        save(form);
+    }
+    const std::string path = form.dialogs.openFile();
+    if (!path.empty()) {
+        form.pictures.loadBackground(path);
+    }
+    setTitle(form, path.empty() && !yes ? std::string(noFile) : withoutFolder(path));
+}
+
+void save(Form1& form)
+{
+    form.savedMark = 100; // first of all: a save that fails or is cancelled counts too
+    try {
+        const std::string path = form.dialogs.saveFile("JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
+        form.pictures.saveImage(path);
+        form.fileTitle = withoutFolder(path);
+        setTitle(form, form.fileTitle);
+    } catch (const RuntimeError& error) {
+        // Any other failure is silent; what was on the disk is still there.
+        if (error.fault == Fault::dialogCancelled) {
+            form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, "Schemlet 2.0");
+        }
+    }
+}
+
+void print(Form1& form)
+{
+    form.printAnswer =
+        form.dialogs.messageBox(" Do you want to print this form?", Box::yesNoCancelWarning, "Schemlet 2.0");
+    if (form.printAnswer == answer::yes) {
+        form.controls.printForm();
+    }
+}
+
+void exit_(Form1& form)
+{
+    askToSave(form);
+    if (form.heading == answer::yes) {
+        save(form);
+        endf(form);
+    } else if (form.heading == answer::no) {
+        endf(form);
+    }
+}
+
+void Command4(Form1& form)
+{
+    for (const Name value : form4::values) {
+        form.form4.setText(value, "0");
+    }
+    form.surface.setBackColor(white);
+    form.surface.clear();
+    form.surface.setDrawWidth(2);
+    form.controls.setVisible(control::Label27, false);
+    for (const Name item : confirmItems) {
+        form.controls.setChecked(item, true);
+    }
+    load(form);
+}
+
+void endf(Form1& form)
+{
+    form.controls.endProgram();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+// The File menu. The answer to the question about saving is stored in the heading and stays there until the next arrow
+// key: symbols mean nothing by 6 and 7, and draw leftward for 2.
+
+/// Starts over, after a question if anything changed.
+void new_(Form1& form);
+
+/// Takes a picture file for the canvas. Only once the pen has moved since start or New. Throws invalidPicture.
+void open(Form1& form);
+
+/// Writes the canvas as a BMP picture. Cancelled or failed, it still counts as saved; only cancelling brings a message.
+void save(Form1& form);
+
+/// Prints the canvas after a question. Throws printerError.
+void print(Form1& form);
+
+/// Ends the program after a question.
+void exit_(Form1& form);
+
+/// The reset behind New: an empty white canvas, a pen of normal width, no erase mode, all questions on, totals 0.
+void Command4(Form1& form);
+
+/// Ends the program.
+void endf(Form1& form);

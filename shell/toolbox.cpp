@@ -1,0 +1,137 @@
+#include "shell/toolbox.h"
+
+#include "canvas/keyboard.h"
+#include "canvas/mouse.h"
+#include "circuit/output_window.h"
+#include "circuit/supply_panel.h"
+#include "circuit/valued_components.h"
+#include "shell/colors.h"
+#include "shell/files.h"
+#include "symbols/buffer_not_opamp.h"
+#include "symbols/gates.h"
+
+#include <algorithm>
+#include <span>
+
+namespace {
+
+void flipMark(Form1& form, Name item)
+{
+    form.controls.setChecked(item, !form.controls.checked(item));
+}
+
+/// Unlike the menu's command it flips the mark on its own.
+void toolBoxButton(Form1& form)
+{
+    form.controls.setVisible(control::Frame2, !form.controls.visible(control::Frame2));
+    flipMark(form, "toolbox");
+}
+
+void eraserPicture(Form1& form)
+{
+    form.controls.setText(control::sb, " Press 'E' to return to normal mode ");
+    eraser1(form);
+}
+
+struct ToolButton {
+    Name name;
+    std::string_view tip;
+    std::string_view hint; ///< for the status bar
+    Handler handler = nullptr;
+};
+
+constexpr ToolButton toolbar[] = {
+    {"New", "New (Ctrl+N)", " Click to start a new drawing ", new_},
+    {"Open", "Open (Ctrl+O)", " Click to open a picture as the drawing's background ", open},
+    {"Save", "Save (Ctrl+S)", " Click to save the drawing as a picture ", save},
+    {"Print", "Print (Ctrl+P)", " Click to print the drawing ", print},
+    {},
+    {"Output", "Output (Ctrl+U)", " Click to see the totals and what follows from them ", output},
+    {"ToolBox", "ToolBox (Ctrl+T)", " Click to show or hide the toolbox ", toolBoxButton},
+    {},
+    {"Line", "Line (Ctrl+L)", " Click to draw lines with the mouse ", linee},
+    {"Pencil", "Pencil (Ctrl+C)", " Click to draw free-hand with the mouse ", pencil1},
+    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the colour of wires ", forec},
+    {"Back", "Back Color (Ctrl+B)", " Click to choose the colour of the canvas, which wipes it ", bc},
+    {"Eraser", "Eraser (Ctrl+E)", " Click to switch erase mode on or off ", eraser1},
+    {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan},
+};
+
+struct ToolPicture {
+    Name name;
+    std::string_view hint;
+    Handler handler;
+};
+
+constexpr ToolPicture pictures[] = {
+    {"Image1", " Click to draw AND Gate ", and_},         {"Image2", " Click to draw OR Gate ", or_},
+    {"Image3", " Click to draw NOT Gate ", notgate},      {"Image4", " Click to draw NOR Gate ", nor},
+    {"Image5", " Click to draw NAND Gate ", nand},        {"Image15", " Click to draw RESISTANCE", resistanc},
+    {"Image16", " Click to draw INDUCTANCE ", inductanc}, {"Image17", " Click to draw CAPACITANCE ", capacitanc},
+    {"Image18", " Click to draw SUPPLY", suppl},          {"Image19", " Click to draw BATTERY", batter},
+    {"Image20", " Click to get ERASER", eraserPicture},   {"Image7", " Click to Close the ToolBox ", toolbox},
+};
+
+template <typename Tool> const Tool* find(std::span<const Tool> tools, Name name)
+{
+    const auto found = std::ranges::find(tools, name, &Tool::name);
+    return found == tools.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+void addTools(Form1& form)
+{
+    for (const ToolButton& button : toolbar) {
+        form.controls.addToolButton(button.name, button.tip);
+    }
+}
+
+Handler toolHandler(Name name)
+{
+    if (const auto* const button = find<ToolButton>(toolbar, name)) {
+        return button->handler;
+    }
+    const auto* const picture = find<ToolPicture>(pictures, name);
+    return picture == nullptr ? nullptr : picture->handler;
+}
+
+void hover(Form1& form, Name name)
+{
+    if (name == control::Frame2) {
+        Label1(form);
+    } else if (const auto* const button = find<ToolButton>(toolbar, name)) {
+        form.controls.setText(control::sb, button->hint);
+    } else if (const auto* const picture = find<ToolPicture>(pictures, name)) {
+        form.controls.setText(control::sb, picture->hint);
+    }
+}
+
+void lll(Form1& form)
+{
+    HideToolbar(form);
+}
+
+void sss(Form1& form)
+{
+    form.controls.setVisible(control::statusBar, !form.controls.visible(control::statusBar));
+    flipMark(form, "sss");
+}
+
+void toolbox(Form1& form)
+{
+    const bool shown = !form.controls.visible(control::Frame2);
+    form.controls.setVisible(control::Frame2, shown);
+    form.controls.setChecked("toolbox", shown);
+}
+
+void HideToolbar(Form1& form)
+{
+    form.controls.setVisible(control::Toolbar1, !form.controls.visible(control::Toolbar1));
+    flipMark(form, "lll");
+}
+
+void Label1(Form1& form)
+{
+    form.toolboxFollow = form.toolboxFollow == 1 ? 0 : 1;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+// Toolbar and toolbox: the tables of their buttons, and how they are shown, hidden and moved.
+
+/// Fills the toolbar.
+void addTools(Form1& form);
+
+/// The command of a toolbar button or a toolbox picture; none for any other name.
+[[nodiscard]] Handler toolHandler(Name name);
+
+/// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself.
+void hover(Form1& form, Name name);
+
+void lll(Form1& form);     ///< View > ToolBar
+void sss(Form1& form);     ///< View > StatusBar
+void toolbox(Form1& form); ///< View > ToolBox
+
+/// Shows or hides the toolbar.
+void HideToolbar(Form1& form);
+
+/// Picks the toolbox up, or puts it down.
+void Label1(Form1& form);
