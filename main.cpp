@@ -2,12 +2,14 @@
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
+#include "platform/qt/termination.h"
 #include "shell/events.h"
 #include "shell/view.h"
 #include "ui_Form1.h"
 #include "ui_Form4.h"
 
 #include <QApplication>
+#include <QSettings>
 
 int main(int argc, char* argv[])
 {
@@ -15,6 +17,9 @@ int main(int argc, char* argv[])
     // Fast pencil strokes need every motion; the platform plug-in switches merging on when it starts, so only now.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     installCanvasAccessibility();
+    endOnSignals();
+    // The toolkit's dialogs would read and write a file of their own in the home directory.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 
     QMainWindow mainView;
     Ui::Form1 form;

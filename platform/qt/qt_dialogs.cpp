@@ -146,6 +146,7 @@ std::string QtDialogs::openFile()
     QFileDialog dialog(front(), "Open");
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(pictureFilters());
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     return chooseFile(dialog).toStdString();
 }
 

@@ -194,7 +194,7 @@ QImage QtWindow::pictureOfCanvas()
 
 void QtWindow::endProgram()
 {
-    QCoreApplication::quit();
+    QCoreApplication::exit();
 }
 
 void QtWindow::addToolButton(Name key, std::string_view tip)
