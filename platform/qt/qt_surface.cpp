@@ -7,36 +7,24 @@
 #include <QPainter>
 #include <cmath>
 
-namespace {
-
-double toPixels(double twips)
-{
-    return twips / twipsPerPixel;
-}
-
-ink::Place toPlace(float x, float y)
-{
-    return {toPixels(x), toPixels(y)};
-}
-
-} // namespace
-
-QFont canvasFont()
+QFont canvasFont(double scale)
 {
     constexpr int lineOf13Pixels = 11; // the pixel size at which DejaVu Sans has lines of 13 pixels
     QFont font("DejaVu Sans");
-    font.setPixelSize(lineOf13Pixels);
+    font.setPixelSize(static_cast<int>(std::lround(lineOf13Pixels * scale)));
     font.setStyleStrategy(QFont::NoAntialias);
     font.setHintingPreference(QFont::PreferFullHinting);
     return font;
 }
 
-QtSurface::QtSurface() : m_font(canvasFont()) {}
+QtSurface::QtSurface(double scale) : m_scale(scale), m_twipsPerPixel(twipsPerPixel / scale), m_font(canvasFont(scale))
+{
+}
 
 void QtSurface::growTo(QSize window)
 {
-    m_window = window;
-    const QSize size = m_image.size().expandedTo(window);
+    m_window = (QSizeF(window) * m_scale).toSize();
+    const QSize size = m_image.size().expandedTo(m_window);
     if (size == m_image.size()) {
         return;
     }
@@ -119,8 +107,8 @@ void QtSurface::print(std::string_view text, bool endLine)
             changed(metrics.boundingRect(string).translated(baseline).adjusted(-1, -1, 1, 1) & m_image.rect());
         }
     }
-    m_current = endLine ? Point{0, m_current.y + metrics.height() * twipsPerPixel}
-                        : Point{m_current.x + advance * twipsPerPixel, m_current.y};
+    m_current = endLine ? Point{0, m_current.y + toTwips(metrics.height())}
+                        : Point{m_current.x + toTwips(advance), m_current.y};
 }
 
 std::optional<Color> QtSurface::point(float x, float y) const
@@ -146,7 +134,7 @@ ink::Image QtSurface::pixels()
 
 ink::Pen QtSurface::pen() const
 {
-    return {m_foreColor, static_cast<double>(m_drawWidth)};
+    return {m_foreColor, m_drawWidth * m_scale};
 }
 
 void QtSurface::report(const ink::Area& area) const

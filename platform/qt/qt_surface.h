@@ -7,20 +7,21 @@
 #include <QImage>
 #include <functional>
 
-/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
-[[nodiscard]] QFont canvasFont();
+/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing. The scale enlarges it.
+[[nodiscard]] QFont canvasFont(double scale = 1);
 
-/// The canvas's ink: one retained image of one pixel per 15 twips, and nothing else, however much is drawn.
+/// The canvas's ink: one retained image and nothing else, however much is drawn. At scale 1 the image has one pixel per
+/// 15 twips, at scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
 class QtSurface final : public Surface {
 public:
-    QtSurface();
+    explicit QtSurface(double scale = 1);
 
-    /// Called with the changed part of the image, in pixels, after every change.
+    /// Called with the changed part of the image, in its own pixels, after every change.
     std::function<void(const QRect&)> changed;
 
     [[nodiscard]] const QImage& image() const { return m_image; }
-    /// Makes room for a larger window; the image never shrinks, so that nothing drawn is lost. New room has the back
-    /// colour.
+    /// Makes room for a window of this many pixels of the unscaled canvas; the image never shrinks, so that nothing
+    /// drawn is lost. New room has the back colour.
     void growTo(QSize window);
     /// Lays a picture on clean paper; the image becomes as large as the window and the picture need.
     void setPicture(const QImage& picture);
@@ -41,11 +42,16 @@ public:
 
 private:
     void startAfresh(QSize size);
+    [[nodiscard]] double toPixels(double twips) const { return twips / m_twipsPerPixel; }
+    [[nodiscard]] double toTwips(double pixels) const { return pixels * m_twipsPerPixel; }
+    [[nodiscard]] ink::Place toPlace(float x, float y) const { return {toPixels(x), toPixels(y)}; }
     [[nodiscard]] ink::Image pixels();
     [[nodiscard]] ink::Pen pen() const;
     void report(const ink::Area& area) const;
 
-    QSize m_window; ///< as far as the user sees, in pixels
+    QSize m_window; ///< as far as the user sees, in the image's pixels
+    double m_scale;
+    double m_twipsPerPixel; ///< of the image
     QImage m_image;
     QFont m_font;
     QRgb m_foreColor = qRgb(0, 0, 0);
