@@ -4,9 +4,12 @@
 #include "platform/qt/qt_window.h"
 #include "platform/qt/termination.h"
 #include "shell/events.h"
-#include "shell/view.h"
+#include "shell/splash.h"
 #include "ui_Form1.h"
+#include "ui_Form2.h"
+#include "ui_Form3.h"
 #include "ui_Form4.h"
+#include "ui_Form6.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -18,25 +21,35 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     installCanvasAccessibility();
     endOnSignals();
+    // The end of the last window would ask every hidden one first, and none of them closes unasked.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     // The toolkit's dialogs would read and write a file of their own in the home directory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 
     QMainWindow mainView;
     Ui::Form1 form;
     form.setupUi(&mainView);
-
+    QDialog helpView(&mainView);
+    Ui::Form2().setupUi(&helpView);
+    QDialog aboutView(&mainView);
+    Ui::Form3().setupUi(&aboutView);
     QDialog outputView(&mainView);
     Ui::Form4().setupUi(&outputView);
+    QDialog splashView;
+    Ui::Form6().setupUi(&splashView);
 
     Form1* schemlet = nullptr;
     const auto report = [&schemlet](const Event& event) { deliver(*schemlet, event); };
     QtWindow window(mainView, report);
+    QtWindow form2(helpView, report);
+    QtWindow form3(aboutView, report);
     QtWindow form4(outputView, report);
+    QtWindow form6(splashView, report);
     QtDialogs dialogs(mainView);
     QtPictures pictures(form.Canvas->surface());
-    Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form4);
+    Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form2, form3, form4, form6);
     schemlet = &form1;
 
-    openMainWindow(form1);
+    form6::load(form1);
     return QApplication::exec();
 }

@@ -25,8 +25,8 @@ struct Program {
     QtWindow window{view, [this](const Event& event) { deliver(form1, event); }};
     QtDialogs dialogs{view};
     QtPictures pictures{form.Canvas->surface()};
-    QuietWindow output;
-    Form1 form1{form.Canvas->surface(), window, dialogs, pictures, output};
+    QuietWindow others;
+    Form1 form1{form.Canvas->surface(), window, dialogs, pictures, others, others, others, others};
 
     Program()
     {

@@ -25,6 +25,7 @@ inline constexpr Name sbHeading = "sbHeading";
 inline constexpr Name sbTool = "sbTool";
 inline constexpr Name sbErase = "sbErase";
 inline constexpr Name statusTimer = "statusTimer";
+inline constexpr Name Timer1 = "Timer1"; ///< shows the help window once at start
 inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
 
 // The panel of supplies and batteries
@@ -99,6 +100,11 @@ struct CanvasState {
     int blinkCount = 0;
     int statusDue = 0; ///< 1 while the status bar waits to be brought up to date
 
+    int startShown = 0;     ///< 1 once the help window has shown itself at start
+    int splashProgress = 0; ///< of the splash's bar, 0 to 100
+    int helpOpen = 0;       ///< 1 = the help window slides open when it loads; nothing sets it, so it opens collapsed
+    int helpLoaded = 0;     ///< 1 once the help window was shown
+
     Color wireColor = black;
     Color canvasBackColor = black;
 
@@ -158,8 +164,10 @@ struct CanvasState {
 
 /// What every command gets: the state and the way to the screen.
 struct Form1 : CanvasState {
-    Form1(Surface& canvas, Window& window, Dialogs& boxes, Pictures& files, Window& output)
-        : surface(canvas), controls(window), dialogs(boxes), pictures(files), form4(output)
+    Form1(Surface& canvas, Window& window, Dialogs& boxes, Pictures& files, Window& help, Window& about, Window& output,
+          Window& splash)
+        : surface(canvas), controls(window), dialogs(boxes), pictures(files), form2(help), form3(about), form4(output),
+          form6(splash)
     {
     }
 
@@ -167,7 +175,10 @@ struct Form1 : CanvasState {
     Window& controls;
     Dialogs& dialogs;
     Pictures& pictures;
+    Window& form2; ///< the help window
+    Window& form3; ///< the about window
     Window& form4; ///< the Output window
+    Window& form6; ///< the splash
 };
 
 /// The one shape of every command.

@@ -24,7 +24,8 @@ inline constexpr int right = 2;
 inline constexpr int middle = 4;
 } // namespace button
 
-/// One thing the user or the clock did. All windows report through one function that takes these.
+/// One thing the user or the clock did. All windows report through one function that takes these. A close is the user's
+/// wish only: the window stays as it is until the program has decided.
 struct Event {
     enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, hover, tick, close };
 

@@ -11,6 +11,11 @@ class QuietWindow final : public Window {
 public:
     void setCaption(std::string_view /*title*/) override {}
     void showWindow() override {}
+    void showWithoutKeyboard() override {}
+    void hideWindow() override {}
+    void unload() override {}
+    void setHeight(int /*twips*/) override {}
+    [[nodiscard]] int height() const override { return 0; }
     void printForm() override {}
     void endProgram() override {}
     void addToolButton(Name /*key*/, std::string_view /*tip*/) override {}
@@ -28,6 +33,7 @@ public:
     void setValue(Name control, int value) override { m_chosen = value == 1 ? control : Name(); }
     [[nodiscard]] int value(Name control) const override { return control == m_chosen ? 1 : 0; }
     void setBackColor(Name /*control*/, Color /*color*/) override {}
+    void drawPicture(Name /*control*/, void (* /*draw*/)(Surface&)) override {}
     void setLeft(Name /*control*/, double /*twips*/) override {}
     void setTop(Name /*control*/, double /*twips*/) override {}
     void placeAwayFrom(Name /*control*/, double /*x*/, double /*y*/) override {}
@@ -37,16 +43,18 @@ private:
     Name m_chosen;
 };
 
-/// Takes the preset of every input box and says No to everything else.
+/// Types into every input box, or takes its preset, and says No to everything else.
 class QuietDialogs final : public Dialogs {
 public:
+    std::string typed; ///< empty: the preset
+
     int messageBox(std::string_view /*prompt*/, Box /*style*/, std::string_view /*title*/) override
     {
         return answer::no;
     }
     std::string inputBox(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view preset) override
     {
-        return std::string(preset);
+        return typed.empty() ? std::string(preset) : typed;
     }
     Color pickColor() override { return black; }
     std::string openFile() override { return {}; }

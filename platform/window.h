@@ -40,6 +40,14 @@ public:
     virtual void setCaption(std::string_view title) = 0;
     /// Shows it beside the others, which stay usable, or brings it to the front.
     virtual void showWindow() = 0;
+    /// Shows it in front of the others, but leaves the keyboard with the window that has it.
+    virtual void showWithoutKeyboard() = 0;
+    virtual void hideWindow() = 0;
+    /// Closes it for good and ends its timers.
+    virtual void unload() = 0;
+    /// The height inside the frame, in twips: the one last set, whatever the screen's pixels make of it.
+    virtual void setHeight(int twips) = 0;
+    [[nodiscard]] virtual int height() const = 0;
     /// Prints the window's image on the default printer. Throws printerError.
     virtual void printForm() = 0;
 
@@ -65,11 +73,14 @@ public:
     virtual void focus(Name control) = 0;
     virtual void setText(Name control, std::string_view text) = 0;
     [[nodiscard]] virtual std::string text(Name control) const = 0;
-    /// 1 for an option button that is chosen, else 0. Setting it is no click.
+    /// 1 for an option button that is chosen or a check box that is ticked, else 0; of a progress bar 0 to 100. Setting
+    /// it is no click.
     virtual void setValue(Name control, int value) = 0;
     [[nodiscard]] virtual int value(Name control) const = 0;
     /// Paints a control's ground, and its text so that it is readable there.
     virtual void setBackColor(Name control, Color color) = 0;
+    /// Lets a label show what is drawn on a surface of its fixed size, as sharp as the screen can.
+    virtual void drawPicture(Name control, void (*draw)(Surface&)) = 0;
     /// Places a control that lies on the canvas; twips, any distance beyond the edges included.
     virtual void setLeft(Name control, double twips) = 0;
     virtual void setTop(Name control, double twips) = 0;

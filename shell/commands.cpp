@@ -6,9 +6,11 @@
 #include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
+#include "shell/about.h"
 #include "shell/colors.h"
 #include "shell/confirmations.h"
 #include "shell/files.h"
+#include "shell/help.h"
 #include "shell/toolbox.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
@@ -120,7 +122,8 @@ constexpr Command menu[] = {
         {1, {"rectang", "&Rectangle"}, rectan},
         {1, {"lineee", "&Line"}, linee}, {1, separator},
         {1, {"foreco", "&Fore Color"}, forec},
-        {1, {"backc", "&Back Color"}, bc},
+        {1, {"backc", "&Back Color"}, bc}, {1, separator},
+        {1, {"hheellpp", "&Help"}, htu},
     {0, {"askc", " &Ask Confirmation"}},
         {1, {"m", "&Motors", "", Look::checked}, toggleConfirm<motorsConfirm>}, {1, separator},
         {1, {"g", "&Generators", "", Look::checked}, toggleConfirm<generatorsConfirm>}, {1, separator},
@@ -137,6 +140,9 @@ constexpr Command menu[] = {
         {1, {"opamp1", "&OP - AMP", "", Look::checked}, toggleConfirm<opampConfirm>}, {1, separator},
     {0, {"ae", " &Enable "}},
         {1, {"jj", "Automatic Jumper", "", Look::unchecked}, jj},
+    {0, {"help", " &Help "}},
+        {1, {"htu", "H&ow to use", "F1"}, htu}, {1, separator},
+        {1, {"about", "&About", "Ctrl+A"}, about},
 };
 // clang-format on
 
@@ -147,10 +153,19 @@ struct Clickable {
 };
 
 constexpr Clickable controls[] = {
-    {mainWindow, control::Option2, Option2},         {mainWindow, control::Option3, Option3},
-    {mainWindow, control::Option4, Option4},         {mainWindow, control::Option5, Option5},
-    {mainWindow, control::Command3, Command3},       {mainWindow, control::Command7, Command7},
-    {mainWindow, control::Command8, Command8},       {mainWindow, control::Label1, Label1},
+    {mainWindow, control::Option2, Option2},
+    {mainWindow, control::Option3, Option3},
+    {mainWindow, control::Option4, Option4},
+    {mainWindow, control::Option5, Option5},
+    {mainWindow, control::Command3, Command3},
+    {mainWindow, control::Command7, Command7},
+    {mainWindow, control::Command8, Command8},
+    {mainWindow, control::Label1, Label1},
+    {form2::window, form2::control::Check1, form2::Check1},
+    {form2::window, form2::control::Label23, form2::Label23},
+    {form2::window, form2::control::Command1, form2::Command1},
+    {form3::window, form3::control::Command1, form3::Command1},
+    {form3::window, form3::control::Command2, form3::Command1},
     {form4::window, form4::print, form4::printForm},
 };
 

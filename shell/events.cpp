@@ -2,22 +2,64 @@
 
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 #include "platform/runtime_error.h"
+#include "shell/about.h"
 #include "shell/commands.h"
 #include "shell/files.h"
+#include "shell/help.h"
+#include "shell/splash.h"
 #include "shell/toolbox.h"
 #include "shell/view.h"
 
+#include <algorithm>
+
 namespace {
 
-void tick(Form1& form, Name timer)
+struct Ticking {
+    Name window;
+    Name timer;
+    Handler handler;
+};
+
+constexpr Ticking timers[] = {
+    {mainWindow, control::Timer1, Timer1},
+    {mainWindow, control::Timer2, Timer2},
+    {mainWindow, control::statusTimer, showStatus},
+    {form2::window, form2::control::Timer2, form2::Timer2},
+    {form6::window, form6::control::Timer1, form6::Timer1},
+    {form6::window, form6::control::Timer2, form6::Timer2},
+};
+
+void tick(Form1& form, Name window, Name timer)
 {
-    if (timer == control::Timer2) {
-        Timer2(form);
-    } else if (timer == control::statusTimer) {
-        showStatus(form);
+    const auto* const ticking =
+        std::ranges::find_if(timers, [&](const Ticking& row) { return row.window == window && row.timer == timer; });
+    if (ticking != std::end(timers)) {
+        ticking->handler(form);
     }
+}
+
+void hideOutput(Form1& form)
+{
+    form.form4.hideWindow();
+}
+
+struct Closing {
+    Name window;
+    Handler handler;
+};
+
+/// What a window's frame does.
+constexpr Closing frames[] = {
+    {mainWindow, exit_},         {form2::window, form2::Command1}, {form3::window, form3::Command1},
+    {form4::window, hideOutput}, {form6::window, form6::finish},
+};
+
+void close(Form1& form, Name window)
+{
+    std::ranges::find(frames, window, &Closing::window)->handler(form);
 }
 
 void panelKey(Form1& form, Name control, int character)
@@ -40,8 +82,8 @@ void dispatch(Form1& form, const Event& event)
     case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
     case Event::Kind::click: return runCommand(form, event.window, event.name);
     case Event::Kind::hover: return hover(form, event.name);
-    case Event::Kind::close: return exit_(form);
-    case Event::Kind::tick: return tick(form, event.name);
+    case Event::Kind::tick: return tick(form, event.window, event.name);
+    case Event::Kind::close: return close(form, event.window);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "circuit/valued_components.h"
 #include "shell/colors.h"
 #include "shell/files.h"
+#include "shell/help.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/gates.h"
 
@@ -46,6 +47,7 @@ constexpr ToolButton toolbar[] = {
     {"Save", "Save (Ctrl+S)", " Click to save the drawing as a picture ", save},
     {"Print", "Print (Ctrl+P)", " Click to print the drawing ", print},
     {},
+    {"Help", "How to use (F1)", " Click to see how to use the program ", htu},
     {"Output", "Output (Ctrl+U)", " Click to see the totals and what follows from them ", output},
     {"ToolBox", "ToolBox (Ctrl+T)", " Click to show or hide the toolbox ", toolBoxButton},
     {},

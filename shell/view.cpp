@@ -1,6 +1,7 @@
 #include "shell/view.h"
 
 #include "shell/commands.h"
+#include "shell/help.h"
 #include "shell/toolbox.h"
 
 #include <string>
@@ -68,8 +69,19 @@ void openMainWindow(Form1& form)
     load(form);
     showStatus(form);
     form.controls.showWindow();
-    constexpr int blinkInterval = 500; // milliseconds
+    constexpr int helpDelay = 100; // milliseconds
+    form.controls.setInterval(control::Timer1, helpDelay);
+    constexpr int blinkInterval = 500;
     form.controls.setInterval(control::Timer2, blinkInterval);
+}
+
+void Timer1(Form1& form)
+{
+    if (form.startShown == 0) {
+        showHelpAtStart(form);
+    }
+    form.controls.setInterval(control::Timer1, 0);
+    form.startShown = 1;
 }
 
 void showStatus(Form1& form)

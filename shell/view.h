@@ -5,6 +5,9 @@
 /// Fills the main window, loads its state, shows it and starts its timer. Once, at start.
 void openMainWindow(Form1& form);
 
+/// Shows the help window once, a moment after the main window.
+void Timer1(Form1& form);
+
 /// Brings what shows the state up to date: the status bar's panels behind the hint (pen, heading, tool in hand, erase
 /// mode) and the pointer over the canvas.
 void showStatus(Form1& form);

@@ -104,7 +104,7 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPoint pen)
     QuietWindow window;
     QuietDialogs dialogs;
     QuietPictures pictures;
-    Form1 form(surface, window, dialogs, pictures, window); // all switches off: nothing asks
+    Form1 form(surface, window, dialogs, pictures, window, window, window, window); // all switches off: nothing asks
     form.heading = heading;
     form.x = pen.x() * twipsPerPixel;
     form.y = pen.y() * twipsPerPixel;

@@ -6,6 +6,7 @@
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/text.h"
+#include "platform/qt/wishes.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QProgressBar>
 #include <QTimer>
 #include <QToolBar>
 #include <cmath>
@@ -81,6 +83,7 @@ void applyFormProperties(QWidget& control)
 
 QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),
+      m_closeWish(new CloseWish(form, [this] { this->report({.kind = Event::Kind::close}); })),
       m_report(std::move(report))
 {
     for (QObject* const object : form.findChildren<QObject*>()) {
@@ -111,6 +114,9 @@ void QtWindow::connectControls()
             });
         } else if (object->property("reportsHovering").toBool()) {
             reportHovering(dynamic_cast<QWidget&>(*object));
+        } else if (object->property("isClickable").toBool()) {
+            new LabelClick(dynamic_cast<QLabel&>(*object),
+                           [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
         } else if (object->property("isPanel").toBool()) {
             new PanelKeys(dynamic_cast<QWidget&>(*object), [this, name = Name(name)] {
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::escape});
@@ -166,6 +172,33 @@ void QtWindow::showWindow()
     m_form.show();
     m_form.raise();
     m_form.activateWindow();
+}
+
+void QtWindow::showWithoutKeyboard()
+{
+    m_form.setAttribute(Qt::WA_ShowWithoutActivating, true);
+    m_form.show();
+    m_form.setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+void QtWindow::hideWindow()
+{
+    m_form.hide();
+}
+
+void QtWindow::unload()
+{
+    for (auto* const timer : findChildren<QTimer*>()) {
+        timer->stop();
+    }
+    m_form.removeEventFilter(m_closeWish);
+    m_form.close();
+}
+
+void QtWindow::setHeight(int twips)
+{
+    m_height = twips;
+    m_form.setFixedHeight(toPixels(twips));
 }
 
 void QtWindow::printForm()
@@ -341,6 +374,9 @@ std::string QtWindow::text(Name control) const
 
 void QtWindow::setValue(Name control, int value)
 {
+    if (auto* const bar = findIf<QProgressBar>(control)) {
+        return bar->setValue(value);
+    }
     auto& button = find<QAbstractButton>(control);
     // The chosen one of a group cannot be taken back while it is exclusive.
     const bool exclusive = button.autoExclusive();
@@ -351,6 +387,9 @@ void QtWindow::setValue(Name control, int value)
 
 int QtWindow::value(Name control) const
 {
+    if (const auto* const bar = findIf<QProgressBar>(control)) {
+        return bar->value();
+    }
     return find<QAbstractButton>(control).isChecked() ? 1 : 0;
 }
 
@@ -361,6 +400,18 @@ void QtWindow::setBackColor(Name control, Color color)
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::WindowText, readableOn(ground));
     find<QWidget>(control).setPalette(palette);
+}
+
+void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
+{
+    auto& label = find<QLabel>(control);
+    const double scale = m_form.devicePixelRatioF();
+    QtSurface surface(scale);
+    surface.growTo(label.minimumSize());
+    draw(surface);
+    QPixmap picture = QPixmap::fromImage(surface.image());
+    picture.setDevicePixelRatio(scale);
+    label.setPixmap(picture);
 }
 
 void QtWindow::setLeft(Name control, double twips)
@@ -387,6 +438,7 @@ void QtWindow::setInterval(Name timer, int milliseconds)
 {
     if (!m_named.contains(timer)) {
         auto* const made = new QTimer(this);
+        made->setTimerType(Qt::PreciseTimer); // a coarse one may be late by a twentieth
         connect(made, &QTimer::timeout, this, [this, timer] { report({.kind = Event::Kind::tick, .name = timer}); });
         addNamed(timer, *made);
     }

@@ -10,6 +10,7 @@
 #include <vector>
 
 class CanvasWidget;
+class CloseWish;
 class QAction;
 class QWidget;
 
@@ -24,6 +25,11 @@ public:
 
     void setCaption(std::string_view title) override;
     void showWindow() override;
+    void showWithoutKeyboard() override;
+    void hideWindow() override;
+    void unload() override;
+    void setHeight(int twips) override;
+    [[nodiscard]] int height() const override { return m_height; }
     void printForm() override;
     void endProgram() override;
     void addToolButton(Name key, std::string_view tip) override;
@@ -41,6 +47,7 @@ public:
     void setValue(Name control, int value) override;
     [[nodiscard]] int value(Name control) const override;
     void setBackColor(Name control, Color color) override;
+    void drawPicture(Name control, void (*draw)(Surface&)) override;
     void setLeft(Name control, double twips) override;
     void setTop(Name control, double twips) override;
     void placeAwayFrom(Name control, double x, double y) override;
@@ -64,6 +71,8 @@ private:
     CanvasWidget* m_canvas; ///< null in a form without one
     std::string m_name;
     Name m_cursor;
+    int m_height = 0;
+    CloseWish* m_closeWish; ///< lets no window close before the program says so
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
     std::vector<QAction*> m_lastItems; ///< the last menu row of each depth

@@ -34,7 +34,8 @@ struct MainWindow {
 
     [[nodiscard]] std::string noted() const
     {
-        constexpr const char* kinds[] = {"keyDown", "keyPress", "mouseDown", "mouseMove", "mouseUp", "click", "tick"};
+        constexpr const char* kinds[] = {"keyDown", "keyPress", "mouseDown", "mouseMove",
+                                         "mouseUp", "click",    "tick",      "close"};
         std::string text;
         for (const Event& event : events) {
             text += std::string(kinds[static_cast<int>(event.kind)]) + " " + std::string(event.name) +

@@ -3,6 +3,9 @@
 #include "canvas/canvas_state.h"
 #include "circuit/output_window.h"
 #include "platform/runtime_error.h"
+#include "shell/about.h"
+#include "shell/help.h"
+#include "shell/splash.h"
 
 #include <deque>
 #include <map>
@@ -92,6 +95,11 @@ inline constexpr Name formControls[] = {
     control::Option3,   control::Option4,  control::Option5, control::Text11,  control::Command3, control::Command7,
     control::Command8,  control::Toolbar1, control::Frame2,  control::Label1,  control::statusBar};
 
+// The same of the other windows' forms.
+inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
+inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::control::Command1, form3::control::Command2};
+inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
+
 /// Keeps what was set last.
 class StandInWindow final : public Window {
 public:
@@ -102,6 +110,7 @@ public:
         int value = 0;
         Color backColor = white;
         std::string text;
+        void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
     };
@@ -114,6 +123,10 @@ public:
     std::string cursor;
     int timesEnded = 0;
     int timesShown = 0;
+    int timesShownWithoutKeyboard = 0;
+    int timesHidden = 0;
+    int timesUnloaded = 0;
+    std::vector<int> heights; ///< in the order in which they were set
     int timesPrinted = 0;
     std::string poppedUp;
     std::map<std::string, int, std::less<>> intervals;
@@ -123,6 +136,11 @@ public:
 
     void setCaption(std::string_view title) override { caption = title; }
     void showWindow() override { ++timesShown; }
+    void showWithoutKeyboard() override { ++timesShownWithoutKeyboard; }
+    void hideWindow() override { ++timesHidden; }
+    void unload() override { ++timesUnloaded; }
+    void setHeight(int twips) override { heights.push_back(twips); }
+    [[nodiscard]] int height() const override { return heights.empty() ? 0 : heights.back(); }
     void printForm() override { ++timesPrinted; }
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { ++timesEnded; }
@@ -140,6 +158,7 @@ public:
     void setValue(Name control, int value) override { at(control).value = value; }
     [[nodiscard]] int value(Name control) const override { return m_controls.find(control)->second.value; }
     void setBackColor(Name control, Color color) override { at(control).backColor = color; }
+    void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
     void placeAwayFrom(Name /*control*/, double x, double y) override { placedAwayFrom = {x, y}; }
@@ -155,8 +174,11 @@ struct Bench {
     StandInWindow window{formControls};
     ScriptedDialogs dialogs;
     StandInPictures pictures;
+    StandInWindow help{helpControls};
+    StandInWindow about{aboutControls};
     StandInWindow output{form4::captions, form4::values};
-    Form1 form{surface, window, dialogs, pictures, output};
+    StandInWindow splash{splashControls};
+    Form1 form{surface, window, dialogs, pictures, help, about, output, splash};
 
     Bench();
 

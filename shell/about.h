@@ -1,0 +1,21 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+/// The about window and its controls.
+namespace form3 {
+inline constexpr Name window = "Form3";
+
+namespace control {
+inline constexpr Name Picture1 = "Picture1"; ///< what the program can draw
+inline constexpr Name Command1 = "Command1"; ///< Ok
+inline constexpr Name Command2 = "Command2"; ///< Cancel; there is nothing to take back, so it does the same
+} // namespace control
+
+/// Hides the window.
+void Command1(Form1& form);
+
+} // namespace form3
+
+/// Shows who made this program.
+void about(Form1& form);

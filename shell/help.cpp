@@ -1,0 +1,65 @@
+#include "shell/help.h"
+
+namespace {
+
+constexpr int slideInterval = 100; // milliseconds
+
+/// Once, when the window is first shown.
+void loadForm2(Form1& form)
+{
+    if (form.helpLoaded == 1) {
+        return;
+    }
+    form.helpLoaded = 1;
+    form.form2.setHeight(form2::collapsed);
+    if (form.helpOpen == 1) {
+        form.form2.setInterval(form2::control::Timer2, slideInterval);
+    }
+}
+
+} // namespace
+
+void form2::Check1(Form1& form)
+{
+    if (form.form2.height() != collapsed) {
+        form.form2.setHeight(collapsed);
+        return;
+    }
+    form2::Timer2(form); // not the main window's
+    form.form2.setInterval(control::Timer2, slideInterval);
+}
+
+void form2::Label23(Form1& form)
+{
+    form.form2.setValue(control::Check1, form.form2.value(control::Check1) == 0 ? 1 : 0);
+    Check1(form);
+}
+
+void form2::Timer2(Form1& form)
+{
+    constexpr int step = 100;
+    const int height = form.form2.height() + step;
+    if (height < open) {
+        form.form2.setHeight(height);
+        return;
+    }
+    form.form2.setHeight(open);
+    form.form2.setInterval(control::Timer2, 0);
+}
+
+void form2::Command1(Form1& form)
+{
+    form.form2.hideWindow();
+}
+
+void htu(Form1& form)
+{
+    loadForm2(form);
+    form.form2.showWindow();
+}
+
+void showHelpAtStart(Form1& form)
+{
+    loadForm2(form);
+    form.form2.showWithoutKeyboard();
+}
