@@ -17,7 +17,8 @@ QFont canvasFont(double scale)
     return font;
 }
 
-QtSurface::QtSurface(double scale) : m_scale(scale), m_twipsPerPixel(twipsPerPixel / scale), m_font(canvasFont(scale))
+QtSurface::QtSurface(double scale)
+    : m_scale(scale), m_twipsPerPixel(twipsPerPixel / scale), m_font(canvasFont(scale)), m_placesFont(canvasFont())
 {
 }
 
@@ -92,12 +93,14 @@ void QtSurface::arc(float x, float y, float radius, float start, float end)
 void QtSurface::print(std::string_view text, bool endLine)
 {
     const QString string = toQString(text);
-    const QFontMetrics metrics(m_font, &m_image);
+    const QFontMetrics places(m_placesFont, &m_image); // the current point moves alike at every scale
+    const double height = places.height() * m_scale;
     const double left = std::round(toPixels(m_current.x));
     const double top = std::round(toPixels(m_current.y));
-    const QRectF visible = QRectF(m_image.rect()).adjusted(-metrics.height(), -metrics.height(), 0, 0);
-    const int advance = metrics.horizontalAdvance(string);
-    if (QRectF(left, top, advance, metrics.height()).intersects(visible)) {
+    const QRectF visible = QRectF(m_image.rect()).adjusted(-height, -height, 0, 0);
+    const int advance = places.horizontalAdvance(string);
+    if (QRectF(left, top, advance * m_scale, height).intersects(visible)) {
+        const QFontMetrics metrics(m_font, &m_image);
         const QPoint baseline(static_cast<int>(left), static_cast<int>(top) + metrics.ascent());
         QPainter painter(&m_image);
         painter.setFont(m_font);
@@ -107,8 +110,8 @@ void QtSurface::print(std::string_view text, bool endLine)
             changed(metrics.boundingRect(string).translated(baseline).adjusted(-1, -1, 1, 1) & m_image.rect());
         }
     }
-    m_current = endLine ? Point{0, m_current.y + toTwips(metrics.height())}
-                        : Point{m_current.x + toTwips(advance), m_current.y};
+    m_current = endLine ? Point{0, m_current.y + places.height() * twipsPerPixel}
+                        : Point{m_current.x + advance * twipsPerPixel, m_current.y};
 }
 
 std::optional<Color> QtSurface::point(float x, float y) const

@@ -43,7 +43,6 @@ public:
 private:
     void startAfresh(QSize size);
     [[nodiscard]] double toPixels(double twips) const { return twips / m_twipsPerPixel; }
-    [[nodiscard]] double toTwips(double pixels) const { return pixels * m_twipsPerPixel; }
     [[nodiscard]] ink::Place toPlace(float x, float y) const { return {toPixels(x), toPixels(y)}; }
     [[nodiscard]] ink::Image pixels();
     [[nodiscard]] ink::Pen pen() const;
@@ -54,6 +53,7 @@ private:
     double m_twipsPerPixel; ///< of the image
     QImage m_image;
     QFont m_font;
+    QFont m_placesFont; ///< the same at scale 1
     QRgb m_foreColor = qRgb(0, 0, 0);
     QRgb m_backColor = qRgb(255, 255, 255);
     int m_drawWidth = 2;

@@ -39,6 +39,29 @@ TEST(QtSurface, GrowsWithItsInkAndNeverShrinks)
     EXPECT_EQ(surface.point(750, 4000), white);
 }
 
+TEST(QtSurface, DrawsTheSameFinerAtALargerScale)
+{
+    QtSurface plain = surfaceOf(100, 100);
+    QtSurface fine(2);
+    fine.growTo({100, 100});
+    EXPECT_EQ(fine.image().size(), QSize(200, 200));
+    QRect changed;
+    fine.changed = [&](const QRect& part) { changed |= part; };
+    fine.line(300, 750, 300, 750);
+    EXPECT_EQ(changed, QRect(38, 98, 4, 4)); // a dot of twice two pixels around (20, 50)
+    for (Surface* const surface : std::initializer_list<Surface*>{&plain, &fine}) {
+        surface->circle(750, 750, 450);
+        surface->line(150, 150, 1350, 1350);
+        surface->setCurrent(900, 300);
+        surface->print("470", true);
+        EXPECT_EQ(surface->point(750, 750), black);
+        EXPECT_EQ(surface->point(750, 600), white);
+        EXPECT_EQ(surface->point(750, 300), black);
+        EXPECT_EQ(surface->point(1500, 750), std::nullopt);
+        EXPECT_NEAR(surface->current().y, 300 + 13 * twipsPerPixel, 1);
+    }
+}
+
 TEST(QtSurface, ReportsOnlyThePartThatChanged)
 {
     QtSurface surface = surfaceOf(200, 200);
