@@ -80,17 +80,39 @@ void waitUntil(const char* what, const std::function<bool()>& condition)
     }
 }
 
-Program::Program()
+Program::Program(Stage until)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     m_process.start(SCHEMLET_PROGRAM, QStringList());
-    waitUntil("the main window", [this] {
-        m_window = outputOf("xdotool", {"search", "--onlyvisible", "--name", "^ - Schemlet 2.0 "});
-        return !m_window.isEmpty();
-    });
-    xdotool({"windowmove", m_window, "40", "40"});
-    activate();
+    waitForWindow("Schemlet 2.0");
+    if (until != Stage::splash) {
+        waitForHelp();
+    }
+    if (until == Stage::drawing) {
+        EXPECT_EQ(QProcess::execute("wmctrl", {"-F", "-c", "Help"}), 0);
+        waitUntil("the help window's end", [this] { return visibleWindow("Help").isEmpty(); });
+        xdotool({"windowmove", m_window, "40", "40"});
+        findCanvas();
+    }
+}
+
+void Program::waitForHelp()
+{
+    waitForMainWindow();
+    m_window = visibleWindow(mainTitle);
+    waitUntil("the help window", [this] { return !visibleWindow("Help").isEmpty(); });
     findCanvas();
+}
+
+QString Program::visibleWindow(const QString& title) const
+{
+    return outputOf("xdotool", {"search", "--onlyvisible", "--name", "^" + title + "$"});
+}
+
+int Program::heightOf(const QString& title) const
+{
+    const QString shape = outputOf("xdotool", {"getwindowgeometry", "--shell", visibleWindow(title)});
+    return shape.section("HEIGHT=", 1).section('\n', 0, 0).toInt();
 }
 
 Program::~Program()
@@ -238,6 +260,13 @@ void Program::closeActiveWindow()
 int Program::close()
 {
     closeActiveWindow();
+    waitForWindow("Schemlet 2.0");
+    keys({"n"}); // nothing is to be saved
+    return exitStatus();
+}
+
+int Program::exitStatus()
+{
     EXPECT_TRUE(m_process.waitForFinished(patience)) << "the program does not end";
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }

@@ -28,7 +28,14 @@ void waitUntil(const char* what, const std::function<bool()>& condition);
 /// pixels.
 class Program {
 public:
-    Program();
+    enum class Stage {
+        splash,  ///< the splash has the keyboard
+        help,    ///< the main window has it, and the help window has opened beside
+        drawing, ///< that is closed
+    };
+
+    /// Starts it and waits until it has come so far.
+    explicit Program(Stage until = Stage::drawing);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -56,19 +63,29 @@ public:
 
     /// Waits until a window with this title has the keyboard.
     void waitForWindow(const QString& title);
-    void waitForMainWindow() { waitForWindow(" - Schemlet 2.0  New File "); }
+    void waitForMainWindow() { waitForWindow(mainTitle); }
 
     /// What the window that has the keyboard shows, without its frame.
     [[nodiscard]] QImage activeWindow() const;
 
+    /// The X server's number of the window with this title; empty if there is none to be seen.
+    [[nodiscard]] QString visibleWindow(const QString& title) const;
+    /// The height inside its frame.
+    [[nodiscard]] int heightOf(const QString& title) const;
+
+    /// From the splash on: waits for the main window, and for the help window that opens after it.
+    void waitForHelp();
     /// Closes the window that has the keyboard, as its frame does.
     void closeActiveWindow();
     /// The same with the main window; returns the program's exit status.
     int close();
+    /// Waits for the program's end.
+    int exitStatus();
 
 private:
     void findCanvas();
 
+    static constexpr auto mainTitle = " - Schemlet 2.0  New File ";
     QProcess m_process;
     QString m_window; ///< the X server's number of the main window
     QRect m_canvas;   ///< on the screen

@@ -17,14 +17,17 @@ namespace {
 
 template <typename Form> struct Shown {
     QDialog view;
-    Form form{};
+    Form form = [this] {
+        Form made;
+        made.setupUi(&view);
+        return made;
+    }();
     std::vector<Event> events;
-    std::unique_ptr<QtWindow> window;
+    std::unique_ptr<QtWindow> window =
+        std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
 
     Shown()
     {
-        form.setupUi(&view);
-        window = std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
         window->showWindow();
         (void)QTest::qWaitForWindowExposed(&view);
     }
