@@ -79,7 +79,7 @@ public:
     [[nodiscard]] virtual int value(Name control) const = 0;
     /// Paints a control's ground, and its text so that it is readable there.
     virtual void setBackColor(Name control, Color color) = 0;
-    /// Lets a label show what is drawn on a surface of its fixed size, as sharp as the screen can.
+    /// Lets a label or a button show what is drawn on a surface of its fixed size, as sharp as the screen can.
     virtual void drawPicture(Name control, void (*draw)(Surface&)) = 0;
     /// Places a control that lies on the canvas; twips, any distance beyond the edges included.
     virtual void setLeft(Name control, double twips) = 0;

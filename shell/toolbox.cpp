@@ -7,6 +7,7 @@
 #include "circuit/valued_components.h"
 #include "shell/colors.h"
 #include "shell/files.h"
+#include "shell/hand.h"
 #include "shell/help.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/gates.h"
@@ -59,19 +60,41 @@ constexpr ToolButton toolbar[] = {
     {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan},
 };
 
+/// Draws a symbol for its toolbox picture, the pen at (x, y) twips.
+template <Handler component, int x, int y> void sketch(Surface& surface)
+{
+    Hand hand(surface);
+    hand.goTo(x, y);
+    hand.put(component);
+}
+
+template <const Name& option, int x, int y> void sketchSource(Surface& surface)
+{
+    Hand hand(surface);
+    hand.goTo(x, y);
+    hand.putSource(option);
+}
+
 struct ToolPicture {
     Name name;
     std::string_view hint;
     Handler handler;
+    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
 };
 
 constexpr ToolPicture pictures[] = {
-    {"Image1", " Click to draw AND Gate ", and_},         {"Image2", " Click to draw OR Gate ", or_},
-    {"Image3", " Click to draw NOT Gate ", notgate},      {"Image4", " Click to draw NOR Gate ", nor},
-    {"Image5", " Click to draw NAND Gate ", nand},        {"Image15", " Click to draw RESISTANCE", resistanc},
-    {"Image16", " Click to draw INDUCTANCE ", inductanc}, {"Image17", " Click to draw CAPACITANCE ", capacitanc},
-    {"Image18", " Click to draw SUPPLY", suppl},          {"Image19", " Click to draw BATTERY", batter},
-    {"Image20", " Click to get ERASER", eraserPicture},   {"Image7", " Click to Close the ToolBox ", toolbox},
+    {"Image1", " Click to draw AND Gate ", and_, sketch<and_, 380, 260>},
+    {"Image2", " Click to draw OR Gate ", or_, sketch<or_, 380, 260>},
+    {"Image3", " Click to draw NOT Gate ", notgate, sketch<notgate, 360, 280>},
+    {"Image4", " Click to draw NOR Gate ", nor, sketch<nor, 380, 260>},
+    {"Image5", " Click to draw NAND Gate ", nand, sketch<nand, 350, 260>},
+    {"Image15", " Click to draw RESISTANCE", resistanc, sketch<resistanc, 20, 150>},
+    {"Image16", " Click to draw INDUCTANCE ", inductanc, sketch<inductanc, 90, 190>},
+    {"Image17", " Click to draw CAPACITANCE ", capacitanc, sketch<capacitanc, 470, 205>},
+    {"Image18", " Click to draw SUPPLY", suppl, sketchSource<control::Option3, 340, 300>},
+    {"Image19", " Click to draw BATTERY", batter, sketchSource<control::Option5, 500, 460>},
+    {"Image20", " Click to get ERASER", eraserPicture},
+    {"Image7", " Click to Close the ToolBox ", toolbox},
 };
 
 template <typename Tool> const Tool* find(std::span<const Tool> tools, Name name)
@@ -86,6 +109,11 @@ void addTools(Form1& form)
 {
     for (const ToolButton& button : toolbar) {
         form.controls.addToolButton(button.name, button.tip);
+    }
+    for (const ToolPicture& picture : pictures) {
+        if (picture.draw != nullptr) {
+            form.controls.drawPicture(picture.name, picture.draw);
+        }
     }
 }
 

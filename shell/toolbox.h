@@ -4,7 +4,7 @@
 
 // Toolbar and toolbox: the tables of their buttons, and how they are shown, hidden and moved.
 
-/// Fills the toolbar.
+/// Fills toolbar and toolbox.
 void addTools(Form1& form);
 
 /// The command of a toolbar button or a toolbox picture; none for any other name.

@@ -404,14 +404,19 @@ void QtWindow::setBackColor(Name control, Color color)
 
 void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
 {
-    auto& label = find<QLabel>(control);
+    auto* const button = findIf<QAbstractButton>(control);
+    auto* const label = findIf<QLabel>(control);
     const double scale = m_form.devicePixelRatioF();
     QtSurface surface(scale);
-    surface.growTo(label.minimumSize());
+    surface.growTo(button != nullptr ? button->iconSize() : label->minimumSize());
     draw(surface);
     QPixmap picture = QPixmap::fromImage(surface.image());
     picture.setDevicePixelRatio(scale);
-    label.setPixmap(picture);
+    if (button != nullptr) {
+        button->setIcon(picture);
+    } else {
+        label->setPixmap(picture);
+    }
 }
 
 void QtWindow::setLeft(Name control, double twips)

@@ -89,11 +89,13 @@ private:
 
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
 inline constexpr Name formControls[] = {
-    control::Canvas,    control::Picture1, control::Shape1,  control::Label27, control::sb,       control::sbPen,
-    control::sbHeading, control::sbTool,   control::sbErase, control::panel,   control::sup,      control::bat,
-    control::Label11,   control::Label12,  control::Label13, control::Label28, control::Option1,  control::Option2,
-    control::Option3,   control::Option4,  control::Option5, control::Text11,  control::Command3, control::Command7,
-    control::Command8,  control::Toolbar1, control::Frame2,  control::Label1,  control::statusBar};
+    control::Canvas,    control::Picture1, control::Shape1,  control::Label27, control::sb,        control::sbPen,
+    control::sbHeading, control::sbTool,   control::sbErase, control::panel,   control::sup,       control::bat,
+    control::Label11,   control::Label12,  control::Label13, control::Label28, control::Option1,   control::Option2,
+    control::Option3,   control::Option4,  control::Option5, control::Text11,  control::Command3,  control::Command7,
+    control::Command8,  control::Toolbar1, control::Frame2,  control::Label1,  control::statusBar, "Image1",
+    "Image2",           "Image3",          "Image4",         "Image5",         "Image15",          "Image16",
+    "Image17",          "Image18",         "Image19"};
 
 // The same of the other windows' forms.
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
