@@ -19,7 +19,7 @@ bool isDigit(char c)
 
 bool isBlank(char c)
 {
-    return c == ' ' || c == '\t';
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r'; // pasted texts often bring a line end
 }
 
 std::size_t digitsAt(std::string_view text, std::size_t from)

@@ -57,9 +57,7 @@ constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, 
 void followFamilies(Form1& form)
 {
     const bool open = form.controls.visible(control::sup) || form.controls.visible(control::bat);
-    if (open && !form.controls.visible(control::panel)) {
-        form.controls.placeAwayFrom(control::panel, form.x, form.y);
-    }
+    form.controls.placeAwayFrom(control::panel, form.x, form.y);
     form.controls.setVisible(control::panel, open);
 }
 
@@ -77,13 +75,15 @@ void hideRestOfPanel(Form1& form)
     followFamilies(form);
 }
 
-/// Whether this kind was chosen; if so, it is drawn next.
+/// Whether this kind was chosen and not cancelled, which leaves the choice but disables it. If so, it is drawn next,
+/// and the choice is used up.
 bool takes(Form1& form, Name option)
 {
-    if (form.controls.value(option) == 0) {
+    if (form.controls.value(option) == 0 || !form.controls.enabled(option)) {
         return false;
     }
     hideRestOfPanel(form);
+    form.controls.setValue(option, 0);
     return true;
 }
 
@@ -156,6 +156,7 @@ void Option5(Form1& form)
 
 void Command3(Form1& form)
 {
+    form.controls.focus(control::Text11);
     const double typed =
         leadingNumber(form.controls.text(control::Text11)); // before anything is hidden: it may overflow
     form.controls.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
@@ -174,7 +175,6 @@ void Command3(Form1& form)
     if (takes(form, control::Option2)) {
         placeSupply(form, &CanvasState::supplyCurrent, currentSupply);
     }
-    clearOptions(form);
 }
 
 void Command7(Form1& form)

@@ -27,6 +27,7 @@ public:
     void setVisible(Name /*control*/, bool /*visible*/) override {}
     [[nodiscard]] bool visible(Name /*control*/) const override { return false; }
     void setEnabled(Name /*control*/, bool /*enabled*/) override {}
+    [[nodiscard]] bool enabled(Name /*control*/) const override { return true; }
     void focus(Name /*control*/) override {}
     void setText(Name /*control*/, std::string_view /*text*/) override {}
     [[nodiscard]] std::string text(Name /*control*/) const override { return "10"; }

@@ -69,6 +69,7 @@ public:
     virtual void setVisible(Name control, bool visible) = 0;
     [[nodiscard]] virtual bool visible(Name control) const = 0;
     virtual void setEnabled(Name control, bool enabled) = 0;
+    [[nodiscard]] virtual bool enabled(Name control) const = 0; ///< the control's own switch
     /// Gives a control the keyboard, with its text selected if it has one.
     virtual void focus(Name control) = 0;
     virtual void setText(Name control, std::string_view text) = 0;

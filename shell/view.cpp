@@ -92,6 +92,7 @@ void showStatus(Form1& form)
     form.controls.setText(control::sbHeading, headingText(form.heading));
     form.controls.setText(control::sbTool, toolText(form));
     form.controls.setCursor(cursorFor(form));
+    form.controls.placeAwayFrom(control::panel, form.x, form.y); // the pen may have come near
     form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
 }
 

@@ -3,10 +3,13 @@
 #include "platform/qt/keys.h"
 
 #include <QAccessibleWidget>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyleHints>
+#include <utility>
 
 namespace {
 
@@ -69,12 +72,23 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event)
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event)
 {
+    m_lastPress = event->timestamp();
     reportMouse(Event::Kind::mouseDown, buttonCode(event->button()), event->position());
 }
 
 void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    mousePressEvent(event);
+    m_releaseIsStray = isSecondOfAPressElsewhere(*event);
+    if (!m_releaseIsStray) {
+        mousePressEvent(event);
+    }
+}
+
+/// A double click on something that went away at the first one must not reach what lies below.
+bool CanvasWidget::isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const
+{
+    const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    return doubleClick.timestamp() > m_lastPress + interval;
 }
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
@@ -84,7 +98,9 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    reportRelease(event->button(), event->position());
+    if (!std::exchange(m_releaseIsStray, false)) {
+        reportRelease(event->button(), event->position());
+    }
 }
 
 void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) const

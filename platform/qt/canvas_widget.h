@@ -31,9 +31,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    [[nodiscard]] bool isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const;
     void reportMouse(Event::Kind kind, int code, QPointF position) const;
 
     QtSurface m_surface;
+    quint64 m_lastPress = 0; ///< when, in milliseconds
+    bool m_releaseIsStray = false;
 };
 
 /// Tells assistive programs that a CanvasWidget is a canvas. Call once, when the application object exists.

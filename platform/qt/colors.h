@@ -6,12 +6,8 @@
 
 // The core's colours have red in the lowest byte, Qt's have blue there.
 
-inline QColor toQColor(Color color)
-{
-    return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF), static_cast<int>(color >> 16 & 0xFF)};
-}
+[[nodiscard]] QColor toQColor(Color color);
+[[nodiscard]] Color toColor(const QColor& color);
 
-inline Color toColor(const QColor& color)
-{
-    return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
-}
+/// Black or white, whichever stands out more: at least 4.5 to 1 on every ground.
+[[nodiscard]] QColor readableOn(const QColor& ground);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 
 PanelKeys::PanelKeys(QWidget& panel, std::function<void()> escape)
     : QObject(&panel), m_panel(panel), m_escape(std::move(escape))
@@ -41,7 +42,8 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event)
 bool PanelKeys::isPanels(const QObject& watched) const
 {
     const auto* const widget = qobject_cast<const QWidget*>(&watched);
-    return widget != nullptr && widget->window() == m_panel.window() && QApplication::activePopupWidget() == nullptr;
+    return widget != nullptr && widget->window() == m_panel.window() &&
+           qobject_cast<const QMenuBar*>(widget) == nullptr && QApplication::activePopupWidget() == nullptr;
 }
 
 QAbstractButton* PanelKeys::buttonFor(const QKeyEvent& key) const

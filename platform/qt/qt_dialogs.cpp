@@ -127,7 +127,8 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
-    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+    // A pasted line end is nothing that anybody typed.
+    return box.exec() == QDialog::Accepted ? box.textValue().remove('\n').remove('\r').toStdString() : std::string();
 }
 
 Color QtDialogs::pickColor()

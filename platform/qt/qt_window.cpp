@@ -3,10 +3,10 @@
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/colors.h"
+#include "platform/qt/form_events.h"
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/text.h"
-#include "platform/qt/wishes.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -16,7 +16,6 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QTimer>
@@ -28,22 +27,6 @@ namespace {
 int toPixels(double twips)
 {
     return static_cast<int>(std::lround(twips / twipsPerPixel));
-}
-
-/// The relative luminance of a colour, 0 to 1, as the web's contrast guidelines define it.
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-/// Black or white, whichever stands out more.
-QColor readableOn(const QColor& ground)
-{
-    constexpr double equalContrast = 0.179;
-    return luminance(ground) > equalContrast ? Qt::black : Qt::white;
 }
 
 constexpr QSize cursorSize(24, 24); // pixels
@@ -84,6 +67,7 @@ void applyFormProperties(QWidget& control)
 QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),
       m_closeWish(new CloseWish(form, [this] { this->report({.kind = Event::Kind::close}); })),
+      m_menus(form, [this](Name item) { this->report({.kind = Event::Kind::click, .name = item}); }),
       m_report(std::move(report))
 {
     for (QObject* const object : form.findChildren<QObject*>()) {
@@ -106,6 +90,9 @@ void QtWindow::connectControls()
 {
     for (const auto& [name, object] : m_named) {
         if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
+            if (m_canvas != nullptr) {
+                new KeyDetour(*button, *m_canvas);
+            }
             connect(button, &QAbstractButton::clicked, this,
                     [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
         } else if (auto* const text = qobject_cast<QLineEdit*>(object)) {
@@ -113,7 +100,7 @@ void QtWindow::connectControls()
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::enter});
             });
         } else if (object->property("reportsHovering").toBool()) {
-            reportHovering(dynamic_cast<QWidget&>(*object));
+            new Hovering(dynamic_cast<QWidget&>(*object), [this](const QWidget& widget) { reportHover(widget); });
         } else if (object->property("isClickable").toBool()) {
             new LabelClick(dynamic_cast<QLabel&>(*object),
                            [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
@@ -125,34 +112,11 @@ void QtWindow::connectControls()
     }
 }
 
-/// A frame that lies on the canvas keeps the mouse to itself and its controls.
-void QtWindow::reportHovering(QWidget& frame)
+void QtWindow::reportHover(const QWidget& widget) const
 {
-    QList<QWidget*> widgets = frame.findChildren<QWidget*>();
-    widgets.push_back(&frame);
-    for (QWidget* const widget : widgets) {
-        widget->setMouseTracking(true);
-        widget->installEventFilter(this);
+    if (const auto found = m_named.find(widget.objectName().toStdString()); found != m_named.end()) {
+        report({.kind = Event::Kind::hover, .name = found->first});
     }
-}
-
-bool QtWindow::filterHovering(QObject& watched, const QEvent& event)
-{
-    switch (event.type()) {
-    case QEvent::MouseMove:
-        if (dynamic_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton) {
-            break;
-        }
-        if (const auto found = m_named.find(watched.objectName().toStdString()); found != m_named.end()) {
-            report({.kind = Event::Kind::hover, .name = found->first});
-        }
-        return true;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease: break;
-    default: return false;
-    }
-    return watched.property("reportsHovering").toBool(); // the rest goes no further than the frame
 }
 
 void QtWindow::report(const Event& event) const
@@ -254,41 +218,10 @@ void QtWindow::setCursor(const Cursor& cursor)
 
 void QtWindow::addMenuItem(int depth, const MenuItem& item)
 {
-    const bool separator = item.caption == "-";
-    auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
-    action->setSeparator(separator);
-    action->setShortcut(QKeySequence::fromString(toQString(item.shortcut), QKeySequence::PortableText));
-    action->setCheckable(item.look == Look::unchecked || item.look == Look::checked);
-    action->setChecked(item.look == Look::checked);
-    action->setVisible(item.look != Look::hidden);
+    QAction& action = m_menus.add(depth, item);
     if (!item.name.empty()) {
-        addNamed(item.name, *action);
+        addNamed(item.name, action);
     }
-    connect(action, &QAction::triggered, this, [this, action, name = item.name](bool checked) {
-        // A check item flips itself first, but its mark is the command's to flip.
-        if (action->isCheckable()) {
-            action->setChecked(!checked);
-        }
-        report({.kind = Event::Kind::click, .name = name});
-    });
-    menuAt(depth).addAction(action);
-    m_lastItems.resize(static_cast<std::size_t>(depth));
-    m_lastItems.push_back(action);
-}
-
-QWidget& QtWindow::menuAt(int depth)
-{
-    if (depth == 0) {
-        return *m_form.findChild<QMenuBar*>();
-    }
-    QAction& parent = *m_lastItems.at(static_cast<std::size_t>(depth) - 1);
-    if (parent.menu() == nullptr) {
-        auto* const menu = new QMenu(&m_form);
-        menu->setObjectName(parent.objectName() + "Menu");
-        menu->setAccessibleName(parent.text().remove('&').trimmed());
-        parent.setMenu(menu);
-    }
-    return *parent.menu();
 }
 
 void QtWindow::popUp(Name menu)
@@ -301,9 +234,6 @@ void QtWindow::popUp(Name menu)
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (qobject_cast<QMenu*>(watched) == nullptr) {
-        return filterHovering(*watched, *event) || QObject::eventFilter(watched, event);
-    }
     // An open popup menu gets the release of the button that opened it; it is the canvas's all the same.
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto& release = dynamic_cast<const QMouseEvent&>(*event);
@@ -313,130 +243,6 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QObject::eventFilter(watched, event);
-}
-
-void QtWindow::setChecked(Name item, bool checked)
-{
-    find<QAction>(item).setChecked(checked);
-}
-
-bool QtWindow::checked(Name item) const
-{
-    return find<QAction>(item).isChecked();
-}
-
-void QtWindow::setVisible(Name control, bool visible)
-{
-    if (auto* const action = findIf<QAction>(control)) {
-        action->setVisible(visible);
-    } else {
-        find<QWidget>(control).setVisible(visible);
-    }
-}
-
-bool QtWindow::visible(Name control) const
-{
-    if (const auto* const action = findIf<QAction>(control)) {
-        return action->isVisible();
-    }
-    const auto& widget = find<QWidget>(control);
-    const auto* const picture = qobject_cast<const BlinkingPicture*>(&widget);
-    return picture != nullptr ? picture->isOn() : !widget.isHidden();
-}
-
-void QtWindow::setEnabled(Name control, bool enabled)
-{
-    if (auto* const action = findIf<QAction>(control)) {
-        action->setEnabled(enabled);
-    } else {
-        find<QWidget>(control).setEnabled(enabled);
-    }
-}
-
-void QtWindow::focus(Name control)
-{
-    find<QWidget>(control).setFocus(Qt::TabFocusReason); // for this reason a text box selects its text
-}
-
-void QtWindow::setText(Name control, std::string_view text)
-{
-    if (auto* const box = findIf<QLineEdit>(control)) {
-        box->setText(toQString(text));
-    } else {
-        find<QLabel>(control).setText(toQString(text));
-    }
-}
-
-std::string QtWindow::text(Name control) const
-{
-    return find<QLineEdit>(control).text().toStdString();
-}
-
-void QtWindow::setValue(Name control, int value)
-{
-    if (auto* const bar = findIf<QProgressBar>(control)) {
-        return bar->setValue(value);
-    }
-    auto& button = find<QAbstractButton>(control);
-    // The chosen one of a group cannot be taken back while it is exclusive.
-    const bool exclusive = button.autoExclusive();
-    button.setAutoExclusive(false);
-    button.setChecked(value != 0);
-    button.setAutoExclusive(exclusive);
-}
-
-int QtWindow::value(Name control) const
-{
-    if (const auto* const bar = findIf<QProgressBar>(control)) {
-        return bar->value();
-    }
-    return find<QAbstractButton>(control).isChecked() ? 1 : 0;
-}
-
-void QtWindow::setBackColor(Name control, Color color)
-{
-    const QColor ground = toQColor(color);
-    QPalette palette;
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, readableOn(ground));
-    find<QWidget>(control).setPalette(palette);
-}
-
-void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
-{
-    auto* const button = findIf<QAbstractButton>(control);
-    auto* const label = findIf<QLabel>(control);
-    const double scale = m_form.devicePixelRatioF();
-    QtSurface surface(scale);
-    surface.growTo(button != nullptr ? button->iconSize() : label->minimumSize());
-    draw(surface);
-    QPixmap picture = QPixmap::fromImage(surface.image());
-    picture.setDevicePixelRatio(scale);
-    if (button != nullptr) {
-        button->setIcon(picture);
-    } else {
-        label->setPixmap(picture);
-    }
-}
-
-void QtWindow::setLeft(Name control, double twips)
-{
-    auto& widget = find<QWidget>(control);
-    widget.move(toPixels(twips), widget.y());
-}
-
-void QtWindow::setTop(Name control, double twips)
-{
-    auto& widget = find<QWidget>(control);
-    widget.move(widget.x(), toPixels(twips));
-}
-
-void QtWindow::placeAwayFrom(Name control, double x, double y)
-{
-    auto& widget = find<QWidget>(control);
-    const Qt::Alignment side = x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft;
-    const Qt::Alignment end = y / twipsPerPixel < m_canvas->height() / 2.0 ? Qt::AlignBottom : Qt::AlignTop;
-    widget.parentWidget()->layout()->setAlignment(&widget, side | end);
 }
 
 void QtWindow::setInterval(Name timer, int milliseconds)
@@ -453,21 +259,6 @@ void QtWindow::setInterval(Name timer, int milliseconds)
     } else {
         ticking.stop();
     }
-}
-
-template <typename Kind> Kind* QtWindow::findIf(Name name) const
-{
-    const auto found = m_named.find(name);
-    return found == m_named.end() ? nullptr : qobject_cast<Kind*>(found->second);
-}
-
-template <typename Kind> Kind& QtWindow::find(Name name) const
-{
-    auto* const object = findIf<Kind>(name);
-    if (object == nullptr) {
-        qFatal("No such control: %.*s", static_cast<int>(name.size()), name.data());
-    }
-    return *object;
 }
 
 void QtWindow::addNamed(Name name, QObject& object)

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "platform/event.h"
+#include "platform/qt/menu_tree.h"
 #include "platform/window.h"
 
 #include <QObject>
 #include <functional>
 #include <map>
 #include <string>
-#include <vector>
 
 class CanvasWidget;
 class CloseWish;
@@ -41,6 +41,7 @@ public:
     void setVisible(Name control, bool visible) override;
     [[nodiscard]] bool visible(Name control) const override;
     void setEnabled(Name control, bool enabled) override;
+    [[nodiscard]] bool enabled(Name control) const override;
     void focus(Name control) override;
     void setText(Name control, std::string_view text) override;
     [[nodiscard]] std::string text(Name control) const override;
@@ -57,15 +58,24 @@ public:
 
 private:
     void connectControls();
-    void reportHovering(QWidget& frame);
-    [[nodiscard]] bool filterHovering(QObject& watched, const QEvent& event);
+    void reportHover(const QWidget& widget) const;
     [[nodiscard]] QImage pictureOfCanvas();
     void report(const Event& event) const;
     /// The object with this name if it is of this kind, else null.
-    template <typename Kind> [[nodiscard]] Kind* findIf(Name name) const;
-    template <typename Kind> [[nodiscard]] Kind& find(Name name) const;
+    template <typename Kind> [[nodiscard]] Kind* findIf(Name name) const
+    {
+        const auto found = m_named.find(name);
+        return found == m_named.end() ? nullptr : qobject_cast<Kind*>(found->second);
+    }
+    template <typename Kind> [[nodiscard]] Kind& find(Name name) const
+    {
+        auto* const object = findIf<Kind>(name);
+        if (object == nullptr) {
+            qFatal("No such control: %.*s", static_cast<int>(name.size()), name.data());
+        }
+        return *object;
+    }
     void addNamed(Name name, QObject& object);
-    [[nodiscard]] QWidget& menuAt(int depth);
 
     QWidget& m_form;
     CanvasWidget* m_canvas; ///< null in a form without one
@@ -73,8 +83,8 @@ private:
     Name m_cursor;
     int m_height = 0;
     CloseWish* m_closeWish; ///< lets no window close before the program says so
+    MenuTree m_menus;
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
-    std::vector<QAction*> m_lastItems; ///< the last menu row of each depth
-    Qt::MouseButtons m_owedReleases;   ///< of the buttons that were down on the canvas when a popup menu opened
+    Qt::MouseButtons m_owedReleases; ///< of the buttons that were down on the canvas when a popup menu opened
 };

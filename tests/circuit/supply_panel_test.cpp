@@ -191,6 +191,8 @@ TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
                 EXPECT_EQ(bench.window.at(control::Text11).text, chosen ? "33" : "");
                 EXPECT_EQ(bench.drawn(), "");
                 EXPECT_EQ(bench.pen(), "1600 1500");
+                place(bench, letter == 's' ? control::Option4 : control::Option3, "5");
+                EXPECT_EQ(bench.pen(), letter == 's' ? "1720 1500" : "2010 1500"); // that one alone
             }
         }
     }
@@ -247,12 +249,21 @@ TEST(SupplyPanel, AnOverflowInTheTextLeavesEverythingAsItIs)
     EXPECT_EQ(shown(bench), "panel sup Command3 Command8 Text11 Label12 ");
     EXPECT_EQ(bench.window.at(control::Text11).text, "1e999");
     EXPECT_EQ(bench.drawn(), "");
-    confirm(bench, "1e308");
+}
+
+TEST(SupplyPanel, AnOverflowOfASumLeavesSumPenAndDrawingAndUsesTheChoicesUp)
+{
+    Bench bench;
     bench.form.supplyVoltage = 1.7e308;
-    bench.drawn();
+    type(bench, 'b');
+    choose(bench, control::Option4);
+    type(bench, 's');
+    choose(bench, control::Option3);
     bench.dialogs.expect("Schemlet 2.0", 0);
-    place(bench, control::Option3, "1e308"); // the sum overflows
+    confirm(bench, "1e308");
     EXPECT_EQ(bench.form.supplyVoltage, 1.7e308);
-    EXPECT_EQ(bench.drawn(), "");
+    EXPECT_EQ(bench.pen(), "1720 1500"); // the battery comes first
     EXPECT_FALSE(bench.window.at(control::panel).visible);
+    place(bench, control::Option2, "5");
+    EXPECT_EQ(bench.pen(), "2130 1500"); // no second battery
 }

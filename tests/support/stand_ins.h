@@ -154,6 +154,7 @@ public:
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
     [[nodiscard]] bool visible(Name control) const override { return m_controls.find(control)->second.visible; }
     void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
+    [[nodiscard]] bool enabled(Name control) const override { return m_controls.find(control)->second.enabled; }
     void focus(Name control) override { focused = control; }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
     [[nodiscard]] std::string text(Name control) const override { return m_controls.find(control)->second.text; }

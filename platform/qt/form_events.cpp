@@ -1,0 +1,88 @@
+#include "platform/qt/form_events.h"
+
+#include "platform/qt/keys.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+
+CloseWish::CloseWish(QWidget& window, std::function<void()> wished) : QObject(&window), m_wished(std::move(wished))
+{
+    window.installEventFilter(this);
+}
+
+bool CloseWish::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool escape = event->type() == QEvent::KeyPress && qobject_cast<const QDialog*>(watched) != nullptr &&
+                        dynamic_cast<const QKeyEvent&>(*event).matches(QKeySequence::Cancel);
+    if (!escape && event->type() != QEvent::Close) {
+        return QObject::eventFilter(watched, event);
+    }
+    event->ignore();
+    m_wished();
+    return true;
+}
+
+LabelClick::LabelClick(QLabel& label, std::function<void()> clicked)
+    : QObject(&label), m_label(label), m_clicked(std::move(clicked))
+{
+    label.installEventFilter(this);
+}
+
+bool LabelClick::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto& release = dynamic_cast<const QMouseEvent&>(*event);
+        if (release.button() == Qt::LeftButton && m_label.rect().contains(release.position().toPoint())) {
+            m_clicked();
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+Hovering::Hovering(QWidget& frame, std::function<void(const QWidget&)> hovered)
+    : QObject(&frame), m_frame(frame), m_hovered(std::move(hovered))
+{
+    QList<QWidget*> widgets = frame.findChildren<QWidget*>();
+    widgets.push_back(&frame);
+    for (QWidget* const widget : widgets) {
+        widget->setMouseTracking(true);
+        widget->installEventFilter(this);
+    }
+}
+
+bool Hovering::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        if (dynamic_cast<const QMouseEvent&>(*event).buttons() != Qt::NoButton) {
+            break;
+        }
+        m_hovered(dynamic_cast<const QWidget&>(*watched));
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease: break;
+    default: return QObject::eventFilter(watched, event);
+    }
+    return watched == &m_frame; // what its controls leave alone goes no further than the frame
+}
+
+KeyDetour::KeyDetour(QWidget& button, QWidget& canvas) : QObject(&button), m_canvas(canvas)
+{
+    button.installEventFilter(this);
+}
+
+bool KeyDetour::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+        const auto character = keys::character(key);
+        if (keys::code(key) != 0 || (character && QChar(*character).isPrint() && *character != ' ')) {
+            return QCoreApplication::sendEvent(&m_canvas, event);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+class QLabel;
+class QWidget;
+
+/// Tells when the user wants a window to go away: by its frame, or by Esc in a dialog. The window itself stays as it
+/// is.
+class CloseWish final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the window. Without its event filter the window closes again.
+    CloseWish(QWidget& window, std::function<void()> wished);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::function<void()> m_wished;
+};
+
+/// Makes a button of a label, for the mouse.
+class LabelClick final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the label.
+    LabelClick(QLabel& label, std::function<void()> clicked);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    const QLabel& m_label;
+    std::function<void()> m_clicked;
+};
+
+/// A frame that lies on the canvas and keeps the mouse to itself: tells over which of its widgets, itself included, the
+/// mouse moves with no button down.
+class Hovering final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the frame, which must be complete.
+    Hovering(QWidget& frame, std::function<void(const QWidget&)> hovered);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    const QWidget& m_frame;
+    std::function<void(const QWidget&)> m_hovered;
+};
+
+/// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc
+/// are the button's.
+class KeyDetour final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the button.
+    KeyDetour(QWidget& button, QWidget& canvas);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget& m_canvas;
+};

@@ -1,0 +1,47 @@
+#include "platform/qt/menu_tree.h"
+
+#include "platform/qt/text.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+MenuTree::MenuTree(QWidget& form, std::function<void(Name)> clicked) : m_form(form), m_clicked(std::move(clicked)) {}
+
+QAction& MenuTree::add(int depth, const MenuItem& item)
+{
+    const bool separator = item.caption == "-";
+    auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
+    action->setSeparator(separator);
+    action->setShortcut(QKeySequence::fromString(toQString(item.shortcut), QKeySequence::PortableText));
+    action->setCheckable(item.look == Look::unchecked || item.look == Look::checked);
+    action->setChecked(item.look == Look::checked);
+    action->setVisible(item.look != Look::hidden);
+    action->setObjectName(toQString(item.name));
+    connect(action, &QAction::triggered, this, [this, action, name = item.name](bool checked) {
+        // A check item flips itself first, but its mark is the command's to flip.
+        if (action->isCheckable()) {
+            action->setChecked(!checked);
+        }
+        m_clicked(name);
+    });
+    menuAt(depth).addAction(action);
+    m_lastItems.resize(static_cast<std::size_t>(depth));
+    m_lastItems.push_back(action);
+    return *action;
+}
+
+QWidget& MenuTree::menuAt(int depth)
+{
+    if (depth == 0) {
+        return *m_form.findChild<QMenuBar*>();
+    }
+    QAction& parent = *m_lastItems.at(static_cast<std::size_t>(depth) - 1);
+    if (parent.menu() == nullptr) {
+        auto* const menu = new QMenu(&m_form);
+        menu->setObjectName(parent.objectName() + "Menu");
+        menu->setAccessibleName(parent.text().remove('&').trimmed());
+        parent.setMenu(menu);
+    }
+    return *parent.menu();
+}

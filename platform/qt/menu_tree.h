@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/window.h"
+
+#include <QObject>
+#include <functional>
+#include <vector>
+
+class QAction;
+class QWidget;
+
+/// Builds the menus of a window with a menu bar, row by row.
+class MenuTree final : public QObject {
+    Q_OBJECT
+
+public:
+    MenuTree(QWidget& form, std::function<void(Name)> clicked);
+
+    /// Appends a row: depth 0 is the bar itself, each further depth lies under the last row above it.
+    QAction& add(int depth, const MenuItem& item);
+
+private:
+    [[nodiscard]] QWidget& menuAt(int depth);
+
+    QWidget& m_form;
+    std::function<void(Name)> m_clicked;
+    std::vector<QAction*> m_lastItems; ///< the last row of each depth
+};

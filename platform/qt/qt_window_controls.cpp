@@ -1,0 +1,157 @@
+// The controls of a window; qt_window.cpp has the window itself.
+#include "platform/qt/blinking_picture.h"
+#include "platform/qt/canvas_widget.h"
+#include "platform/qt/colors.h"
+#include "platform/qt/qt_window.h"
+#include "platform/qt/text.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <cmath>
+
+namespace {
+
+int toPixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+} // namespace
+
+void QtWindow::setChecked(Name item, bool checked)
+{
+    find<QAction>(item).setChecked(checked);
+}
+
+bool QtWindow::checked(Name item) const
+{
+    return find<QAction>(item).isChecked();
+}
+
+void QtWindow::setVisible(Name control, bool visible)
+{
+    if (auto* const action = findIf<QAction>(control)) {
+        action->setVisible(visible);
+    } else {
+        find<QWidget>(control).setVisible(visible);
+    }
+}
+
+bool QtWindow::visible(Name control) const
+{
+    if (const auto* const action = findIf<QAction>(control)) {
+        return action->isVisible();
+    }
+    const auto& widget = find<QWidget>(control);
+    const auto* const picture = qobject_cast<const BlinkingPicture*>(&widget);
+    return picture != nullptr ? picture->isOn() : !widget.isHidden();
+}
+
+void QtWindow::setEnabled(Name control, bool enabled)
+{
+    if (auto* const action = findIf<QAction>(control)) {
+        action->setEnabled(enabled);
+    } else {
+        find<QWidget>(control).setEnabled(enabled);
+    }
+}
+
+bool QtWindow::enabled(Name control) const
+{
+    const auto* const action = findIf<QAction>(control);
+    // Not isEnabled(), which asks the frames around it too.
+    return action != nullptr ? action->isEnabled() : !find<QWidget>(control).testAttribute(Qt::WA_ForceDisabled);
+}
+
+void QtWindow::focus(Name control)
+{
+    find<QWidget>(control).setFocus(Qt::TabFocusReason); // for this reason a text box selects its text
+}
+
+void QtWindow::setText(Name control, std::string_view text)
+{
+    if (auto* const box = findIf<QLineEdit>(control)) {
+        box->setText(toQString(text));
+    } else {
+        find<QLabel>(control).setText(toQString(text));
+    }
+}
+
+std::string QtWindow::text(Name control) const
+{
+    return find<QLineEdit>(control).text().toStdString();
+}
+
+void QtWindow::setValue(Name control, int value)
+{
+    if (auto* const bar = findIf<QProgressBar>(control)) {
+        return bar->setValue(value);
+    }
+    auto& button = find<QAbstractButton>(control);
+    // The chosen one of a group cannot be taken back while it is exclusive.
+    const bool exclusive = button.autoExclusive();
+    button.setAutoExclusive(false);
+    button.setChecked(value != 0);
+    button.setAutoExclusive(exclusive);
+}
+
+int QtWindow::value(Name control) const
+{
+    if (const auto* const bar = findIf<QProgressBar>(control)) {
+        return bar->value();
+    }
+    return find<QAbstractButton>(control).isChecked() ? 1 : 0;
+}
+
+void QtWindow::setBackColor(Name control, Color color)
+{
+    const QColor ground = toQColor(color);
+    QPalette palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, readableOn(ground));
+    find<QWidget>(control).setPalette(palette);
+}
+
+void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
+{
+    auto* const button = findIf<QAbstractButton>(control);
+    auto* const label = findIf<QLabel>(control);
+    const double scale = m_form.devicePixelRatioF();
+    QtSurface surface(scale);
+    surface.growTo(button != nullptr ? button->iconSize() : label->minimumSize());
+    draw(surface);
+    QPixmap picture = QPixmap::fromImage(surface.image());
+    picture.setDevicePixelRatio(scale);
+    if (button != nullptr) {
+        button->setIcon(picture);
+    } else {
+        label->setPixmap(picture);
+    }
+}
+
+void QtWindow::setLeft(Name control, double twips)
+{
+    auto& widget = find<QWidget>(control);
+    widget.move(toPixels(twips), widget.y());
+}
+
+void QtWindow::setTop(Name control, double twips)
+{
+    auto& widget = find<QWidget>(control);
+    widget.move(widget.x(), toPixels(twips));
+}
+
+void QtWindow::placeAwayFrom(Name control, double x, double y)
+{
+    auto& widget = find<QWidget>(control);
+    const Qt::Alignment side = x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft;
+    const Qt::Alignment end = y / twipsPerPixel < m_canvas->height() / 2.0 ? Qt::AlignBottom : Qt::AlignTop;
+    QLayout& layout = *widget.parentWidget()->layout();
+    if (layout.itemAt(layout.indexOf(&widget))->alignment() != (side | end)) {
+        layout.setAlignment(&widget, side | end);
+    }
+}
