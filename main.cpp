@@ -26,6 +26,20 @@ int main(int argc, char* argv[])
     // The toolkit's dialogs would read and write a file of their own in the home directory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 
+    Form1* schemlet = nullptr;
+    const auto report = [&schemlet](const Event& event) {
+        if (schemlet != nullptr) {
+            deliver(*schemlet, event);
+        }
+    };
+
+    // The splash stands on the screen while the rest is made behind it.
+    QDialog splashView;
+    Ui::Form6().setupUi(&splashView);
+    QtWindow form6(splashView, report);
+    form6::load(form6);
+    QCoreApplication::processEvents();
+
     QMainWindow mainView;
     Ui::Form1 form;
     form.setupUi(&mainView);
@@ -35,21 +49,14 @@ int main(int argc, char* argv[])
     Ui::Form3().setupUi(&aboutView);
     QDialog outputView(&mainView);
     Ui::Form4().setupUi(&outputView);
-    QDialog splashView;
-    Ui::Form6().setupUi(&splashView);
 
-    Form1* schemlet = nullptr;
-    const auto report = [&schemlet](const Event& event) { deliver(*schemlet, event); };
     QtWindow window(mainView, report);
     QtWindow form2(helpView, report);
     QtWindow form3(aboutView, report);
     QtWindow form4(outputView, report);
-    QtWindow form6(splashView, report);
     QtDialogs dialogs(mainView);
     QtPictures pictures(form.Canvas->surface());
     Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form2, form3, form4, form6);
     schemlet = &form1;
-
-    form6::load(form1);
     return QApplication::exec();
 }

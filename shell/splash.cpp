@@ -3,12 +3,11 @@
 #include "shell/product_picture.h"
 #include "shell/view.h"
 
-void form6::load(Form1& form)
+void form6::load(Window& splash)
 {
-    form.form6.drawPicture(control::Picture1, drawProductPicture);
-    form.form6.showWindow();
-    form.form6.setInterval(control::Timer1, 1000);
-    form.splashProgress = 0;
+    splash.drawPicture(control::Picture1, drawProductPicture);
+    splash.showWindow();
+    splash.setInterval(control::Timer1, 1000);
 }
 
 void form6::Timer1(Form1& form)

@@ -15,8 +15,8 @@ inline constexpr Name Timer1 = "Timer1"; ///< waits for the bar to start
 inline constexpr Name Timer2 = "Timer2"; ///< moves the bar
 } // namespace control
 
-/// Shows the splash and starts its clock. Once, when the program starts.
-void load(Form1& form);
+/// Shows the splash and starts its clock. Needs no other window, so that it can be the first thing to be seen.
+void load(Window& splash);
 
 void Timer1(Form1& form);
 

@@ -17,7 +17,7 @@ struct Start {
     StandInWindow splash{splashControls};
     Form1 form{surface, window, dialogs, pictures, others, others, others, splash};
 
-    Start() { form6::load(form); }
+    Start() { form6::load(splash); }
 
     void tick(Name timer) { deliver(form, {.kind = Event::Kind::tick, .window = form6::window, .name = timer}); }
 };
