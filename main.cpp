@@ -12,6 +12,7 @@
 #include "ui_Form6.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSettings>
 
 int main(int argc, char* argv[])
@@ -19,6 +20,9 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     // Fast pencil strokes need every motion; the platform plug-in switches merging on when it starts, so only now.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    // Under this name the desktop finds the menu entry of the running windows.
+    QGuiApplication::setDesktopFileName("org.schemlet.schemlet");
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(), QIcon(":/schemlet.svg")));
     installCanvasAccessibility();
     endOnSignals();
     // The end of the last window would ask every hidden one first, and none of them closes unasked.
