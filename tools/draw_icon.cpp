@@ -1,14 +1,13 @@
 // Draws an SVG picture as a square PNG one.
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QImage>
 #include <QImageReader>
 #include <QTextStream>
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const QStringList words = QGuiApplication::arguments();
+    const QCoreApplication application(argc, argv);
+    const QStringList words = QCoreApplication::arguments();
     if (words.size() != 4) {
         QTextStream(stderr) << "Usage: draw_icon SVG PIXELS PNG\n";
         return 2;
