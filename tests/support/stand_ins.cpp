@@ -20,48 +20,59 @@ template <typename... Values> std::string words(const Values&... values)
 
 } // namespace
 
+template <typename... Values> void RecordingSurface::note(const Values&... call)
+{
+    if (!recording) {
+        return;
+    }
+    ink.push_back(words(call...));
+    if (!firstInkColor) {
+        firstInkColor = foreColor;
+    }
+}
+
 void RecordingSurface::line(float x1, float y1, float x2, float y2)
 {
-    note(words("line", x1, y1, x2, y2));
+    note("line", x1, y1, x2, y2);
     m_current = {x2, y2};
 }
 
 void RecordingSurface::box(float x1, float y1, float x2, float y2)
 {
-    note(words("box", x1, y1, x2, y2));
+    note("box", x1, y1, x2, y2);
     m_current = {x2, y2};
 }
 
 void RecordingSurface::circle(float x, float y, float radius)
 {
-    if (recording) {
-        note(words("circle", x, y, radius));
-    }
+    note("circle", x, y, radius);
 }
 
 void RecordingSurface::arc(float x, float y, float radius, float start, float end)
 {
-    note(words("arc", x, y, radius, start, end));
+    note("arc", x, y, radius, start, end);
 }
 
 void RecordingSurface::print(std::string_view text, bool endLine)
 {
-    note(words("print", m_current.x, m_current.y, text) + (endLine ? "" : " ..."));
+    note("print", m_current.x, m_current.y, std::string(text) + (endLine ? "" : " ..."));
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
+}
+
+void RecordingSurface::clear()
+{
+    note("clear");
+}
+
+void RecordingSurface::setBackColor(Color color)
+{
+    note("back", color);
 }
 
 std::optional<Color> RecordingSurface::point(float x, float y) const
 {
     probedAt = recording ? words(x, y) : "";
     return underPoint;
-}
-
-void RecordingSurface::note(std::string call)
-{
-    ink.push_back(std::move(call));
-    if (!firstInkColor) {
-        firstInkColor = foreColor;
-    }
 }
 
 void RecordingSurface::setForeColor(Color color)
@@ -144,6 +155,29 @@ StandInWindow::Control& StandInWindow::at(Name name)
         throw std::invalid_argument("no such control: " + std::string(name));
     }
     return found->second;
+}
+
+std::vector<Name> StandInWindow::names() const
+{
+    std::vector<Name> all;
+    for (const auto& [name, control] : m_controls) {
+        all.emplace_back(name);
+    }
+    return all;
+}
+
+void StandInWindow::unload()
+{
+    ++timesUnloaded;
+    intervals.clear();
+}
+
+void StandInWindow::printForm()
+{
+    ++timesPrinted;
+    if (printFault) {
+        throw RuntimeError(*printFault, "Printer error");
+    }
 }
 
 void StandInWindow::addMenuItem(int /*depth*/, const MenuItem& item)

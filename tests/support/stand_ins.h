@@ -18,7 +18,7 @@
 class RecordingSurface final : public Surface {
 public:
     std::vector<std::string> ink;
-    bool recording = true;           ///< off for long walks
+    bool recording = true;           ///< off for long walks: then nothing is kept
     std::optional<Color> underPoint; ///< what point() finds, anywhere
     mutable std::string probedAt;    ///< where point() looked last
     Color foreColor = black;
@@ -30,8 +30,8 @@ public:
     void arc(float x, float y, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(float x, float y) const override;
-    void clear() override { note("clear"); }
-    void setBackColor(Color color) override { note("back " + std::to_string(color)); }
+    void clear() override;
+    void setBackColor(Color color) override;
     void setForeColor(Color color) override;
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
@@ -39,7 +39,7 @@ public:
     void setCurrent(float x, float y) override { m_current = {x, y}; }
 
 private:
-    void note(std::string call);
+    template <typename... Values> void note(const Values&... call);
 
     int m_drawWidth = 2;
     Point m_current;
@@ -89,13 +89,15 @@ private:
 
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
 inline constexpr Name formControls[] = {
-    control::Canvas,    control::Picture1, control::Shape1,  control::Label27, control::sb,        control::sbPen,
-    control::sbHeading, control::sbTool,   control::sbErase, control::panel,   control::sup,       control::bat,
-    control::Label11,   control::Label12,  control::Label13, control::Label28, control::Option1,   control::Option2,
-    control::Option3,   control::Option4,  control::Option5, control::Text11,  control::Command3,  control::Command7,
-    control::Command8,  control::Toolbar1, control::Frame2,  control::Label1,  control::statusBar, "Image1",
-    "Image2",           "Image3",          "Image4",         "Image5",         "Image15",          "Image16",
-    "Image17",          "Image18",         "Image19"};
+    control::Canvas,   control::Picture1,  control::Shape1,   control::Label27,   control::sb,
+    control::sbPen,    control::sbHeading, control::sbTool,   control::sbErase,   control::panel,
+    control::sup,      control::bat,       control::Label11,  control::Label12,   control::Label13,
+    control::Label28,  control::Option1,   control::Option2,  control::Option3,   control::Option4,
+    control::Option5,  control::Text11,    control::Command3, control::Command7,  control::Command8,
+    control::Toolbar1, control::Frame2,    control::Label1,   control::statusBar, "Image1",
+    "Image2",          "Image3",           "Image4",          "Image5",           "Image15",
+    "Image16",         "Image17",          "Image18",         "Image19",          "Image20",
+    "Image7"};
 
 // The same of the other windows' forms.
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
@@ -130,20 +132,23 @@ public:
     int timesUnloaded = 0;
     std::vector<int> heights; ///< in the order in which they were set
     int timesPrinted = 0;
+    std::optional<Fault> printFault; ///< thrown by every printForm()
     std::string poppedUp;
     std::map<std::string, int, std::less<>> intervals;
 
     /// Fails the test for a name that the program's windows do not have.
     [[nodiscard]] Control& at(Name name);
+    /// Of all controls, menu items and toolbar buttons.
+    [[nodiscard]] std::vector<Name> names() const;
 
     void setCaption(std::string_view title) override { caption = title; }
     void showWindow() override { ++timesShown; }
     void showWithoutKeyboard() override { ++timesShownWithoutKeyboard; }
     void hideWindow() override { ++timesHidden; }
-    void unload() override { ++timesUnloaded; }
+    void unload() override;
     void setHeight(int twips) override { heights.push_back(twips); }
     [[nodiscard]] int height() const override { return heights.empty() ? 0 : heights.back(); }
-    void printForm() override { ++timesPrinted; }
+    void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { ++timesEnded; }
     void addToolButton(Name key, std::string_view /*tip*/) override { m_controls.emplace(key, Control{}); }

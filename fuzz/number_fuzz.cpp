@@ -1,0 +1,71 @@
+#include "circuit/numbers.h"
+#include "platform/runtime_error.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <regex>
+
+// What texts mean as numbers, against the C library and a regular expression that says which texts are numbers at all.
+
+namespace {
+
+void demand(bool holds)
+{
+    if (!holds) {
+        std::abort();
+    }
+}
+
+/// None where it is too large.
+template <double (*convert)(std::string_view)> std::optional<double> converted(std::string_view text)
+{
+    try {
+        return convert(text);
+    } catch (const RuntimeError& error) {
+        demand(error.fault == Fault::overflow || error.fault == Fault::typeMismatch);
+        return error.fault == Fault::overflow ? std::nullopt : std::optional(std::nan(""));
+    }
+}
+
+/// The same of a number's own characters.
+std::optional<double> expected(const std::string& number)
+{
+    const double value = std::strtod(number.c_str(), nullptr); // the locale is C, as nothing sets another
+    return std::isinf(value) ? std::nullopt : std::optional(value);
+}
+
+/// Fifteen digits give the number back but for what lies behind them; the very largest are rounded out of range.
+void checkWriting(double number)
+{
+    if (std::abs(number) > 1.797693134862315e308) {
+        return;
+    }
+    const std::string text = toText(number);
+    const double read = toNumber(text);
+    demand(std::abs(read - number) <= std::abs(number) * 1e-14 && toText(read) == text);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static const std::regex leading(R"(^[ \t]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
+    static const std::regex trailing(R"([ \t]*)");
+    if (size > 400) {
+        return 0; // regular expressions recurse for every character, and longer texts hold nothing new
+    }
+    const std::string text(reinterpret_cast<const char*>(bytes), size);
+    std::smatch match;
+    const bool found = std::regex_search(text, match, leading, std::regex_constants::match_continuous);
+    const bool all = found && std::regex_match(match.suffix().str(), trailing);
+    const std::optional<double> read = converted<leadingNumber>(text);
+    demand(read == (found ? expected(match[1]) : 0.0));
+    const std::optional<double> whole = converted<toNumber>(text);
+    demand(all ? whole == read : whole && std::isnan(*whole));
+    if (read) {
+        checkWriting(*read);
+    }
+    return 0;
+}
