@@ -97,7 +97,11 @@ QString chooseFile(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
+    // What is selected once the dialog is over may be something else, or nothing: a key may have come meanwhile.
+    QString chosen;
+    QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
+    dialog.exec();
+    return chosen;
 }
 
 } // namespace
