@@ -21,11 +21,16 @@ namespace place {
 constexpr int escape = 9, enter = 36, control = 37, shift = 50, alt = 64, f1 = 67;
 constexpr std::array arrows{111, 113, 114, 116};
 constexpr std::array digits{10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 60};
-/// Without the X: the question before the end would come up all the time.
+/// Without the X: the question before the end would come up all the time. For the same reason menus are entered behind
+/// the File menu and walked away from it.
 constexpr std::array letters{24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 38, 39, 40,
                              41, 42, 43, 44, 45, 46, 52, 54, 55, 56, 57, 58};
+constexpr std::array menus{26, 46, 55};
+constexpr std::array menuSteps{111, 114, 116, 116};
 constexpr std::array others{escape, enter, 23, 65, 22, f1, 76, 110, 112, 115, 117, 119, 59, 47, 48, 79, 88};
 } // namespace place
+
+template <typename Answer> using Reply = std::unique_ptr<Answer, void (*)(void*)>;
 
 /// The other end of the screen: what it is told there looks to the program like keyboard and mouse.
 class Hands {
@@ -57,7 +62,12 @@ public:
     }
 
     /// Waits until the screen has done all that.
-    void finish() { free(xcb_get_input_focus_reply(m_screen.get(), xcb_get_input_focus(m_screen.get()), nullptr)); }
+    void finish()
+    {
+        xcb_connection_t* const screen = m_screen.get();
+        (void)Reply<xcb_get_input_focus_reply_t>(
+            xcb_get_input_focus_reply(screen, xcb_get_input_focus(screen), nullptr), free);
+    }
 
 private:
     void fake(std::uint8_t kind, int detail, int x = 0, int y = 0)
@@ -78,9 +88,9 @@ private:
     }
     void walkMenu()
     {
-        press(place::alt, m_chance.of(place::letters));
+        press(place::alt, m_chance.of(place::menus));
         for (int steps = m_chance.below(20); steps > 0; --steps) {
-            tap(m_chance.of(place::arrows));
+            tap(m_chance.of(place::menuSteps));
         }
         tap(m_chance.oneIn(3) ? place::escape : place::enter);
     }
@@ -113,9 +123,9 @@ private:
     {
         xcb_connection_t* const screen = m_screen.get();
         constexpr std::string_view list = "_NET_CLIENT_LIST";
-        const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void*)> atom(
+        const Reply<xcb_intern_atom_reply_t> atom(
             xcb_intern_atom_reply(screen, xcb_intern_atom(screen, 0, list.size(), list.data()), nullptr), free);
-        const std::unique_ptr<xcb_get_property_reply_t, void (*)(void*)> windows(
+        const Reply<xcb_get_property_reply_t> windows(
             xcb_get_property_reply(screen, xcb_get_property(screen, 0, m_root, atom->atom, XCB_ATOM_WINDOW, 0, 99),
                                    nullptr),
             free);
@@ -159,7 +169,7 @@ public:
         if (m_program.waitForFinished(moment)) {
             return false;
         }
-        if (m_age.elapsed() >= sample * 1000 * static_cast<qint64>(m_megabytes.size() + 1)) {
+        if (m_age.elapsed() >= 1000LL * sample * static_cast<qint64>(m_megabytes.size() + 1)) {
             m_megabytes.push_back(residentMegabytes(m_program));
         }
         return true;

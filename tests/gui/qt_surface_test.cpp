@@ -1,6 +1,7 @@
 #include "platform/qt/qt_surface.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 namespace {
 
@@ -129,4 +130,27 @@ TEST(QtSurface, PrintsFromTheCurrentPointAndEndsTheLineOrNot)
     surface.setCurrent(-1e9F, 1e9F); // far outside: nothing to draw, and no overflow
     surface.print("R", true);
     EXPECT_EQ(surface.current().x, 0);
+}
+
+TEST(QtSurface, KeepsNothingOfAMillionStrokes)
+{
+    QtSurface surface = surfaceOf(100, 100);
+    const auto draw = [&](int strokes) {
+        for (int i = 0; i < strokes; i += 4) {
+            const auto x = static_cast<float>(i % 1499);
+            const auto y = static_cast<float>(i % 1501);
+            surface.line(x, y, y, x);
+            surface.box(x, y, x + 100, y + 100);
+            surface.circle(x, y, 100);
+            surface.arc(x, y, 100, 1, 2);
+            if (i % 1000 == 0) {
+                surface.print(std::to_string(i % 10000), true);
+            }
+        }
+    };
+    draw(10'000);
+    const auto bytes = [] { return mallinfo2().uordblks; };
+    const std::size_t before = bytes();
+    draw(1'000'000);
+    EXPECT_LE(bytes(), before + 1000);
 }

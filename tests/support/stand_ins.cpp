@@ -124,7 +124,7 @@ std::string ScriptedDialogs::saveFile(std::string_view extension, std::string_vi
 {
     lastFilter = std::string(extension) + ", " + std::string(filter);
     EXPECT_TRUE(fileToSave) << "unexpected file dialog";
-    const std::string path = std::exchange(fileToSave, {}).value_or("");
+    std::string path = std::exchange(fileToSave, {}).value_or("");
     if (path.empty()) {
         throw RuntimeError(Fault::dialogCancelled, "");
     }
