@@ -35,7 +35,7 @@ public:
             }
         };
         m_output.addToolButton(form4::print, "");
-        form6::load(m_form);
+        form6::load(m_splash);
     }
 
     void step()
