@@ -1,3 +1,4 @@
+#include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_pictures.h"
@@ -23,7 +24,7 @@ int main(int argc, char* argv[])
     // Under this name the desktop finds the menu entry of the running windows.
     QGuiApplication::setDesktopFileName("org.schemlet.schemlet");
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(), QIcon(":/schemlet.svg")));
-    installCanvasAccessibility();
+    installAccessibility();
     endOnSignals();
     // The end of the last window would ask every hidden one first, and none of them closes unasked.
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -31,6 +31,7 @@ public:
     void focus(Name /*control*/) override {}
     void setText(Name /*control*/, std::string_view /*text*/) override {}
     [[nodiscard]] std::string text(Name /*control*/) const override { return "10"; }
+    void setDescription(Name /*control*/, std::string_view /*text*/) override {}
     void setValue(Name control, int value) override { m_chosen = value == 1 ? control : Name(); }
     [[nodiscard]] int value(Name control) const override { return control == m_chosen ? 1 : 0; }
     void setBackColor(Name /*control*/, Color /*color*/) override {}

@@ -74,6 +74,8 @@ public:
     virtual void focus(Name control) = 0;
     virtual void setText(Name control, std::string_view text) = 0;
     [[nodiscard]] virtual std::string text(Name control) const = 0;
+    /// What a screen reader says of a control after its name; said again when it changes.
+    virtual void setDescription(Name control, std::string_view text) = 0;
     /// 1 for an option button that is chosen or a check box that is ticked, else 0; of a progress bar 0 to 100. Setting
     /// it is no click.
     virtual void setValue(Name control, int value) = 0;

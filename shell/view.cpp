@@ -8,14 +8,19 @@
 
 namespace {
 
-std::string_view headingText(int code)
+struct HeadingTexts {
+    std::string_view shown;  ///< in the status bar
+    std::string_view spoken; ///< for a screen reader, which makes nothing of an arrow
+};
+
+HeadingTexts headingTexts(int code)
 {
     switch (code) {
-    case heading::right: return "→ Right";
-    case heading::left: return "← Left";
-    case heading::up: return "↑ Up";
-    case heading::down: return "↓ Down";
-    default: return "";
+    case heading::right: return {"→ Right", ", heading right"};
+    case heading::left: return {"← Left", ", heading left"};
+    case heading::up: return {"↑ Up", ", heading up"};
+    case heading::down: return {"↓ Down", ", heading down"};
+    default: return {};
     }
 }
 
@@ -50,13 +55,29 @@ std::string wholeTwips(double twips)
     return std::to_string(static_cast<long long>(twips));
 }
 
-/// What starts hidden or disabled.
+std::string penText(const CanvasState& state)
+{
+    return wholeTwips(state.x) + ", " + wholeTwips(state.y);
+}
+
+/// What the status bar shows, for somebody who does not see it.
+std::string spokenStatus(const CanvasState& state)
+{
+    std::string text = "Pen at " + penText(state) + " twips";
+    text += headingTexts(state.heading).spoken;
+    text += ", tool ";
+    text += toolText(state);
+    return state.eraseMode == 1 ? text + ", erase mode" : text;
+}
+
+/// What starts hidden or disabled, and the toolbox's colour until the canvas gets one.
 void prepareControls(Form1& form)
 {
     using namespace control;
     form.controls.hide({Label27, Shape1, panel, sup, bat, Label11, Label13, Label12, Label28});
     form.controls.hide({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
     form.controls.disable({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
+    form.controls.setBackColor(Frame2, 0xE0E0E0);
 }
 
 } // namespace
@@ -88,12 +109,13 @@ void showStatus(Form1& form)
 {
     form.statusDue = 0;
     form.controls.setInterval(control::statusTimer, 0);
-    form.controls.setText(control::sbPen, wholeTwips(form.x) + ", " + wholeTwips(form.y));
-    form.controls.setText(control::sbHeading, headingText(form.heading));
+    form.controls.setText(control::sbPen, penText(form));
+    form.controls.setText(control::sbHeading, headingTexts(form.heading).shown);
     form.controls.setText(control::sbTool, toolText(form));
     form.controls.setCursor(cursorFor(form));
     form.controls.placeAwayFrom(control::panel, form.x, form.y); // the pen may have come near
     form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
+    form.controls.setDescription(control::Canvas, spokenStatus(form));
 }
 
 void showStatusSoon(Form1& form)

@@ -9,7 +9,7 @@ void openMainWindow(Form1& form);
 void Timer1(Form1& form);
 
 /// Brings what shows the state up to date: the status bar's panels behind the hint (pen, heading, tool in hand, erase
-/// mode) and the pointer over the canvas.
+/// mode), the canvas's description, which tells the same to a screen reader, and the pointer over the canvas.
 void showStatus(Form1& form);
 
 /// The same a moment later, once for all events until then: ink comes first, and nobody reads faster.

@@ -2,7 +2,6 @@
 
 #include "platform/qt/keys.h"
 
-#include <QAccessibleWidget>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,12 +19,6 @@ int buttonCode(Qt::MouseButtons buttons)
     code += buttons.testFlag(Qt::RightButton) ? button::right : 0;
     code += buttons.testFlag(Qt::MiddleButton) ? button::middle : 0;
     return code;
-}
-
-QAccessibleInterface* canvasAccessibility(const QString& /*className*/, QObject* object)
-{
-    auto* const canvas = qobject_cast<CanvasWidget*>(object);
-    return canvas != nullptr ? new QAccessibleWidget(canvas, QAccessible::Canvas) : nullptr;
 }
 
 } // namespace
@@ -109,9 +102,4 @@ void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) con
             .code = code,
             .x = static_cast<float>(position.x() * twipsPerPixel),
             .y = static_cast<float>(position.y() * twipsPerPixel)});
-}
-
-void installCanvasAccessibility()
-{
-    QAccessible::installFactory(canvasAccessibility);
 }

@@ -38,6 +38,3 @@ private:
     quint64 m_lastPress = 0; ///< when, in milliseconds
     bool m_releaseIsStray = false;
 };
-
-/// Tells assistive programs that a CanvasWidget is a canvas. Call once, when the application object exists.
-void installCanvasAccessibility();

@@ -80,6 +80,9 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
         }
     }
     connectControls();
+    if (auto* const rest = form.findChild<QWidget*>("qt_toolbar_ext_button")) {
+        rest->setAccessibleName("More tools"); // the toolkit's own button in a narrow window, nameless
+    }
     if (m_canvas != nullptr) {
         m_canvas->report = [this](const Event& event) { this->report(event); };
         m_canvas->setFocus();
@@ -198,7 +201,7 @@ void QtWindow::addToolButton(Name key, std::string_view tip)
 {
     auto& bar = *m_form.findChild<QToolBar*>();
     if (key.empty()) {
-        bar.addSeparator();
+        bar.widgetForAction(bar.addSeparator())->setProperty("isDecoration", true);
         return;
     }
     QAction* const button = bar.addAction(QIcon(":/pictures/toolbar/" + toQString(key) + ".svg"), toQString(key));

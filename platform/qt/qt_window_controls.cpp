@@ -86,6 +86,16 @@ std::string QtWindow::text(Name control) const
     return find<QLineEdit>(control).text().toStdString();
 }
 
+void QtWindow::setDescription(Name control, std::string_view text)
+{
+    auto& widget = find<QWidget>(control);
+    const QString description = toQString(text);
+    // Every setting counts as news, and a screen reader would say the same again.
+    if (widget.accessibleDescription() != description) {
+        widget.setAccessibleDescription(description);
+    }
+}
+
 void QtWindow::setValue(Name control, int value)
 {
     if (auto* const bar = findIf<QProgressBar>(control)) {
@@ -110,10 +120,15 @@ int QtWindow::value(Name control) const
 void QtWindow::setBackColor(Name control, Color color)
 {
     const QColor ground = toQColor(color);
+    auto& widget = find<QWidget>(control);
     QPalette palette;
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::WindowText, readableOn(ground));
-    find<QWidget>(control).setPalette(palette);
+    // The title of a group is painted as what is typed in a box, but on the group's ground. A button in the group does
+    // not follow: its mark lies on the button's own ground.
+    const bool isButton = qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+    palette.setColor(QPalette::Text, isButton ? palette.color(QPalette::Text) : readableOn(ground));
+    widget.setPalette(palette);
 }
 
 void QtWindow::drawPicture(Name control, void (*draw)(Surface&))

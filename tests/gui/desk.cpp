@@ -19,6 +19,23 @@ QString outputOf(const QString& program, const QStringList& words)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
+/// Where a window is on the screen, without its frame.
+QRect placeOf(const QString& window)
+{
+    const QString place = outputOf("xwininfo", {"-id", window});
+    const auto number = [&](const char* label) {
+        return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
+    };
+    return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"), number("Height:")};
+}
+
+QImage grab(const QRect& part)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
+}
+
+} // namespace
+
 QByteArray waitForLine(QProcess& process)
 {
     while (!process.canReadLine()) {
@@ -38,30 +55,13 @@ void end(QProcess& process)
     }
 }
 
-/// Where a window is on the screen, without its frame.
-QRect placeOf(const QString& window)
-{
-    const QString place = outputOf("xwininfo", {"-id", window});
-    const auto number = [&](const char* label) {
-        return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
-    };
-    return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"), number("Height:")};
-}
-
-QImage grab(const QRect& part)
-{
-    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
-}
-
-} // namespace
-
 Desk::Desk()
 {
     m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
     const QByteArray number = waitForLine(m_server);
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:"); // else one is started for this display, and outlives it
+    denySessionBus();
     // A window that opens while the manager still starts may never be shown.
     m_manager.start("openbox", {"--startup", "echo ready"});
     waitForLine(m_manager);
@@ -71,6 +71,11 @@ Desk::~Desk()
 {
     end(m_manager);
     end(m_server);
+}
+
+void Desk::denySessionBus()
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
 }
 
 void waitUntil(const char* what, const std::function<bool()>& condition)

@@ -7,6 +7,10 @@
 #include <functional>
 #include <initializer_list>
 
+/// Waits for the first line of a process that says so when it is ready.
+QByteArray waitForLine(QProcess& process);
+void end(QProcess& process);
+
 /// A screen of our own: an X server without a monitor and a window manager on it, ended with this object. Must be made
 /// before the application object, which then looks at the same screen.
 class Desk {
@@ -15,6 +19,9 @@ public:
     ~Desk();
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
+
+    /// Gives programs no bus of the session: one would be started for this display, and outlive it.
+    static void denySessionBus();
 
 private:
     QProcess m_server;

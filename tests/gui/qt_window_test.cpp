@@ -1,5 +1,6 @@
 #include "platform/qt/qt_window.h"
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
 #include "tests/support/stand_ins.h"
 #include "ui_Form1.h"
@@ -215,13 +216,52 @@ TEST(QtWindow, SecondPressOfADoubleClickOnSomethingThatWentAwayReachesNothing)
 
 TEST(QtWindow, TellsAssistiveProgramsWhatThingsAre)
 {
-    installCanvasAccessibility();
+    installAccessibility();
     MainWindow main;
     main.window->addMenuItem(0, {"edit", " &Edit "});
     main.window->addMenuItem(1, {"eraser", "&Eraser", "Ctrl+E"});
+    main.window->setDescription(control::Canvas, "Pen at 1600, 1500 twips");
     const QAccessibleInterface& canvas = *QAccessible::queryAccessibleInterface(main.form.Canvas);
     EXPECT_EQ(canvas.role(), QAccessible::Canvas);
     EXPECT_EQ(canvas.text(QAccessible::Name), "Canvas");
-    EXPECT_FALSE(canvas.text(QAccessible::Description).isEmpty());
+    EXPECT_EQ(canvas.text(QAccessible::Description), "Pen at 1600, 1500 twips");
+    EXPECT_EQ(canvas.childCount(), 1); // neither marker nor eraser
+    EXPECT_EQ(canvas.child(0)->text(QAccessible::Name), "ToolBox");
+    EXPECT_EQ(canvas.indexOfChild(canvas.child(0)), 0);
     EXPECT_EQ(main.view.findChild<QMenu*>("editMenu")->accessibleName(), "Edit");
+}
+
+TEST(QtWindow, TellsAScreenReaderOnceOfANewDescription)
+{
+    static int changes;
+    changes = 0;
+    const MainWindow main;
+    QAccessible::setActive(true);
+    const auto previous = QAccessible::installUpdateHandler(
+        [](QAccessibleEvent* event) { changes += event->type() == QAccessible::DescriptionChanged ? 1 : 0; });
+    main.window->setDescription(control::Canvas, "here");
+    main.window->setDescription(control::Canvas, "there");
+    main.window->setDescription(control::Canvas, "there");
+    QAccessible::installUpdateHandler(previous);
+    QAccessible::setActive(false);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(QtWindow, TabGoesFromTheCanvasThroughPanelAndToolboxAsTheyLookAndBack)
+{
+    MainWindow main;
+    using namespace control;
+    main.window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
+    main.window->enable({Text11, Command3, Command7, Command8});
+    main.form.Canvas->setFocus();
+    for (const QString& next :
+         QString("Option3 Option2 Command8 Option4 Option5 Command7 Text11 Command3 Image1 Image2 Image3 Image4 Image5 "
+                 "Image15 Image16 Image17 Image18 Image19 Image20 Image7 Canvas")
+             .split(' ')) {
+        QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(main.view.focusWidget()->objectName(), next);
+    }
+    QTest::keyClick(main.form.Canvas, Qt::Key_Backtab);
+    EXPECT_EQ(main.view.focusWidget(), main.form.Image7);
+    EXPECT_EQ(main.noted(), "");
 }

@@ -64,6 +64,8 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
                bench.window.at(control::sbTool).text + "|" + bench.window.at(control::sbErase).text;
     };
     EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|Normal mode");
+    const auto& spoken = bench.window.at(control::Canvas).description;
+    EXPECT_EQ(spoken, "Pen at 1600, 1500 twips, heading right, tool Pen");
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 
     deliver(bench.form, {.kind = Event::Kind::keyDown, .code = key::up});
@@ -74,5 +76,6 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
 
     deliver(bench.form, {.kind = Event::Kind::tick, .name = control::statusTimer});
     EXPECT_EQ(panels(), "1600, 1450|↑ Up|Rectangle|Erase mode");
+    EXPECT_EQ(spoken, "Pen at 1600, 1450 twips, heading up, tool Rectangle, erase mode");
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 }

@@ -114,6 +114,7 @@ public:
         int value = 0;
         Color backColor = white;
         std::string text;
+        std::string description;
         void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
@@ -163,6 +164,7 @@ public:
     void focus(Name control) override { focused = control; }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
     [[nodiscard]] std::string text(Name control) const override { return m_controls.find(control)->second.text; }
+    void setDescription(Name control, std::string_view text) override { at(control).description = text; }
     void setValue(Name control, int value) override { at(control).value = value; }
     [[nodiscard]] int value(Name control) const override { return m_controls.find(control)->second.value; }
     void setBackColor(Name control, Color color) override { at(control).backColor = color; }
