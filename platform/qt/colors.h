@@ -9,5 +9,5 @@
 [[nodiscard]] QColor toQColor(Color color);
 [[nodiscard]] Color toColor(const QColor& color);
 
-/// Black or white, whichever stands out more: at least 4.5 to 1 on every ground.
+/// Black or white, whichever has at least 4.5 to 1 on this ground, the style's shading of it included.
 [[nodiscard]] QColor readableOn(const QColor& ground);

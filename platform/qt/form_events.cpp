@@ -7,6 +7,19 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QRadioButton>
+
+namespace {
+
+/// As arrow keys do not move in a group of options, Tab must; the toolkit leaves it only the option with the focus.
+void letTabReachOptions(const QWidget& button)
+{
+    for (auto* const option : button.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+        option->setFocusPolicy(Qt::StrongFocus);
+    }
+}
+
+} // namespace
 
 CloseWish::CloseWish(QWidget& window, std::function<void()> wished) : QObject(&window), m_wished(std::move(wished))
 {
@@ -79,6 +92,9 @@ bool KeyDetour::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {
         const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) {
+            letTabReachOptions(dynamic_cast<const QWidget&>(*watched));
+        }
         const auto character = keys::character(key);
         if (keys::code(key) != 0 || (character && QChar(*character).isPrint() && *character != ' ')) {
             return QCoreApplication::sendEvent(&m_canvas, event);

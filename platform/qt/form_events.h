@@ -53,7 +53,7 @@ private:
 };
 
 /// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc
-/// are the button's.
+/// are the button's. Tab goes to each option of a group.
 class KeyDetour final : public QObject {
     Q_OBJECT
 

@@ -80,6 +80,7 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
         }
     }
     connectControls();
+    form.setAttribute(Qt::WA_KeyboardFocusChange); // what has the focus looks so from the start, not from the first Tab
     if (auto* const rest = form.findChild<QWidget*>("qt_toolbar_ext_button")) {
         rest->setAccessibleName("More tools"); // the toolkit's own button in a narrow window, nameless
     }

@@ -7,6 +7,7 @@
 #include "ui_Form4.h"
 #include "ui_Form6.h"
 
+#include <QMetaProperty>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
@@ -26,7 +27,7 @@ double luminance(QRgb color)
 /// From 1, the same, to 21, black and white.
 double contrast(QRgb one, QRgb other)
 {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
@@ -57,8 +58,11 @@ int expectReadable(const QWidget& window, const std::string& where)
     int texts = 0;
     for (auto* const widget : window.findChildren<QWidget*>()) {
         for (const char* const property : {"text", "title"}) {
+            const auto* const type = widget->metaObject();
             const QString text = widget->property(property).toString().trimmed();
-            if (widget->isVisible() && !text.isEmpty()) {
+            // A progress bar's text is not to be written, and not to be seen.
+            if (widget->isVisible() && !text.isEmpty() &&
+                type->property(type->indexOfProperty(property)).isWritable()) {
                 ++texts;
                 EXPECT_GE(textContrast(*widget, property), 4.5) << where << ": " << text.toStdString();
             }
@@ -157,7 +161,7 @@ TEST(Contrast, OfEveryTextIsEnoughOnEveryDesktop)
         const std::string where = QColor(ground).name().toStdString();
         MainWindow main;
         showAll(main);
-        EXPECT_EQ(expectReadable(main.view, where), 20);
+        EXPECT_EQ(expectReadable(main.view, where), 21);
         const Shown<QDialog, Ui::Form2> help;
         help.window->setHeight(form2::open);
         EXPECT_EQ(expectReadable(help.view, where), 44);
@@ -179,8 +183,11 @@ TEST(Contrast, OfEveryTextOnTheCanvasIsEnoughOnEveryColour)
         const Desktop desktop(ground, text);
         MainWindow main;
         showAll(main);
-        for (int i = 0; i < 64; ++i) {
-            const auto color = static_cast<Color>(85 * (i % 4) | 85 * (i / 4 % 4) << 8 | 85 * (i / 16) << 16);
+        std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
+        for (Color i = 0; i < 64; ++i) {
+            colors.push_back(85 * (i % 4) | 85 * (i / 4 % 4) << 8 | 85 * (i / 16) << 16);
+        }
+        for (const Color color : colors) {
             colorCanvas(main, color);
             expectReadable(main.view, QColor(ground).name().toStdString() + " " + std::to_string(color));
         }

@@ -231,22 +231,6 @@ TEST(QtWindow, TellsAssistiveProgramsWhatThingsAre)
     EXPECT_EQ(main.view.findChild<QMenu*>("editMenu")->accessibleName(), "Edit");
 }
 
-TEST(QtWindow, TellsAScreenReaderOnceOfANewDescription)
-{
-    static int changes;
-    changes = 0;
-    const MainWindow main;
-    QAccessible::setActive(true);
-    const auto previous = QAccessible::installUpdateHandler(
-        [](QAccessibleEvent* event) { changes += event->type() == QAccessible::DescriptionChanged ? 1 : 0; });
-    main.window->setDescription(control::Canvas, "here");
-    main.window->setDescription(control::Canvas, "there");
-    main.window->setDescription(control::Canvas, "there");
-    QAccessible::installUpdateHandler(previous);
-    QAccessible::setActive(false);
-    EXPECT_EQ(changes, 2);
-}
-
 TEST(QtWindow, TabGoesFromTheCanvasThroughPanelAndToolboxAsTheyLookAndBack)
 {
     MainWindow main;
@@ -259,7 +243,7 @@ TEST(QtWindow, TabGoesFromTheCanvasThroughPanelAndToolboxAsTheyLookAndBack)
                  "Image15 Image16 Image17 Image18 Image19 Image20 Image7 Canvas")
              .split(' ')) {
         QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(main.view.focusWidget()->objectName(), next);
+        EXPECT_EQ(main.view.focusWidget()->objectName().toStdString(), next.toStdString());
     }
     QTest::keyClick(main.form.Canvas, Qt::Key_Backtab);
     EXPECT_EQ(main.view.focusWidget(), main.form.Image7);
