@@ -46,9 +46,16 @@ double fitted(double place, double extent)
     return odd ? std::floor(place) + 0.5 : std::floor(place + 0.5);
 }
 
-Place fitted(Place place, double extent)
+/// In the image's own pixels.
+Place fitted(const Image& image, Place place, double extent)
 {
-    return {fitted(place.x, extent), fitted(place.y, extent)};
+    const auto fit = [&](double along) { return fitted(fitted(along, extent) * image.scale, extent * image.scale); };
+    return {fit(place.x), fit(place.y)};
+}
+
+Pen scaled(const Image& image, const Pen& pen)
+{
+    return {pen.pixel, pen.width * image.scale};
 }
 
 /// A disc's chord at a distance from its centre, or an empty interval.
@@ -128,9 +135,9 @@ double turnsFrom(double start, double angle)
 
 Area line(const Image& image, const Pen& pen, Place from, Place to)
 {
-    from = fitted(from, pen.width);
-    to = fitted(to, pen.width);
-    const double half = pen.width / 2;
+    from = fitted(image, from, pen.width);
+    to = fitted(image, to, pen.width);
+    const double half = pen.width * image.scale / 2;
     const Area area = clipped(image, std::min(from.x, to.x) - half, std::min(from.y, to.y) - half,
                               std::max(from.x, to.x) + half, std::max(from.y, to.y) + half);
     for (int y = area.top; y < area.bottom; ++y) {
@@ -145,18 +152,21 @@ Area line(const Image& image, const Pen& pen, Place from, Place to)
 
 Area circle(const Image& image, const Pen& pen, Place centre, double radius)
 {
-    return ring(image, pen, fitted(centre, 2 * radius + pen.width), radius, [](int, int) { return true; });
+    return ring(image, scaled(image, pen), fitted(image, centre, 2 * radius + pen.width), radius * image.scale,
+                [](int, int) { return true; });
 }
 
 Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end)
 {
-    centre = fitted(centre, 2 * radius + pen.width);
+    centre = fitted(image, centre, 2 * radius + pen.width);
+    radius *= image.scale;
+    const Pen wide = scaled(image, pen);
     const double sweep = turnsFrom(start, end);
-    const Area area = ring(image, pen, centre, radius, [&](int x, int y) {
+    const Area area = ring(image, wide, centre, radius, [&](int x, int y) {
         return turnsFrom(start, std::atan2(centre.y - (y + 0.5), x + 0.5 - centre.x)) <= sweep;
     });
     for (const double angle : {start, end}) {
-        disc(image, pen, {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)});
+        disc(image, wide, {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)});
     }
     return area;
 }

@@ -8,7 +8,8 @@
 /// and bars are equally thick throughout, and circles are symmetric.
 ///
 /// Places are in pixels, pixel (0, 0) reaching from 0 to 1; any finite place is accepted, what lies outside the
-/// image is clipped at no cost.
+/// image is clipped at no cost. An image with a scale has that many pixels along each of these: paths are fitted to the
+/// unscaled grid first, so that the same stroke covers the same place at every scale.
 namespace ink {
 
 /// Memory of 32-bit pixels. Borrowed for the call.
@@ -17,6 +18,7 @@ struct Image {
     int width;
     int height;
     int stride; ///< pixels from one row to the next
+    double scale = 1;
 };
 
 struct Pen {

@@ -8,6 +8,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -31,7 +32,10 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_StaticContents);
-    m_surface.changed = [this](const QRect& part) { update(part); };
+    m_surface.changed = [this](const QRect& part) {
+        // On a screen of an odd ratio the edges lie between its pixels.
+        update(m_surface.ratio() > 1 ? part.adjusted(-1, -1, 1, 1) : part);
+    };
 }
 
 void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position) const
@@ -41,9 +45,19 @@ void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position) const
 
 void CanvasWidget::paintEvent(QPaintEvent* event)
 {
+    if (m_surface.setRatio(devicePixelRatioF())) {
+        update(); // more than this event's part
+    }
+    // The image's pixels are the screen's, and stay so where the canvas starts between two of them.
+    const double ratio = m_surface.ratio();
     QPainter painter(this);
+    painter.scale(1 / ratio, 1 / ratio);
+    const QTransform toScreen = painter.deviceTransform();
+    painter.translate(std::round(toScreen.dx()) - toScreen.dx(), std::round(toScreen.dy()) - toScreen.dy());
     for (const QRect& part : event->region()) {
-        painter.drawImage(part, m_surface.image(), part);
+        const QRect pixels = QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio).toAlignedRect();
+        const QRect wider = pixels.adjusted(-1, -1, 1, 1) & m_surface.screenImage().rect();
+        painter.drawImage(wider, m_surface.screenImage(), wider);
     }
 }
 

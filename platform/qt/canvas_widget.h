@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/event.h"
-#include "platform/qt/qt_surface.h"
+#include "platform/qt/canvas_surface.h"
 
 #include <QWidget>
 #include <functional>
@@ -17,7 +17,7 @@ public:
     /// Takes every event of the canvas; set once before the window is shown.
     std::function<void(const Event&)> report;
 
-    [[nodiscard]] QtSurface& surface() { return m_surface; }
+    [[nodiscard]] CanvasSurface& surface() { return m_surface; }
     /// For a release that another widget got although the button went down here.
     void reportRelease(Qt::MouseButton button, QPointF position) const;
 
@@ -34,7 +34,7 @@ private:
     [[nodiscard]] bool isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const;
     void reportMouse(Event::Kind kind, int code, QPointF position) const;
 
-    QtSurface m_surface;
+    CanvasSurface m_surface;
     quint64 m_lastPress = 0; ///< when, in milliseconds
     bool m_releaseIsStray = false;
 };

@@ -10,5 +10,5 @@ void QtPictures::loadBackground(std::string_view path)
 
 void QtPictures::saveImage(std::string_view path)
 {
-    savePicture(m_surface.image(), toQString(path));
+    savePicture(m_surface.picture(), toQString(path));
 }

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "platform/pictures.h"
-#include "platform/qt/qt_surface.h"
+#include "platform/qt/canvas_surface.h"
 
 /// The picture files of one canvas.
 class QtPictures final : public Pictures {
 public:
-    explicit QtPictures(QtSurface& surface) : m_surface(surface) {}
+    explicit QtPictures(CanvasSurface& surface) : m_surface(surface) {}
 
     void loadBackground(std::string_view path) override;
     void saveImage(std::string_view path) override;
 
 private:
-    QtSurface& m_surface;
+    CanvasSurface& m_surface;
 };

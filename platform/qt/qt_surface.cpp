@@ -4,28 +4,48 @@
 #include "platform/qt/text.h"
 
 #include <QFontMetrics>
+#include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
+#include <QTextLayout>
 #include <cmath>
 
-QFont canvasFont(double scale)
+namespace {
+
+/// In unscaled pixels.
+ink::Place toPlace(float x, float y)
+{
+    return {x / twipsPerPixel, y / twipsPerPixel};
+}
+
+} // namespace
+
+QFont canvasFont()
 {
     constexpr int lineOf13Pixels = 11; // the pixel size at which DejaVu Sans has lines of 13 pixels
     QFont font("DejaVu Sans");
-    font.setPixelSize(static_cast<int>(std::lround(lineOf13Pixels * scale)));
+    font.setPixelSize(lineOf13Pixels);
     font.setStyleStrategy(QFont::NoAntialias);
     font.setHintingPreference(QFont::PreferFullHinting);
     return font;
 }
 
-QtSurface::QtSurface(double scale)
-    : m_scale(scale), m_twipsPerPixel(twipsPerPixel / scale), m_font(canvasFont(scale)), m_placesFont(canvasFont())
+QtSurface::QtSurface(double scale) : m_scale(scale) {}
+
+QtSurface QtSurface::atScale(double scale) const
 {
+    QtSurface other(*this);
+    other.changed = nullptr;
+    other.m_scale = scale;
+    other.m_image = {};
+    other.growTo(m_window);
+    return other;
 }
 
 void QtSurface::growTo(QSize window)
 {
-    m_window = (QSizeF(window) * m_scale).toSize();
-    const QSize size = m_image.size().expandedTo(m_window);
+    m_window = window;
+    const QSize size = m_image.size().expandedTo(scaled(m_window));
     if (size == m_image.size()) {
         return;
     }
@@ -39,13 +59,13 @@ void QtSurface::growTo(QSize window)
 
 void QtSurface::setPicture(const QImage& picture)
 {
-    startAfresh(m_window.expandedTo(picture.size()));
+    startAfresh(scaled(m_window).expandedTo(picture.size()));
     QPainter(&m_image).drawImage(0, 0, picture);
 }
 
 void QtSurface::clear()
 {
-    startAfresh(m_window);
+    startAfresh(scaled(m_window));
 }
 
 void QtSurface::setBackColor(Color color)
@@ -82,42 +102,63 @@ void QtSurface::box(float x1, float y1, float x2, float y2)
 
 void QtSurface::circle(float x, float y, float radius)
 {
-    report(ink::circle(pixels(), pen(), toPlace(x, y), toPixels(radius)));
+    report(ink::circle(pixels(), pen(), toPlace(x, y), radius / twipsPerPixel));
 }
 
 void QtSurface::arc(float x, float y, float radius, float start, float end)
 {
-    report(ink::arc(pixels(), pen(), toPlace(x, y), toPixels(radius), start, end));
+    report(ink::arc(pixels(), pen(), toPlace(x, y), radius / twipsPerPixel, start, end));
 }
 
 void QtSurface::print(std::string_view text, bool endLine)
 {
     const QString string = toQString(text);
-    const QFontMetrics places(m_placesFont, &m_image); // the current point moves alike at every scale
-    const double height = places.height() * m_scale;
-    const double left = std::round(toPixels(m_current.x));
-    const double top = std::round(toPixels(m_current.y));
-    const QRectF visible = QRectF(m_image.rect()).adjusted(-height, -height, 0, 0);
-    const int advance = places.horizontalAdvance(string);
-    if (QRectF(left, top, advance * m_scale, height).intersects(visible)) {
-        const QFontMetrics metrics(m_font, &m_image);
-        const QPoint baseline(static_cast<int>(left), static_cast<int>(top) + metrics.ascent());
-        QPainter painter(&m_image);
-        painter.setFont(m_font);
-        painter.setPen(QColor(m_foreColor));
-        painter.drawText(baseline, string);
+    const QFontMetrics metrics(m_font, &m_image); // the current point moves alike at every scale
+    const int height = metrics.height();
+    const int advance = metrics.horizontalAdvance(string);
+    const QRectF place(std::round(m_current.x / twipsPerPixel), std::round(m_current.y / twipsPerPixel), advance,
+                       height);
+    const QRectF visible(QPointF(), m_image.size() / m_scale);
+    if (place.intersects(visible.adjusted(-height, -height, 0, 0))) {
+        const QRect drawn = drawText(string, place.topLeft()) & m_image.rect();
         if (changed) {
-            changed(metrics.boundingRect(string).translated(baseline).adjusted(-1, -1, 1, 1) & m_image.rect());
+            changed(drawn);
         }
     }
-    m_current = endLine ? Point{0, m_current.y + places.height() * twipsPerPixel}
+    m_current = endLine ? Point{0, m_current.y + height * twipsPerPixel}
                         : Point{m_current.x + advance * twipsPerPixel, m_current.y};
+}
+
+/// Each glyph at the place that it has at scale 1: laid out for its own size, a text would be of another length.
+QRect QtSurface::drawText(const QString& text, QPointF topLeft)
+{
+    QTextLayout layout(text, m_font, &m_image);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    QPainter painter(&m_image);
+    painter.setPen(QColor(m_foreColor));
+    QRectF drawn;
+    for (QGlyphRun run : layout.glyphRuns()) {
+        QRawFont font = run.rawFont();
+        font.setPixelSize(font.pixelSize() * m_scale);
+        run.setRawFont(font);
+        QList<QPointF> places = run.positions();
+        for (QPointF& place : places) {
+            place = ((topLeft + place) * m_scale).toPoint();
+        }
+        run.setPositions(places);
+        run.setBoundingRect({}); // else it keeps that of scale 1
+        painter.drawGlyphRun({}, run);
+        drawn |= run.boundingRect();
+    }
+    return drawn.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
 std::optional<Color> QtSurface::point(float x, float y) const
 {
-    const double column = std::floor(toPixels(x));
-    const double row = std::floor(toPixels(y));
+    const double column = std::floor(x / twipsPerPixel * m_scale);
+    const double row = std::floor(y / twipsPerPixel * m_scale);
     if (column < 0 || row < 0 || column >= m_image.width() || row >= m_image.height()) {
         return {};
     }
@@ -132,12 +173,13 @@ void QtSurface::setForeColor(Color color)
 ink::Image QtSurface::pixels()
 {
     return {reinterpret_cast<std::uint32_t*>(m_image.bits()), m_image.width(), m_image.height(),
-            static_cast<int>(m_image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)))};
+            static_cast<int>(m_image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))), m_scale};
 }
 
-ink::Pen QtSurface::pen() const
+QSize QtSurface::scaled(QSize canvas) const
 {
-    return {m_foreColor, m_drawWidth * m_scale};
+    return {static_cast<int>(std::ceil(canvas.width() * m_scale)),
+            static_cast<int>(std::ceil(canvas.height() * m_scale))};
 }
 
 void QtSurface::report(const ink::Area& area) const

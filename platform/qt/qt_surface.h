@@ -7,11 +7,11 @@
 #include <QImage>
 #include <functional>
 
-/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing. The scale enlarges it.
-[[nodiscard]] QFont canvasFont(double scale = 1);
+/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
+[[nodiscard]] QFont canvasFont();
 
-/// The canvas's ink: one retained image and nothing else, however much is drawn. At scale 1 the image has one pixel per
-/// 15 twips, at scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
+/// Ink: one retained image and nothing else, however much is drawn. At scale 1 the image has one pixel per 15 twips, at
+/// scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
 class QtSurface final : public Surface {
 public:
     explicit QtSurface(double scale = 1);
@@ -19,7 +19,13 @@ public:
     /// Called with the changed part of the image, in its own pixels, after every change.
     std::function<void(const QRect&)> changed;
 
+    /// Draws on from here at another scale, with the same colours, pen and current point, on clean paper.
+    [[nodiscard]] QtSurface atScale(double scale) const;
+
     [[nodiscard]] const QImage& image() const { return m_image; }
+    [[nodiscard]] QSize window() const { return m_window; }
+    /// The image's memory, until it is wiped or grows.
+    [[nodiscard]] ink::Image pixels();
     /// Makes room for a window of this many pixels of the unscaled canvas; the image never shrinks, so that nothing
     /// drawn is lost. New room has the back colour.
     void growTo(QSize window);
@@ -42,18 +48,15 @@ public:
 
 private:
     void startAfresh(QSize size);
-    [[nodiscard]] double toPixels(double twips) const { return twips / m_twipsPerPixel; }
-    [[nodiscard]] ink::Place toPlace(float x, float y) const { return {toPixels(x), toPixels(y)}; }
-    [[nodiscard]] ink::Image pixels();
-    [[nodiscard]] ink::Pen pen() const;
+    [[nodiscard]] QSize scaled(QSize canvas) const;
+    [[nodiscard]] ink::Pen pen() const { return {m_foreColor, static_cast<double>(m_drawWidth)}; }
+    [[nodiscard]] QRect drawText(const QString& text, QPointF topLeft);
     void report(const ink::Area& area) const;
 
-    QSize m_window; ///< as far as the user sees, in the image's pixels
+    QSize m_window; ///< as far as the user sees, in unscaled pixels
     double m_scale;
-    double m_twipsPerPixel; ///< of the image
     QImage m_image;
-    QFont m_font;
-    QFont m_placesFont; ///< the same at scale 1
+    QFont m_font = canvasFont();
     QRgb m_foreColor = qRgb(0, 0, 0);
     QRgb m_backColor = qRgb(255, 255, 255);
     int m_drawWidth = 2;

@@ -1,0 +1,160 @@
+#include "platform/qt/canvas_surface.h"
+
+#include "platform/finer_ink.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// The canvas may start between two pixels of the screen and then shows a part of one more at its end.
+QSize withMargin(QSize window)
+{
+    return window + QSize(1, 1);
+}
+
+ink::Area area(const QRect& part)
+{
+    return {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()};
+}
+
+} // namespace
+
+CanvasSurface::CanvasSurface()
+{
+    m_canvas.changed = [this](const QRect& part) { note(part); };
+}
+
+bool CanvasSurface::setRatio(double ratio)
+{
+    ratio = std::max(1.0, ratio);
+    if (ratio == m_ratio) {
+        return false;
+    }
+    m_ratio = ratio;
+    m_screen.reset();
+    if (ratio > 1) {
+        m_screen = std::make_unique<QtSurface>(m_canvas.atScale(ratio));
+        m_screen->growTo(withMargin(m_canvas.window()));
+        m_screen->changed = [this](const QRect& part) {
+            note(QRectF(QPointF(part.topLeft()) / m_ratio, QSizeF(part.size()) / m_ratio).toAlignedRect());
+        };
+        enlarge(seen());
+    }
+    return true;
+}
+
+void CanvasSurface::growTo(QSize window)
+{
+    m_canvas.growTo(window);
+    if (m_screen) {
+        // The last pixels may hold what lay beyond the canvas when they were drawn.
+        const QSize kept = m_screen->image().size() / m_ratio - QSize(2, 2);
+        m_screen->growTo(withMargin(window));
+        enlarge(QRegion(seen()) - QRect(QPoint(), kept));
+    }
+}
+
+void CanvasSurface::setPicture(const QImage& picture)
+{
+    m_canvas.setPicture(picture);
+    if (m_screen) {
+        m_screen->clear();
+        enlarge(seen());
+        reportChanged();
+    }
+}
+
+void CanvasSurface::line(float x1, float y1, float x2, float y2)
+{
+    draw([=](QtSurface& surface) { surface.line(x1, y1, x2, y2); });
+}
+
+void CanvasSurface::box(float x1, float y1, float x2, float y2)
+{
+    draw([=](QtSurface& surface) { surface.box(x1, y1, x2, y2); });
+}
+
+void CanvasSurface::circle(float x, float y, float radius)
+{
+    draw([=](QtSurface& surface) { surface.circle(x, y, radius); });
+}
+
+void CanvasSurface::arc(float x, float y, float radius, float start, float end)
+{
+    draw([=](QtSurface& surface) { surface.arc(x, y, radius, start, end); });
+}
+
+void CanvasSurface::print(std::string_view text, bool endLine)
+{
+    draw([=](QtSurface& surface) { surface.print(text, endLine); });
+}
+
+void CanvasSurface::clear()
+{
+    draw([](QtSurface& surface) { surface.clear(); });
+}
+
+void CanvasSurface::setBackColor(Color color)
+{
+    draw([=](QtSurface& surface) { surface.setBackColor(color); });
+}
+
+void CanvasSurface::setForeColor(Color color)
+{
+    draw([=](QtSurface& surface) { surface.setForeColor(color); });
+}
+
+void CanvasSurface::setDrawWidth(int pixels)
+{
+    draw([=](QtSurface& surface) { surface.setDrawWidth(pixels); });
+}
+
+void CanvasSurface::setCurrent(float x, float y)
+{
+    draw([=](QtSurface& surface) { surface.setCurrent(x, y); });
+}
+
+template <typename Draw> void CanvasSurface::draw(Draw stroke)
+{
+    stroke(m_canvas);
+    if (m_screen) {
+        stroke(*m_screen);
+        for (const QRect& part : m_changed& seen()) {
+            ink::reconcile(m_canvas.pixels(), m_screen->pixels(), area(part));
+        }
+        reportChanged();
+    }
+}
+
+void CanvasSurface::note(const QRect& part)
+{
+    if (m_screen) {
+        m_changed += part;
+    } else if (changed) {
+        changed(part);
+    }
+}
+
+void CanvasSurface::reportChanged()
+{
+    const QRegion parts = std::exchange(m_changed, {});
+    if (changed) {
+        for (const QRect& part : parts) {
+            changed(part);
+        }
+    }
+}
+
+QRect CanvasSurface::seen() const
+{
+    const QSize screen = m_screen->image().size() / m_ratio + QSize(1, 1);
+    return m_canvas.image().rect() & QRect(QPoint(), screen);
+}
+
+void CanvasSurface::enlarge(const QRegion& part)
+{
+    for (const QRect& rect : part) {
+        ink::enlarge(m_canvas.pixels(), m_screen->pixels(), area(rect));
+    }
+}

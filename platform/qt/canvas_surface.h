@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/qt/qt_surface.h"
+
+#include <QRegion>
+#include <memory>
+
+/// The canvas on screens of every sharpness. The picture is the image of one pixel per 15 twips: it is saved, opened
+/// and asked for colours, and it is the same whatever the screen. Where the screen has more pixels than that, a second
+/// image has as many and gets every stroke too; otherwise there is none.
+class CanvasSurface final : public Surface {
+public:
+    CanvasSurface();
+
+    /// Called with the changed part of the canvas, in its pixels, after every change.
+    std::function<void(const QRect&)> changed;
+
+    [[nodiscard]] const QImage& picture() const { return m_canvas.image(); }
+    /// What the screen shows, and its pixels along each of the canvas's.
+    [[nodiscard]] const QImage& screenImage() const { return m_screen ? m_screen->image() : m_canvas.image(); }
+    [[nodiscard]] double ratio() const { return m_ratio; }
+    /// For a screen of another ratio: what is drawn so far shows its pixels there, what comes is sharp again. Returns
+    /// whether the image is another one now. Ratios below 1 count as 1.
+    bool setRatio(double ratio);
+
+    void growTo(QSize window);
+    void setPicture(const QImage& picture);
+
+    void line(float x1, float y1, float x2, float y2) override;
+    void box(float x1, float y1, float x2, float y2) override;
+    void circle(float x, float y, float radius) override;
+    void arc(float x, float y, float radius, float start, float end) override;
+    void print(std::string_view text, bool endLine) override;
+    [[nodiscard]] std::optional<Color> point(float x, float y) const override { return m_canvas.point(x, y); }
+    void clear() override;
+    void setBackColor(Color color) override;
+    void setForeColor(Color color) override;
+    [[nodiscard]] int drawWidth() const override { return m_canvas.drawWidth(); }
+    void setDrawWidth(int pixels) override;
+    [[nodiscard]] Point current() const override { return m_canvas.current(); }
+    void setCurrent(float x, float y) override;
+
+private:
+    template <typename Draw> void draw(Draw stroke);
+    void note(const QRect& part);
+    void reportChanged();
+    /// The part of the canvas that the second image has.
+    [[nodiscard]] QRect seen() const;
+    void enlarge(const QRegion& part);
+
+    double m_ratio = 1;
+    QtSurface m_canvas;
+    std::unique_ptr<QtSurface> m_screen; ///< reaches as far as the window ever did, as nothing beyond it is seen
+    QRegion m_changed;                   ///< by the stroke that is being drawn on both
+};
