@@ -120,9 +120,11 @@ void QtSurface::print(std::string_view text, bool endLine)
                        height);
     const QRectF visible(QPointF(), m_image.size() / m_scale);
     if (place.intersects(visible.adjusted(-height, -height, 0, 0))) {
-        const QRect drawn = drawText(string, place.topLeft()) & m_image.rect();
+        drawText(string, place.topLeft());
         if (changed) {
-            changed(drawn);
+            const QPointF baseline = place.topLeft() + QPointF(0, metrics.ascent());
+            const QRectF ink = QRectF(metrics.boundingRect(string)).translated(baseline).adjusted(-1, -1, 1, 1);
+            changed(QRectF(ink.topLeft() * m_scale, ink.size() * m_scale).toAlignedRect() & m_image.rect());
         }
     }
     m_current = endLine ? Point{0, m_current.y + height * twipsPerPixel}
@@ -130,7 +132,7 @@ void QtSurface::print(std::string_view text, bool endLine)
 }
 
 /// Each glyph at the place that it has at scale 1: laid out for its own size, a text would be of another length.
-QRect QtSurface::drawText(const QString& text, QPointF topLeft)
+void QtSurface::drawText(const QString& text, QPointF topLeft)
 {
     QTextLayout layout(text, m_font, &m_image);
     layout.beginLayout();
@@ -138,7 +140,6 @@ QRect QtSurface::drawText(const QString& text, QPointF topLeft)
     layout.endLayout();
     QPainter painter(&m_image);
     painter.setPen(QColor(m_foreColor));
-    QRectF drawn;
     for (QGlyphRun run : layout.glyphRuns()) {
         QRawFont font = run.rawFont();
         font.setPixelSize(font.pixelSize() * m_scale);
@@ -148,11 +149,8 @@ QRect QtSurface::drawText(const QString& text, QPointF topLeft)
             place = ((topLeft + place) * m_scale).toPoint();
         }
         run.setPositions(places);
-        run.setBoundingRect({}); // else it keeps that of scale 1
         painter.drawGlyphRun({}, run);
-        drawn |= run.boundingRect();
     }
-    return drawn.toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
 std::optional<Color> QtSurface::point(float x, float y) const

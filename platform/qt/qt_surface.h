@@ -50,7 +50,7 @@ private:
     void startAfresh(QSize size);
     [[nodiscard]] QSize scaled(QSize canvas) const;
     [[nodiscard]] ink::Pen pen() const { return {m_foreColor, static_cast<double>(m_drawWidth)}; }
-    [[nodiscard]] QRect drawText(const QString& text, QPointF topLeft);
+    void drawText(const QString& text, QPointF topLeft);
     void report(const ink::Area& area) const;
 
     QSize m_window; ///< as far as the user sees, in unscaled pixels
