@@ -59,7 +59,7 @@ void enlarge(const Image& canvas, const Image& finer, const Area& part)
 
 void reconcile(const Image& canvas, const Image& finer, const Area& part)
 {
-    forEach(grownWithin(canvas, part), [&](int x, int y) {
+    forEach(part, [&](int x, int y) {
         const Area one{x, y, x + 1, y + 1};
         const Area around = grownWithin(canvas, one);
         const Area block = finerPart(canvas, finer, one);

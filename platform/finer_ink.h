@@ -11,7 +11,8 @@ void enlarge(const Image& canvas, const Image& finer, const Area& part);
 
 /// Keeps the finer image true to the canvas after the same stroke went to both, each with its own rounding: a finer
 /// pixel has a colour that the canvas has there or one pixel beside it, and each colour of the canvas shows there or
-/// one pixel beside it. So what is clean on the canvas is clean on the screen too.
+/// one pixel beside it. So what is clean on the canvas is clean on the screen too. The part must reach one pixel beyond
+/// the stroke.
 void reconcile(const Image& canvas, const Image& finer, const Area& part);
 
 } // namespace ink

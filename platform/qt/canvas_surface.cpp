@@ -130,7 +130,7 @@ template <typename Draw> void CanvasSurface::draw(Draw stroke)
 void CanvasSurface::note(const QRect& part)
 {
     if (m_screen) {
-        m_changed += part;
+        m_changed += part.adjusted(-1, -1, 1, 1); // so far may a stroke's change of its pixels reach
     } else if (changed) {
         changed(part);
     }

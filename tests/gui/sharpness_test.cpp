@@ -5,13 +5,13 @@
 #include "platform/quiet.h"
 #include "shell/events.h"
 
-#include <QScreen>
+#include <QBackingStore>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr double ratios[] = {1.25, 1.5, 1.75, 2, 2.25, 3};
+constexpr double ratios[] = {1.25, 1.5, 1.75, 2, 3};
 
 /// The program on a canvas of 300 x 200 pixels, as a screen of some ratio shows it.
 struct Canvas {
@@ -286,12 +286,8 @@ TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
     }
     const double ratio = canvas.surface().ratio();
     EXPECT_EQ(ratio, canvas.devicePixelRatioF());
-    const QImage shown = window.screen()->grabWindow(window.winId()).toImage();
+    const auto& shown = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
     const QPoint corner(qRound(7 * ratio), qRound(11 * ratio));
     const QSize size(qFloor(301 * ratio) - 1, qFloor(203 * ratio) - 1);
-    const QImage part = shown.copy(QRect(corner, size));
-    const QImage wanted = canvas.surface().screenImage().copy(QRect(QPoint(), size));
-    shown.save("/tmp/mm/sharp/shown.png"); wanted.save("/tmp/mm/sharp/wanted.png"); part.save("/tmp/mm/sharp/part.png");
-    std::cout << shown.width() << ' ' << shown.height() << ' ' << shown.devicePixelRatio() << '\n';
-    EXPECT_EQ(differing(part, wanted), 0);
+    EXPECT_EQ(differing(shown.copy(QRect(corner, size)), canvas.surface().screenImage()), 0);
 }
