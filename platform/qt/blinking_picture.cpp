@@ -2,6 +2,12 @@
 
 #include <QPainter>
 
+void BlinkingPicture::setPicture(const QIcon& picture)
+{
+    m_picture = picture;
+    setPixmap(picture.pixmap(size())); // so that assistive programs know it for a picture
+}
+
 void BlinkingPicture::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
@@ -16,6 +22,7 @@ void BlinkingPicture::setVisible(bool visible)
 void BlinkingPicture::paintEvent(QPaintEvent* /*event*/)
 {
     if (m_on) {
-        QPainter(this).drawPixmap(0, 0, pixmap());
+        QPainter painter(this);
+        m_picture.paint(&painter, rect());
     }
 }
