@@ -14,10 +14,10 @@ namespace ink {
 
 /// Memory of 32-bit pixels. Borrowed for the call.
 struct Image {
-    std::uint32_t* pixels;
-    int width;
-    int height;
-    int stride; ///< pixels from one row to the next
+    std::uint32_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    int stride = 0; ///< pixels from one row to the next
     double scale = 1;
 };
 

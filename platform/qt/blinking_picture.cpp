@@ -2,6 +2,11 @@
 
 #include <QPainter>
 
+BlinkingPicture::BlinkingPicture(QWidget* parent) : QLabel(parent)
+{
+    QLabel::setVisible(true); // else its window would switch it on when it first shows
+}
+
 void BlinkingPicture::setPicture(const QIcon& picture)
 {
     m_picture = picture;
@@ -10,9 +15,6 @@ void BlinkingPicture::setPicture(const QIcon& picture)
 
 void BlinkingPicture::setVisible(bool visible)
 {
-    if (visible && !isVisible()) {
-        QLabel::setVisible(true); // the first time, with its window
-    }
     if (m_on != visible) {
         m_on = visible;
         parentWidget()->update(geometry()); // the canvas is opaque, so the repaint starts there and not at the window

@@ -11,7 +11,7 @@ class BlinkingPicture final : public QLabel {
     Q_PROPERTY(QIcon picture READ picture WRITE setPicture)
 
 public:
-    using QLabel::QLabel;
+    explicit BlinkingPicture(QWidget* parent);
 
     [[nodiscard]] QIcon picture() const { return m_picture; }
     void setPicture(const QIcon& picture);

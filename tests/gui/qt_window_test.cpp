@@ -136,6 +136,19 @@ TEST(QtWindow, KnowsWhatItWasToldToShow)
     }
 }
 
+TEST(QtWindow, HidesFromTheStartWhatWasHiddenBeforeItWasShown)
+{
+    QMainWindow view;
+    Ui::Form1 form{};
+    form.setupUi(&view);
+    QtWindow window(view, [](const Event&) {});
+    window.hide({control::Picture1, control::Shape1, control::Label27});
+    view.show();
+    for (const Name name : {control::Picture1, control::Shape1, control::Label27}) {
+        EXPECT_FALSE(window.visible(name)) << name;
+    }
+}
+
 TEST(QtWindow, TakesBackTheChosenOptionOfAGroupWithoutReportingAClick)
 {
     MainWindow main;

@@ -46,17 +46,20 @@ struct Canvas {
         surface.arc(3000, 1500, 307, 3.5F, 0);
         surface.setCurrent(2111, 333);
         surface.print("WiLlIaM 12.5 mOhm", true);
-        for (float x = 100; x < 4000; x += 37) {
-            surface.line(x, 2400 + 0.3F * x - 0.0001F * x * x, x + 37, 2411 + 0.31F * x - 0.0001F * x * x);
+        const auto curve = [](int x) {
+            return 2400 + 0.3F * static_cast<float>(x) - 0.0001F * static_cast<float>(x * x);
+        };
+        for (int x = 100; x < 4000; x += 37) {
+            surface.line(static_cast<float>(x), curve(x), static_cast<float>(x + 37), curve(x + 37));
         }
     }
 
-    void erase(float left, float top, float right, float bottom, float step)
+    void erase(const QRect& part, int step)
     {
         eraser(form);
-        for (float y = top; y <= bottom; y += step) {
-            for (float x = left; x <= right; x += step) {
-                mouseMove(form, button::left, x, y);
+        for (int y = part.top(); y <= part.bottom(); y += step) {
+            for (int x = part.left(); x <= part.right(); x += step) {
+                mouseMove(form, button::left, static_cast<float>(x), static_cast<float>(y));
             }
         }
         eraser(form);
@@ -142,14 +145,14 @@ TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
 {
     Canvas plain;
     plain.drawEverything();
-    plain.erase(1500, 1200, 2500, 1700, 80);
+    plain.erase({1500, 1200, 1000, 500}, 80);
     EXPECT_EQ(&plain.surface.screenImage(), &plain.surface.picture()); // one image and no more
     EXPECT_GT(inked(plain.surface.picture()), 2000);
     for (const double ratio : ratios) {
         SCOPED_TRACE(ratio);
         Canvas canvas(ratio);
         canvas.drawEverything();
-        canvas.erase(1500, 1200, 2500, 1700, 80);
+        canvas.erase({1500, 1200, 1000, 500}, 80);
         EXPECT_EQ(canvas.surface.picture(), plain.surface.picture());
         EXPECT_EQ(canvas.surface.current().x, plain.surface.current().x);
         EXPECT_EQ(canvas.surface.screenImage().size(), QSize(qCeil(301 * ratio), qCeil(201 * ratio)));
@@ -178,7 +181,7 @@ TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
         [](QtSurface& surface, float at) { surface.arc(at + 400, at + 400, 203, 0, 6); },
     };
     for (const double ratio : ratios) {
-        for (float at = 300; at < 330; at += 4) {
+        for (const float at : {300.0F, 304.0F, 308.0F, 312.0F, 316.0F, 320.0F}) {
             for (const auto stroke : strokes) {
                 QtSurface plain;
                 QtSurface fine(ratio);
@@ -197,13 +200,14 @@ TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
         }
     }
 }
+
 TEST(Sharpness, WhatIsCleanInThePictureIsCleanOnTheScreen)
 {
     for (const double ratio : ratios) {
         SCOPED_TRACE(ratio);
         Canvas erased(ratio);
         erased.drawEverything();
-        erased.erase(0, 0, 4600, 3100, 140);
+        erased.erase({0, 0, 4601, 3101}, 140);
         EXPECT_EQ(inked(erased.surface.picture()), 0);
         EXPECT_EQ(inked(erased.surface.screenImage()), 0);
 
@@ -279,9 +283,10 @@ TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     canvas.report = [](const Event&) {};
-    for (float i = 0; i < 100; i += 1) { // many little repaints
+    for (int i = 0; i < 100; ++i) { // many little repaints
+        const auto step = static_cast<float>(i);
         canvas.surface().setForeColor(static_cast<Color>(i * 4000));
-        canvas.surface().circle(300 + 37 * i, 300 + 17 * i, 20 + 7 * i);
+        canvas.surface().circle(300 + 37 * step, 300 + 17 * step, 20 + 7 * step);
         QCoreApplication::processEvents();
     }
     const double ratio = canvas.surface().ratio();
