@@ -78,16 +78,19 @@ TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
         QSize picture;
         QSize paper;
         QRectF inked; ///< in points; 96 pixels are 72 of them
+        double ratio = 1;
     };
     const Case cases[] = {
         {{300, 400}, {595, 842}, {182, 24, 225, 300}},
         {{640, 400}, {842, 595}, {181, 24, 480, 300}},
         {{2000, 1000}, {842, 595}, {36, 24, 770, 385}}, // the edges of the upright page, 36 and 18, now at the sides
         {{1000, 4000}, {595, 842}, {196.75, 24, 195.5, 782}},
+        {{600, 800}, {595, 842}, {182, 24, 225, 300}, 2}, // from a sharp screen: as large, only finer
     };
     PrintServer server;
     for (const Case& c : cases) {
-        const QImage picture = testPicture(c.picture);
+        QImage picture = testPicture(c.picture);
+        picture.setDevicePixelRatio(c.ratio);
         printPicture(picture, "drawing");
         const QString file = server.printedFiles().last();
         EXPECT_TRUE(outputOf("pdfinfo", {file}).contains(QRegularExpression("Pages: +1\n")));
