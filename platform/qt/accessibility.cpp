@@ -35,7 +35,7 @@ private:
 
 struct ClassRole {
     QLatin1String name;
-    QAccessible::Role role;
+    QAccessible::Role role{};
 };
 
 /// Whatever may have decorations, and what the toolkit takes for something else: a frame would be a window to a screen

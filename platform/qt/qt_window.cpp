@@ -186,7 +186,7 @@ QImage QtWindow::pictureOfCanvas()
     for (const Name name : hidden) {
         setVisible(name, false);
     }
-    const QImage picture = m_canvas->parentWidget()->grab(m_canvas->geometry()).toImage();
+    QImage picture = m_canvas->parentWidget()->grab(m_canvas->geometry()).toImage();
     for (const Name name : hidden) {
         setVisible(name, true);
     }

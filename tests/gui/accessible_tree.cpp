@@ -56,25 +56,30 @@ AccessibilityBus::~AccessibilityBus()
 
 std::vector<Accessible> AccessibilityBus::everything() const
 {
-    std::vector<Accessible> found;
     const Accessible desktop{"org.a11y.atspi.Registry", QDBusObjectPath("/org/a11y/atspi/accessible/root")};
+    std::vector<Accessible> found;
     for (const Accessible& program : childrenOf(desktop)) {
-        for (Accessible& window : childrenOf(program)) {
-            window.window = property(window, "Name");
+        for (const Accessible& window : childrenOf(program)) {
             addAllOf(window, found);
         }
     }
     return found;
 }
 
-void AccessibilityBus::addAllOf(Accessible accessible, std::vector<Accessible>& found) const
+/// From the outside in, what comes first on the screen first.
+void AccessibilityBus::addAllOf(const Accessible& window, std::vector<Accessible>& found) const
 {
-    accessible.role = ask(accessible, itself, "GetRoleName").toString();
-    accessible.name = property(accessible, "Name");
-    found.push_back(accessible);
-    for (Accessible& child : childrenOf(accessible)) {
-        child.window = accessible.window;
-        addAllOf(child, found);
+    const QString title = property(window, "Name");
+    std::vector<Accessible> open{window};
+    while (!open.empty()) {
+        Accessible next = open.back();
+        open.pop_back();
+        next.role = ask(next, itself, "GetRoleName").toString();
+        next.name = property(next, "Name");
+        next.window = title;
+        found.push_back(next);
+        const std::vector<Accessible> children = childrenOf(next);
+        open.insert(open.end(), children.rbegin(), children.rend());
     }
 }
 

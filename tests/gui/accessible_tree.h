@@ -36,7 +36,7 @@ private:
                                const QVariantList& words = {}) const;
     [[nodiscard]] QString property(const Accessible& accessible, const QString& name) const;
     [[nodiscard]] std::vector<Accessible> childrenOf(const Accessible& parent) const;
-    void addAllOf(Accessible accessible, std::vector<Accessible>& found) const;
+    void addAllOf(const Accessible& window, std::vector<Accessible>& found) const;
 
     QTemporaryDir m_folder;
     QProcess m_sessionBus;

@@ -73,13 +73,15 @@ int expectReadable(const QWidget& window, const std::string& where)
 
 template <typename View, typename Form> struct Shown {
     View view;
-    Form form{};
-    std::unique_ptr<QtWindow> window;
+    Form form = [this] {
+        Form made;
+        made.setupUi(&view);
+        return made;
+    }();
+    std::unique_ptr<QtWindow> window = std::make_unique<QtWindow>(view, [](const Event&) {});
 
     Shown()
     {
-        form.setupUi(&view);
-        window = std::make_unique<QtWindow>(view, [](const Event&) {});
         window->showWindow();
         (void)QTest::qWaitForWindowExposed(&view);
     }
