@@ -114,7 +114,7 @@ constexpr Command menu[] = {
         {1, {"buffercolor", "&Buffer"}, pickColor<&CanvasState::bufferColor>},
         {1, {"opampcolor", "Op-Amplifier"}, pickColor<&CanvasState::opampColor>},
     {0, {"fc", " Form Color "}},
-        {1, {"forec", "Forecolor", "Ctrl+F"}, forec}, {1, separator},
+        {1, {"forec", "Forecolor", "Ctrl+F"}, forec}, {1, {"fd", "-"}},
         {1, {"bc", "Backcolor", "Ctrl+B"}, bc},
     {0, {control::rc, "&Rightclick", "", Look::hidden}},
         {1, {"eras", "&Eraser"}, eraser}, {1, separator},

@@ -41,6 +41,7 @@ QWidget& MenuTree::menuAt(int depth)
         auto* const menu = new QMenu(&m_form);
         menu->setObjectName(parent.objectName() + "Menu");
         menu->setAccessibleName(parent.text().remove('&').trimmed());
+        menu->setSeparatorsCollapsible(false); // the last row may be one
         parent.setMenu(menu);
     }
     return *parent.menu();

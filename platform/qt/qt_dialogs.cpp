@@ -101,6 +101,8 @@ QString chooseFile(QFileDialog& dialog)
     QString chosen;
     QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
     dialog.exec();
+    // Some window managers give the keyboard to nobody when the dialog goes right after its own question.
+    dialog.parentWidget()->activateWindow();
     return chosen;
 }
 
@@ -137,11 +139,14 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
 
 Color QtDialogs::pickColor()
 {
-    QColorDialog dialog(toQColor(m_color), front());
-    dialog.setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
+    if (m_colorDialog == nullptr) {
+        m_colorDialog = new QColorDialog(&m_owner);
+        m_colorDialog->setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
+    }
+    m_colorDialog->setCurrentColor(toQColor(m_color));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
-    if (dialog.exec() == QDialog::Accepted) {
-        m_color = toColor(dialog.selectedColor());
+    if (m_colorDialog->exec() == QDialog::Accepted) {
+        m_color = toColor(m_colorDialog->selectedColor());
     }
     return m_color;
 }

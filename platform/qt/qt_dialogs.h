@@ -2,6 +2,7 @@
 
 #include "platform/dialogs.h"
 
+class QColorDialog;
 class QWidget;
 
 /// Boxes in front of the program's windows.
@@ -20,5 +21,6 @@ private:
     [[nodiscard]] QWidget* front() const;
 
     QWidget& m_owner;
-    Color m_color = black; ///< picked last
+    QColorDialog* m_colorDialog = nullptr; ///< one for the whole run, made when it is first needed
+    Color m_color = black;                 ///< picked last
 };

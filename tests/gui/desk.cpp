@@ -1,9 +1,11 @@
 #include "tests/gui/desk.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QTest>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <stdexcept>
 
@@ -85,10 +87,18 @@ void waitUntil(const char* what, const std::function<bool()>& condition)
     }
 }
 
-Program::Program(Stage until)
+Program::Program(Stage until, const QString& folder, const QStringList& launcher)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_process.start(SCHEMLET_PROGRAM, QStringList());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", m_home.path());
+    for (const char* const elsewhere : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
+        environment.remove(elsewhere);
+    }
+    m_process.setProcessEnvironment(environment);
+    m_process.setWorkingDirectory(folder.isEmpty() ? m_home.path() : folder);
+    const QStringList command = launcher + QStringList(SCHEMLET_PROGRAM);
+    m_process.start(command.first(), command.mid(1));
     waitForWindow("Schemlet 2.0");
     if (until != Stage::splash) {
         waitForHelp();
@@ -157,6 +167,11 @@ void Program::keys(std::initializer_list<const char*> keys)
         words << key;
     }
     xdotool(words);
+}
+
+void Program::type(const QString& text)
+{
+    xdotool({"type", "--delay", "5", text});
 }
 
 void Program::keyTimes(int times, const char* key)
@@ -268,6 +283,16 @@ int Program::close()
     waitForWindow("Schemlet 2.0");
     keys({"n"}); // nothing is to be saved
     return exitStatus();
+}
+
+QStringList Program::filesAtHome() const
+{
+    return QDir(m_home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+void Program::signal(int number)
+{
+    EXPECT_EQ(kill(static_cast<pid_t>(m_process.processId()), number), 0);
 }
 
 int Program::exitStatus()

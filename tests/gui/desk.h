@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QString>
+#include <QTemporaryDir>
 #include <functional>
 #include <initializer_list>
 
@@ -41,13 +42,15 @@ public:
         drawing, ///< that is closed
     };
 
-    /// Starts it and waits until it has come so far.
-    explicit Program(Stage until = Stage::drawing);
+    /// Starts it in this folder, or else in a home folder of its own, by way of a command that runs it, and waits until
+    /// it has come so far.
+    explicit Program(Stage until = Stage::drawing, const QString& folder = {}, const QStringList& launcher = {});
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     void keys(std::initializer_list<const char*> keys);
+    void type(const QString& text);
     void keyTimes(int times, const char* key);
     void moveMouse(int x, int y);
     void press(int button);
@@ -62,6 +65,8 @@ public:
     void xdotool(const QStringList& words);
 
     [[nodiscard]] QImage canvas() const;
+    /// A place on the screen, on the canvas.
+    [[nodiscard]] QPoint onCanvas(QPoint place) const { return place - m_canvas.topLeft(); }
     [[nodiscard]] QColor pixel(int x, int y) const;
     [[nodiscard]] bool inked(int x, int y) const { return pixel(x, y) != Qt::white; }
 
@@ -86,6 +91,9 @@ public:
     void closeActiveWindow();
     /// The same with the main window; returns the program's exit status.
     int close();
+    /// What it has left in its home folder.
+    [[nodiscard]] QStringList filesAtHome() const;
+    void signal(int number);
     /// Waits for the program's end.
     int exitStatus();
 
@@ -93,6 +101,7 @@ private:
     void findCanvas();
 
     static constexpr auto mainTitle = " - Schemlet 2.0  New File ";
+    QTemporaryDir m_home;
     QProcess m_process;
     QString m_window; ///< the X server's number of the main window
     QRect m_canvas;   ///< on the screen

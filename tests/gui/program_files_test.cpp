@@ -1,0 +1,387 @@
+#include "tests/gui/desk.h"
+#include "tests/gui/print_server.h"
+#include "tests/gui/words.h"
+#include "tests/support/limits.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <optional>
+#include <vector>
+
+// Drawings on the disk and on paper, and the ways to the program's end.
+
+namespace {
+
+constexpr auto question = "Do you want to save changes?";
+constexpr auto caption = " - Schemlet 2.0 "; // then the file's name
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+void store(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+QByteArray written(const QImage& image, const char* format)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, format));
+    return buffer.data();
+}
+
+/// Neighbours differ, and nothing in it is black.
+QImage colourful(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, qRgb(x * 19 % 256, 255, y * 7 % 256));
+        }
+    }
+    return image;
+}
+
+QImage filled(QSize size, QColor color)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    return image;
+}
+
+QByteArray claiming(QByteArray file, int at, const char* size)
+{
+    const QByteArray number = QByteArray::fromHex(size);
+    return file.replace(at, number.size(), number);
+}
+
+/// A folder with the program at work in it, without the toolbox on the canvas.
+class Drawing {
+public:
+    explicit Drawing(const QStringList& launcher = {}) : program(Program::Stage::drawing, m_folder.path(), launcher)
+    {
+        program.keys({"ctrl+t"});
+        waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
+    }
+
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QStringList listing() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    void waitForTitle(const QString& name) { program.waitForWindow(caption + name); }
+
+    /// Answers the question that a short-cut brings.
+    void answer(const char* key, const char* reply)
+    {
+        program.keys({key});
+        program.waitForWindow("Schemlet 2.0");
+        waitForWords(question);
+        program.keys({reply});
+    }
+
+    /// Types a name into the file dialog; empty cancels it.
+    void choose(const char* dialog, const QString& name)
+    {
+        program.waitForWindow(dialog);
+        if (name.isEmpty()) {
+            return program.keys({"Escape"});
+        }
+        program.type(name);
+        program.keys({"Return"});
+    }
+
+    void save(const QString& name)
+    {
+        program.keys({"ctrl+s"});
+        choose("Save", name);
+    }
+
+    void open(const QString& name)
+    {
+        answer("ctrl+o", "n");
+        choose("Open", name);
+    }
+
+    /// The marker blinks: now and then the canvas looks like this.
+    void waitForCanvas(const QImage& picture)
+    {
+        waitUntil("the picture on the canvas", [&] {
+            const QImage seen = program.canvas();
+            return seen == picture.copy(seen.rect()).convertToFormat(seen.format());
+        });
+    }
+
+private:
+    QTemporaryDir m_folder;
+
+public:
+    Program program;
+};
+
+} // namespace
+
+TEST(Program, NewOpenAndExitDoAsTheQuestionIsAnswered)
+{
+    Drawing drawing;
+    Program& program = drawing.program;
+    const auto waitForWire = [&](bool there) {
+        waitUntil(there ? "wire" : "no wire", [&] { return program.inked(109, 100) == there; });
+    };
+    program.keys({"Right", "Right", "Right"});
+    drawing.answer("ctrl+n", "Escape");
+    waitForWords("← Left"); // what the answer happens to mean
+    waitForWire(true);
+    drawing.answer("ctrl+n", "n");
+    drawing.waitForTitle(" New File ");
+    waitForWire(false);
+
+    // No heading is left, so a gate draws nothing until an arrow key.
+    const auto gate = [&] {
+        program.keys({"alt+l", "g", "Return"});
+        program.waitForWindow("This draws an AND GATE");
+        program.keys({"Return"});
+        program.waitForMainWindow();
+    };
+    gate();
+    program.keys({"Right", "Right", "Right"});
+    waitForWire(true);
+    EXPECT_FALSE(program.inked(106, 112));
+    gate();
+    waitUntil("a gate", [&] { return program.inked(116, 112); });
+
+    drawing.answer("ctrl+n", "y");
+    drawing.choose("Save", "first");
+    drawing.waitForTitle(" New File ");
+    waitForWire(false);
+    EXPECT_EQ(drawing.listing(), QStringList("first.JPEG"));
+
+    program.keys({"Right", "Right", "Right"});
+    drawing.save("");
+    program.waitForWindow("Schemlet 2.0");
+    waitForWords("Unkown error while saving file");
+    program.keys({"Return"});
+    drawing.waitForTitle(" New File ");
+    program.keys({"ctrl+n"}); // without a question: it counts as saved
+    waitForWire(false);
+
+    program.keys({"Right", "Right", "Right"});
+    drawing.answer("ctrl+o", "Escape");
+    drawing.waitForTitle(" New File ");
+    drawing.answer("ctrl+o", "y");
+    drawing.choose("Save", "second.bmp");
+    drawing.choose("Open", "");
+    drawing.waitForTitle("");
+    drawing.open("");
+    drawing.waitForTitle(" New File ");
+    waitForWire(true);
+
+    drawing.answer("ctrl+x", "Escape");
+    drawing.waitForTitle(" New File ");
+    drawing.answer("ctrl+x", "y");
+    drawing.choose("Save", "third.png");
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_EQ(drawing.listing(), QStringList({"first.JPEG", "second.bmp", "third.png"}));
+    for (const QString& name : drawing.listing()) {
+        EXPECT_TRUE(contents(drawing.path(name)).startsWith("BM")) << name.toStdString();
+    }
+    EXPECT_EQ(program.filesAtHome(), QStringList());
+}
+
+TEST(Program, SavesReopensAndSavesAgainPixelForPixel)
+{
+    Drawing drawing;
+    Program& program = drawing.program;
+    program.keyTimes(9, "Right");
+    program.keys({"ctrl+r"});
+    program.drag(300, 300, 400, 360);
+    waitUntil("a box", [&] { return program.inked(350, 359); });
+    drawing.save("first");
+    drawing.waitForTitle("first.JPEG");
+    const QImage first(drawing.path("first.JPEG"));
+    EXPECT_EQ(first.size(), program.canvas().size());
+    drawing.waitForCanvas(first);
+
+    drawing.open("first.JPEG");
+    drawing.waitForTitle("first.JPEG");
+    drawing.waitForCanvas(first);
+    program.drag(320, 320, 340, 340);
+    waitUntil("a box in the box", [&] { return program.inked(330, 339); });
+    store(drawing.path("second.png"), "to be replaced");
+    drawing.save("second.png");
+    waitForWords("Do you want to replace it?");
+    program.keys({"alt+y"});
+    drawing.waitForTitle("second.png");
+    const QImage second(drawing.path("second.png"));
+    drawing.waitForCanvas(second);
+    QImage expected = first;
+    for (int x = 318; x <= 342; ++x) {
+        for (int y = 318; y <= 342; ++y) {
+            expected.setPixel(x, y, second.pixel(x, y));
+        }
+    }
+    EXPECT_TRUE(second == expected);
+    EXPECT_TRUE(second != first);
+
+    const QImage large = colourful(1500, 1100);
+    store(drawing.path("large.png"), written(large, "png"));
+    drawing.open("large.png");
+    drawing.waitForTitle("large.png");
+    drawing.waitForCanvas(large);
+    drawing.save("large.bmp");
+    drawing.waitForTitle("large.bmp");
+    EXPECT_TRUE(QImage(drawing.path("large.bmp")) == large);
+}
+
+TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
+{
+    Drawing drawing;
+    Program& program = drawing.program;
+    const QImage image = colourful(90, 60);
+    const QByteArray png = written(image, "png");
+    const QByteArray bmp = written(image, "bmp");
+    const QByteArray jpeg = written(image, "jpg");
+    const std::tuple<QString, QByteArray, QString> cases[] = {
+        {"a.png", png.left(png.size() / 2), "is cut short."},
+        {"b.bmp", bmp.left(bmp.size() / 2), "is cut short."},
+        {"c.jpg", jpeg.left(jpeg.size() / 2), "is cut short."},
+        {"d.png", "some text\n", "is no picture that Schemlet can read."},
+        {"e.jpg", "", "is no picture that Schemlet can read."},
+        {"g.bmp", claiming(bmp, 18, "FFFF0000FFFF0000"), "is too large: 65535 x 65535 pixels"},
+        {"h.png", claiming(png, 16, "0000EA600000EA60"), "is too large: 60000 x 60000 pixels"},
+    };
+    program.keys({"Right", "Right", "Right"});
+    drawing.save("kept");
+    drawing.waitForTitle("kept.JPEG");
+    const QImage kept(drawing.path("kept.JPEG"));
+    for (const auto& [name, bytes, cause] : cases) {
+        SCOPED_TRACE(name.toStdString());
+        store(drawing.path(name), bytes);
+        drawing.open(name);
+        program.waitForWindow("Schemlet 2.0");
+        waitForWords("The file " + name + " " + cause);
+        program.keys({"Return"});
+        drawing.waitForTitle("kept.JPEG"); // no second message
+        drawing.waitForCanvas(kept);
+    }
+    // The dialog itself sees to what is no file.
+    ASSERT_TRUE(QDir().mkdir(drawing.path("folder")));
+    drawing.open("folder");
+    drawing.choose("Open", "none.png"); // the dialog is still there, in that folder
+    waitForWords("File not found.");
+    program.keys({"Return", "Escape"});
+    drawing.waitForTitle(" New File ");
+    drawing.waitForCanvas(kept);
+}
+
+TEST(Program, ASaveThatFailsLeavesTheOldFileAndTheDrawing)
+{
+    const QStringList obeysModes{"setpriv", "--bounding-set=-dac_override,-dac_read_search", "--"};
+    const bool root = geteuid() == 0; // who may write anywhere unless that is taken away
+    for (const bool full : {true, false}) {
+        if (!full && root && QProcess::execute(obeysModes.first(), obeysModes.mid(1) + QStringList("true")) != 0) {
+            GTEST_SKIP() << "root may write to a read-only folder here, whatever is done";
+        }
+        std::optional<FullDisk> disk;
+        if (full) {
+            disk.emplace(100'000);
+        }
+        Drawing drawing(full || !root ? QStringList() : obeysModes);
+        disk.reset();
+        Program& program = drawing.program;
+        store(drawing.path("old.JPEG"), "precious");
+        if (!full) {
+            QFile::setPermissions(drawing.path(""), QFile::ReadOwner | QFile::ExeOwner);
+        }
+        program.keys({"Right", "Right", "Right"});
+        waitUntil("wire", [&] { return program.inked(109, 100); });
+        const QImage before = program.canvas().copy(0, 97, 200, 200);
+        drawing.save("old.JPEG");
+        waitForWords("Do you want to replace it?");
+        program.keys({"alt+y"});
+        drawing.waitForTitle(" New File "); // without a message
+        program.keys({"Down"});
+        waitUntil("wire downwards", [&] { return program.inked(116, 103); });
+        EXPECT_TRUE(program.canvas().copy(0, 97, 114, 200) == before.copy(0, 0, 114, 200));
+        EXPECT_EQ(contents(drawing.path("old.JPEG")), "precious");
+        EXPECT_EQ(drawing.listing(), QStringList("old.JPEG"));
+        QFile::setPermissions(drawing.path(""), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+}
+
+TEST(Program, PrintsTheCanvasWithoutMarkerAndEraserOutline)
+{
+    PrintServer server;
+    Drawing drawing;
+    Program& program = drawing.program;
+    const auto print = [&] {
+        program.keys({"ctrl+p"});
+        program.waitForWindow("Schemlet 2.0");
+        waitForWords("Do you want to print this form?");
+        program.keys({"y"});
+    };
+    program.keyTimes(9, "Right");
+    program.keys({"e"});
+    program.moveMouse(300, 300);
+    for (const QRect& guide : {QRect(280, 280, 60, 60), QRect(134, 80, 12, 16)}) { // the outline and the marker
+        waitUntil("what guides the hand", [&] {
+            const QImage part = program.canvas().copy(guide);
+            return part != filled(part.size(), Qt::white);
+        });
+    }
+    print();
+    waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
+    const QImage page = printedPicture(server.printedFiles().first());
+    ASSERT_EQ(page.size(), program.canvas().size());
+    const QImage seen = program.canvas().convertToFormat(page.format());
+    const QRect around(0, 80, 400, 300);
+    QImage expected = filled(around.size(), Qt::white).convertToFormat(page.format());
+    for (int x = 0; x < around.width(); ++x) {
+        for (int y = 99; y <= 101; ++y) { // the wire
+            expected.setPixel(x, y - around.top(), seen.pixel(x, y));
+        }
+    }
+    EXPECT_TRUE(page.copy(around) == expected);
+    const QRect label(300, 0, 400, 40); // lies on the canvas and is no guide
+    EXPECT_TRUE(page.copy(label) == seen.copy(label));
+
+    server.removeQueue();
+    print();
+    program.waitForWindow("Schemlet 2.0");
+    waitForWords("Printer error");
+    program.keys({"Return"});
+    program.waitForMainWindow();
+}
+
+TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
+{
+    struct Case {
+        int signal;
+        const char* key;
+        const char* window;
+    };
+    for (const auto& [signal, key, window] : {Case{SIGTERM, "ctrl+s", "Save"}, Case{SIGINT, "ctrl+b", "Select Color"},
+                                              Case{SIGHUP, "ctrl+x", "Schemlet 2.0"}}) {
+        SCOPED_TRACE(signal);
+        Program program;
+        program.keys({"ctrl+f"});
+        program.waitForWindow("Select Color");
+        program.keys({"Return"});
+        program.waitForMainWindow();
+        program.keys({key});
+        program.waitForWindow(window);
+        program.signal(signal);
+        EXPECT_EQ(program.exitStatus(), 0);
+        EXPECT_EQ(program.filesAtHome(), QStringList());
+    }
+}
