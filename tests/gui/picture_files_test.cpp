@@ -2,38 +2,15 @@
 
 #include "platform/runtime_error.h"
 #include "tests/support/limits.h"
+#include "tests/support/sample_files.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QImageReader>
-#include <QImageWriter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace {
-
-/// Neighbours differ.
-QImage colourful(int width, int height)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            image.setPixel(x, y, qRgb(x * 19 % 256, y * 23 % 256, (x ^ y) * 7 % 256));
-        }
-    }
-    return image;
-}
-
-QByteArray written(const QImage& image, const char* format, bool progressive = false)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, format);
-    writer.setProgressiveScanWrite(progressive);
-    EXPECT_TRUE(writer.write(image));
-    return buffer.data();
-}
 
 /// The same JPEG, said to lie on the sheet in one of the eight ways.
 QByteArray turned(QByteArray jpeg, int orientation)
@@ -41,13 +18,6 @@ QByteArray turned(QByteArray jpeg, int orientation)
     QByteArray exif = QByteArray::fromHex("FFE1002245786966000049492A00080000000100120103000100000000000000");
     exif[28] = static_cast<char>(orientation);
     return jpeg.insert(2, exif + QByteArray(4, '\0'));
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
 }
 
 class PictureFiles : public testing::Test {
@@ -65,8 +35,7 @@ protected:
 
     QString store(const QString& name, const QByteArray& bytes)
     {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        ::store(path(name), bytes);
         return path(name);
     }
 
@@ -161,10 +130,6 @@ TEST_F(PictureFiles, SetsEveryPictureUpright)
 
 TEST_F(PictureFiles, RefusesWhatIsTooLargeByItsHeader)
 {
-    const auto claiming = [](QByteArray file, int at, const char* size) {
-        const QByteArray number = QByteArray::fromHex(size);
-        return file.replace(at, number.size(), number);
-    };
     const QByteArray png = written(colourful(9, 9), "png");
     const QByteArray bmp = written(colourful(9, 9), "bmp");
     const QByteArray jpeg = written(colourful(9, 9), "jpg", true);

@@ -1,68 +1,16 @@
-#include "tests/gui/desk.h"
-#include "tests/gui/print_server.h"
-#include "tests/gui/words.h"
+#include "tests/gui/steps.h"
 #include "tests/support/limits.h"
+#include "tests/support/sample_files.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QFile>
-#include <csignal>
 #include <gtest/gtest.h>
 #include <optional>
-#include <vector>
 
-// Drawings on the disk and on paper, and the ways to the program's end.
+// Drawings on the disk.
 
 namespace {
 
-constexpr auto question = "Do you want to save changes?";
 constexpr auto caption = " - Schemlet 2.0 "; // then the file's name
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-void store(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-QByteArray written(const QImage& image, const char* format)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format));
-    return buffer.data();
-}
-
-/// Neighbours differ, and nothing in it is black.
-QImage colourful(int width, int height)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            image.setPixel(x, y, qRgb(x * 19 % 256, 255, y * 7 % 256));
-        }
-    }
-    return image;
-}
-
-QImage filled(QSize size, QColor color)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    return image;
-}
-
-QByteArray claiming(QByteArray file, int at, const char* size)
-{
-    const QByteArray number = QByteArray::fromHex(size);
-    return file.replace(at, number.size(), number);
-}
 
 /// A folder with the program at work in it, without the toolbox on the canvas.
 class Drawing {
@@ -86,7 +34,7 @@ public:
     {
         program.keys({key});
         program.waitForWindow("Schemlet 2.0");
-        waitForWords(question);
+        waitForWords(saveQuestion);
         program.keys({reply});
     }
 
@@ -114,7 +62,7 @@ public:
     }
 
     /// The marker blinks: now and then the canvas looks like this.
-    void waitForCanvas(const QImage& picture)
+    void waitForCanvas(const QImage& picture) const
     {
         waitUntil("the picture on the canvas", [&] {
             const QImage seen = program.canvas();
@@ -316,72 +264,5 @@ TEST(Program, ASaveThatFailsLeavesTheOldFileAndTheDrawing)
         EXPECT_EQ(contents(drawing.path("old.JPEG")), "precious");
         EXPECT_EQ(drawing.listing(), QStringList("old.JPEG"));
         QFile::setPermissions(drawing.path(""), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-}
-
-TEST(Program, PrintsTheCanvasWithoutMarkerAndEraserOutline)
-{
-    PrintServer server;
-    Drawing drawing;
-    Program& program = drawing.program;
-    const auto print = [&] {
-        program.keys({"ctrl+p"});
-        program.waitForWindow("Schemlet 2.0");
-        waitForWords("Do you want to print this form?");
-        program.keys({"y"});
-    };
-    program.keyTimes(9, "Right");
-    program.keys({"e"});
-    program.moveMouse(300, 300);
-    for (const QRect& guide : {QRect(280, 280, 60, 60), QRect(134, 80, 12, 16)}) { // the outline and the marker
-        waitUntil("what guides the hand", [&] {
-            const QImage part = program.canvas().copy(guide);
-            return part != filled(part.size(), Qt::white);
-        });
-    }
-    print();
-    waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
-    const QImage page = printedPicture(server.printedFiles().first());
-    ASSERT_EQ(page.size(), program.canvas().size());
-    const QImage seen = program.canvas().convertToFormat(page.format());
-    const QRect around(0, 80, 400, 300);
-    QImage expected = filled(around.size(), Qt::white).convertToFormat(page.format());
-    for (int x = 0; x < around.width(); ++x) {
-        for (int y = 99; y <= 101; ++y) { // the wire
-            expected.setPixel(x, y - around.top(), seen.pixel(x, y));
-        }
-    }
-    EXPECT_TRUE(page.copy(around) == expected);
-    const QRect label(300, 0, 400, 40); // lies on the canvas and is no guide
-    EXPECT_TRUE(page.copy(label) == seen.copy(label));
-
-    server.removeQueue();
-    print();
-    program.waitForWindow("Schemlet 2.0");
-    waitForWords("Printer error");
-    program.keys({"Return"});
-    program.waitForMainWindow();
-}
-
-TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
-{
-    struct Case {
-        int signal;
-        const char* key;
-        const char* window;
-    };
-    for (const auto& [signal, key, window] : {Case{SIGTERM, "ctrl+s", "Save"}, Case{SIGINT, "ctrl+b", "Select Color"},
-                                              Case{SIGHUP, "ctrl+x", "Schemlet 2.0"}}) {
-        SCOPED_TRACE(signal);
-        Program program;
-        program.keys({"ctrl+f"});
-        program.waitForWindow("Select Color");
-        program.keys({"Return"});
-        program.waitForMainWindow();
-        program.keys({key});
-        program.waitForWindow(window);
-        program.signal(signal);
-        EXPECT_EQ(program.exitStatus(), 0);
-        EXPECT_EQ(program.filesAtHome(), QStringList());
     }
 }

@@ -1,71 +1,10 @@
-#include "tests/gui/desk.h"
-#include "tests/gui/words.h"
+#include "tests/gui/print_server.h"
+#include "tests/gui/steps.h"
 
 #include <gtest/gtest.h>
-#include <string_view>
 #include <vector>
 
-// Every way to a command: menus, short-cuts, toolbar and toolbox, by keyboard and by mouse.
-
-namespace {
-
-constexpr auto question = "Do you want to save changes?";
-constexpr auto printQuestion = "Do you want to print this form?";
-
-void clickWords(Program& program, const QString& words)
-{
-    waitForWords(words);
-    const QPoint place = findWords(words).center();
-    program.xdotool({"mousemove", QString::number(place.x()), QString::number(place.y()), "click", "1"});
-}
-
-/// What a command brings: a window, which is closed again, or words on the screen, or both.
-struct Outcome {
-    const char* window = nullptr;
-    const char* words = nullptr;
-};
-
-void expect(Program& program, const Outcome& outcome)
-{
-    if (outcome.window != nullptr) {
-        program.waitForWindow(outcome.window);
-    }
-    if (outcome.words != nullptr) {
-        waitForWords(outcome.words);
-    }
-    if (outcome.window == nullptr) {
-        return;
-    }
-    program.keys({"Escape"});
-    if (std::string_view(outcome.window) == "Save") {
-        return expect(program, {"Schemlet 2.0", "Unkown error while saving file"});
-    }
-    program.waitForMainWindow();
-}
-
-/// Opens the menu bar's menu that is so many to the right of the first one, or to the left of it, round the end. (To
-/// the right there is no way past a menu that begins with a submenu.)
-void openMenu(Program& program, int place)
-{
-    program.keys({"alt+f"});
-    for (; place != 0; place += place > 0 ? -1 : 1) {
-        program.keys({place > 0 ? "Right" : "Left"});
-    }
-}
-
-/// A check item and its mark, as the menu shows them; the item must not be the one that the menu opens with.
-QImage lookOf(Program& program, const char* menu, const char* item)
-{
-    clickWords(program, menu);
-    waitForWords(item);
-    const QRect place = findWords(item).adjusted(-30, -4, 4, 4);
-    const QImage look = screen(place);
-    program.keys({"Escape", "Escape"}); // the menu, and the menu bar
-    waitUntil("no menu", [&] { return !seeWords(item); });
-    return look;
-}
-
-} // namespace
+// Menus and short-cuts, settings, colours and printing.
 
 TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
 {
@@ -117,7 +56,7 @@ TEST(Program, ShortCutsHaveTheirEffect)
         {"ctrl+f", {"Select Color"}},
         {"ctrl+b", {"Select Color"}},
         {"ctrl+p", {"Schemlet 2.0", printQuestion}},
-        {"ctrl+x", {"Schemlet 2.0", question}},
+        {"ctrl+x", {"Schemlet 2.0", saveQuestion}},
         {"ctrl+e", {nullptr, "Erase mode"}},
         {"ctrl+e", {nullptr, "Normal mode"}},
         {"ctrl+c", {nullptr, "Pencil"}},
@@ -125,8 +64,8 @@ TEST(Program, ShortCutsHaveTheirEffect)
         {"ctrl+l", {nullptr, "Line"}},
         {"ctrl+o", {nullptr, "1600, 1500"}}, // nothing yet
         {"Right", {nullptr, "1650, 1500"}},
-        {"ctrl+o", {"Schemlet 2.0", question}},
-        {"ctrl+n", {"Schemlet 2.0", question}},
+        {"ctrl+o", {"Schemlet 2.0", saveQuestion}},
+        {"ctrl+n", {"Schemlet 2.0", saveQuestion}},
         {"Right", {nullptr, "1700, 1500"}},
         {"ctrl+j", {nullptr, "1900, 1500"}},
         {"ctrl+q", {nullptr, "1900, 1500"}},
@@ -147,121 +86,6 @@ TEST(Program, ShortCutsHaveTheirEffect)
     program.keys({"ctrl+t", "ctrl+k", "ctrl+h"});
     waitUntil("toolbox and bars",
               [&] { return seeWords("Click once and drag") && seeWords("Normal mode") && program.inked(900, -10); });
-}
-
-TEST(Program, ToolbarAndToolboxHintAndWork)
-{
-    Program program;
-    const auto hover = [&](int x, int y, const char* hint) {
-        program.moveMouse(x, y);
-        program.xdotool({"mousemove_relative", "1", "0"});
-        waitForWords(hint);
-    };
-    const auto click = [&] { program.xdotool({"click", "1"}); };
-
-    struct Tool {
-        const char* hint;
-        Outcome outcome;
-    };
-    const Tool toolbox[] = {
-        {"Click to draw AND Gate", {"This draws an AND GATE"}},
-        {"Click to draw OR Gate", {"This draws an OR GATE"}},
-        {"Click to draw NOT Gate", {"This draws a NOT GATE"}},
-        {"Click to draw NOR Gate", {"This draws a NOR GATE"}},
-        {"Click to draw NAND Gate", {"This draws a NAND GATE"}},
-        {"Click to draw RESISTANCE", {"RESISTANCE"}},
-        {"Click to draw INDUCTANCE", {"INDUCTANCE"}},
-        {"Click to draw CAPACITANCE", {"CAPACITANCE"}},
-        {"Click to draw SUPPLY", {nullptr, "Type of Supply is"}},
-        {"Click to draw BATTERY", {nullptr, "Type of Battery is"}},
-        {"Click to get ERASER", {nullptr, "Erase mode"}},
-        {"Click to Close the ToolBox", {}},
-    };
-    int place = 0;
-    for (const auto& [hint, outcome] : toolbox) {
-        SCOPED_TRACE(hint);
-        const QPoint label = program.onCanvas(findWords("Click once and drag").center());
-        hover(label.x() + (place % 2 == 0 ? -40 : 40), label.y() + 35 + 51 * (place / 2), hint);
-        click();
-        expect(program, outcome);
-        ++place;
-    }
-    waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
-
-    const Tool toolbar[] = {
-        {"Click to start a new drawing", {"Schemlet 2.0", question}},
-        {"Click to open a picture as the drawing's background", {"Schemlet 2.0", question}},
-        {"Click to save the drawing as a picture", {"Save"}},
-        {"Click to print the drawing", {"Schemlet 2.0", printQuestion}},
-        {},
-        {"Click to see how to use the program", {"Help"}},
-        {"Click to see the totals and what follows from them", {"Output"}},
-        {"Click to show or hide the toolbox", {}},
-        {},
-        {"Click to draw lines with the mouse", {nullptr, "Line"}},
-        {"Click to draw free-hand with the mouse", {nullptr, "Pencil"}},
-        {"Click to choose the colour of wires", {"Select Color"}},
-        {"Click to choose the colour of the canvas, which wipes it", {"Select Color"}},
-        {"Click to switch erase mode on or off", {nullptr, "Normal mode"}},
-        {"Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
-    };
-    int x = 20;
-    for (const auto& [hint, outcome] : toolbar) {
-        if (hint == nullptr) {
-            x += 7; // a separator
-            continue;
-        }
-        SCOPED_TRACE(hint);
-        program.keys({"Right"}); // New and Open do something only then
-        hover(x, -20, hint);
-        click();
-        expect(program, outcome);
-        x += 33;
-    }
-    waitForWords("Click once and drag"); // shown again
-}
-
-TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
-{
-    Program program;
-    const auto label = [&] {
-        waitForWords("Click once and drag");
-        return program.onCanvas(findWords("Click once and drag").center());
-    };
-    const auto clickAt = [&](QPoint place) { program.click(1, place.x(), place.y()); };
-    const QPoint start = label();
-    const auto followsTo = [&](int x, int y) {
-        const QPoint before = label();
-        program.moveMouse(x, y);
-        waitUntil("the toolbox", [&] { return label() != before; });
-        return label() - QPoint(x, y);
-    };
-
-    // A drag over it draws nothing and moves no pen.
-    program.keys({"ctrl+l", "Right"});
-    waitForWords("1650, 1500");
-    const QRect rest(0, 130, program.canvas().width(), program.canvas().height() - 130);
-    const QImage before = program.canvas().copy(rest);
-    program.drag(start.x() - 30, start.y() + 130, start.x() + 45, start.y());
-    program.keys({"Right"});
-    waitForWords("1700, 1500");
-    program.moveMouse(300, 250); // it does not follow yet
-    waitForWords("Press F1 for Help");
-    EXPECT_TRUE(program.canvas().copy(rest) == before);
-
-    clickAt(label());
-    const QPoint corner = followsTo(300, 300);
-    EXPECT_EQ(followsTo(200, 200), corner); // its corner is at the mouse
-    program.moveMouse(202, 202);            // which is over it now, and stops it
-    program.moveMouse(100, 500);
-    waitForWords("Press F1 for Help");
-    EXPECT_EQ(label(), corner + QPoint(200, 200));
-
-    const QPoint closing = label() + QPoint(40, 35 + 5 * 51);
-    clickAt(closing);
-    waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
-    program.keys({"ctrl+t"});
-    EXPECT_EQ(label(), corner + QPoint(200, 200));
 }
 
 TEST(Program, SettingsAskWhatTheirMarksSay)
@@ -360,4 +184,46 @@ TEST(Program, ColoursGoWhereTheyAreChosenAndCancelStoresTheLastOne)
     pick("#0000ff");
     program.keyTimes(3, "Down");
     waitUntil("blue wire", [&] { return program.pixel(153, 109) == Qt::blue || program.pixel(152, 109) == Qt::blue; });
+}
+
+TEST(Program, PrintsTheCanvasWithoutMarkerAndEraserOutline)
+{
+    PrintServer server;
+    Program program;
+    const auto print = [&] {
+        program.keys({"ctrl+p"});
+        program.waitForWindow("Schemlet 2.0");
+        waitForWords(printQuestion);
+        program.keys({"y"});
+    };
+    program.keyTimes(9, "Right");
+    program.keys({"e"});
+    program.moveMouse(300, 300);
+    for (const QRect& guide : {QRect(280, 280, 60, 60), QRect(134, 80, 12, 16)}) { // the outline and the marker
+        const QImage blank = program.canvas().copy(QRect(QPoint(500, 300), guide.size()));
+        waitUntil("what guides the hand", [&] { return program.canvas().copy(guide) != blank; });
+    }
+    print();
+    waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
+    const QImage page = printedPicture(server.printedFiles().first());
+    ASSERT_EQ(page.size(), program.canvas().size());
+    const QImage seen = program.canvas().convertToFormat(page.format());
+    const QRect around(0, 80, 400, 300);
+    QImage expected(around.size(), page.format());
+    expected.fill(Qt::white);
+    for (int x = 0; x < around.width(); ++x) {
+        for (int y = 99; y <= 101; ++y) { // the wire
+            expected.setPixel(x, y - around.top(), seen.pixel(x, y));
+        }
+    }
+    EXPECT_TRUE(page.copy(around) == expected);
+    const QRect label(300, 0, 400, 40); // lies on the canvas and is no guide
+    EXPECT_TRUE(page.copy(label) == seen.copy(label));
+
+    server.removeQueue();
+    print();
+    program.waitForWindow("Schemlet 2.0");
+    waitForWords("Printer error");
+    program.keys({"Return"});
+    program.waitForMainWindow();
 }

@@ -1,5 +1,6 @@
 #include "tests/gui/desk.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <string_view>
 
@@ -68,4 +69,27 @@ TEST(Program, EndsWithItsMainWindowWhateverElseIsOpen)
     program.waitForWindow("Schemlet 2.0");
     program.keys({"n"});
     EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
+{
+    struct Case {
+        int signal;
+        const char* key;
+        const char* window;
+    };
+    for (const auto& [signal, key, window] : {Case{SIGTERM, "ctrl+s", "Save"}, Case{SIGINT, "ctrl+b", "Select Color"},
+                                              Case{SIGHUP, "ctrl+x", "Schemlet 2.0"}}) {
+        SCOPED_TRACE(signal);
+        Program program;
+        program.keys({"ctrl+f"});
+        program.waitForWindow("Select Color");
+        program.keys({"Return"});
+        program.waitForMainWindow();
+        program.keys({key});
+        program.waitForWindow(window);
+        program.signal(signal);
+        EXPECT_EQ(program.exitStatus(), 0);
+        EXPECT_EQ(program.filesAtHome(), QStringList());
+    }
 }

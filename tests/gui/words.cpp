@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -67,7 +66,7 @@ std::vector<Letter> lettersOf(const QString& words)
 {
     const QFontMetricsF metrics(QGuiApplication::font());
     std::vector<Letter> letters;
-    for (const qsizetype i : std::views::iota(qsizetype{0}, words.size())) {
+    for (qsizetype i = 0; i < words.size(); ++i) {
         const QString text = words.mid(i, 1);
         const double begin = metrics.horizontalAdvance(words.left(i + 1)) - metrics.horizontalAdvance(text);
         Letter letter;
