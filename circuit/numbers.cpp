@@ -108,7 +108,7 @@ std::string toText(double number)
 {
     constexpr int digits = 15;      // all that a double holds of a decimal number for certain
     std::array<char, 32> written{}; // a sign, 15 digits, a point, four leading zeros or an exponent
-    const auto end =
+    char* const end =
         std::to_chars(written.begin(), written.end(), number == 0 ? 0 : number, std::chars_format::general, digits).ptr;
     std::replace(written.begin(), end, 'e', 'E');
     return {written.begin(), end};
