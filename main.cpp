@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QScreen>
 #include <QSettings>
 
 int main(int argc, char* argv[])
@@ -48,6 +49,8 @@ int main(int argc, char* argv[])
     QMainWindow mainView;
     Ui::Form1 form;
     form.setupUi(&mainView);
+    constexpr QSize frame(16, 48); // generous: window managers differ
+    mainView.resize(mainView.size().boundedTo(mainView.screen()->availableSize() - frame));
     QDialog helpView(&mainView);
     Ui::Form2().setupUi(&helpView);
     QDialog aboutView(&mainView);

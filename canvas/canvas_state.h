@@ -92,13 +92,13 @@ struct CanvasState {
     int autoJumper = 0;
     int toolboxFollow = 0;    ///< 1 while the toolbox follows the mouse
     Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
-    int jumperAnswer = 0;
+    int jumperAnswer = 0;     ///< the button that closed the question about a jumper
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     std::string fileTitle; ///< the name of the file saved last, without its folder
-    int printAnswer = 0;
-    int blinkCount = 0;
-    int statusDue = 0; ///< 1 while the status bar waits to be brought up to date
+    int printAnswer = 0;   ///< the button that closed the question about printing
+    int blinkCount = 0;    ///< 0 to 10000: the marker shows at multiples of 50
+    int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
 
     int startShown = 0;     ///< 1 once the help window has shown itself at start
     int splashProgress = 0; ///< of the splash's bar, 0 to 100
@@ -133,11 +133,12 @@ struct CanvasState {
     double supplyValue = 0;     ///< the number typed last for a source
     double supplyVoltage = 0;   ///< sum of the voltage supplies, volt
     double supplyCurrent = 0;   ///< sum of the current supplies, ampere
-    double batteryPositive = 0; ///< the last battery of each kind; batteries are not summed
+    double batteryPositive = 0; ///< the last battery of each kind, volt; batteries are not summed
     double batteryNegative = 0;
     Name lastFamily{}; ///< the frame of the panel that was opened last
 
-    // What the Output window showed last, as far as it could be computed.
+    // What the Output window showed last, as far as it could be computed. The formulas put capac, a reciprocal, where
+    // they mean a capacitance, so the figures are no hertz and no ohms of the circuit drawn.
     double resonanceDenominator = 0;
     double resonanceFrequency = 0;
     double qualityFactor = 0;
@@ -184,12 +185,12 @@ struct Form1 : CanvasState {
 /// The one shape of every command.
 using Handler = void (*)(Form1&);
 
-/// How far the marker's top stands above the pen, in twips.
+/// How far the marker's top stands above the pen, in twips: its picture's 16 pixels, and 4 to see the ink.
 inline constexpr double markerRise = 300;
 
 /// Sets the main window's variables to their start values, puts the pen at its start and the marker with it, and fills
-/// the Output window from the zeros, without showing it. What it
-/// does not assign stays: family colours, tools, automatic jumpers.
+/// the Output window from the zeros, without showing it. What it does not assign stays: family colours, tools,
+/// automatic jumpers.
 void load(Form1& form);
 
 /// What the title shows in place of a file's name.
@@ -198,7 +199,7 @@ inline constexpr std::string_view noFile = " New File ";
 /// Puts a file's name into the main window's title.
 void setTitle(Form1& form, std::string_view file);
 
-/// Moves the marker to a left edge of its own and to the pen's height.
+/// Moves the marker to a left edge of its own, in twips, and to the pen's height.
 void placeMarker(Form1& form, double left);
 
 /// One tick of the marker's blink, every 500 ms.

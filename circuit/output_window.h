@@ -4,7 +4,8 @@
 
 // The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
 // there before. Formulas and the figure for two pi are the product's own: they take the sum of the capacitances'
-// reciprocals wherever a capacitance enters.
+// reciprocals wherever a capacitance enters, so only resistance (ohm), inductance (henry), capacitance (farad), voltage
+// (volt) and current (ampere) are in the units that they are entered in.
 
 /// The Output window and its controls.
 namespace form4 {

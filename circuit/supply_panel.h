@@ -17,8 +17,8 @@ void Option3(Form1& form); ///< voltage
 void Option4(Form1& form); ///< positive
 void Option5(Form1& form); ///< negative
 
-/// Draws the chosen sources with the number at the start of the text, 0 if there is none, and closes the panel. Throws
-/// overflow for a number or a sum out of range.
+/// Draws the chosen sources with the number at the start of the text, in volt or ampere, 0 if there is none, and closes
+/// the panel. Throws overflow for a number or a sum out of range.
 void Command3(Form1& form);
 
 /// Cancel the batteries or the supplies: draw and sum nothing.

@@ -7,9 +7,9 @@
 // foreground is black afterwards, the marker goes with its left edge. Throws if the text is no number or the total
 // grows out of range; total, pen and drawing are then as before.
 
-/// Adds to the sum of resistances.
+/// Adds to the sum of resistances, in ohm.
 void resistanc(Form1& form);
-/// Adds to the sum of inductances.
+/// Adds to the sum of inductances, in henry.
 void inductanc(Form1& form);
-/// Adds the reciprocal to the sum of reciprocals: capacitors stand in series.
+/// Adds the reciprocal to the sum of reciprocals, in 1/farad: capacitors stand in series.
 void capacitanc(Form1& form);

@@ -16,7 +16,7 @@ inline constexpr int yes = 6;
 inline constexpr int no = 7;
 } // namespace answer
 
-/// Boxes that wait for the user; each call returns once its box is closed.
+/// Boxes that wait for the user; each call returns once its box is closed. Texts and paths are UTF-8.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;

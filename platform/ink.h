@@ -17,13 +17,13 @@ struct Image {
     std::uint32_t* pixels = nullptr;
     int width = 0;
     int height = 0;
-    int stride = 0; ///< pixels from one row to the next
-    double scale = 1;
+    int stride = 0;   ///< pixels from one row to the next
+    double scale = 1; ///< above 0
 };
 
 struct Pen {
     std::uint32_t pixel; ///< the value written
-    double width;        ///< above 0
+    double width;        ///< pixels of the unscaled grid, above 0
 };
 
 struct Place {
@@ -41,8 +41,9 @@ struct Area {
 
 // Each returns a part of the image that holds every pixel it inked.
 Area line(const Image& image, const Pen& pen, Place from, Place to);
+/// radius is 0 or more.
 Area circle(const Image& image, const Pen& pen, Place centre, double radius);
-/// From angle start to angle end, counter-clockwise on the screen from +X, in radians of any size.
+/// radius is 0 or more; from angle start to angle end, counter-clockwise on the screen from +X, in radians of any size.
 Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end);
 
 } // namespace ink

@@ -31,13 +31,13 @@ public:
     virtual void line(float x1, float y1, float x2, float y2) = 0;
     /// The outline of the rectangle with these opposite corners. The current point moves to (x2, y2).
     virtual void box(float x1, float y1, float x2, float y2) = 0;
-    /// A full circle outline. The current point stays.
+    /// A full circle outline, radius 0 or more; one smaller than the pen is a disc. The current point stays.
     virtual void circle(float x, float y, float radius) = 0;
-    /// A circle's part, counter-clockwise on the screen from start to end, angles in radians from +X. The current
-    /// point stays.
+    /// A circle's part, radius 0 or more, counter-clockwise on the screen from start to end: angles in radians from +X,
+    /// of any size. The current point stays.
     virtual void arc(float x, float y, float radius, float start, float end) = 0;
-    /// Prints with the current point as the text's top-left corner. endLine moves the current point to the left
-    /// edge one text line lower; otherwise it stands behind the text.
+    /// Prints one line of UTF-8 text with the current point as its top-left corner. endLine moves the current point to
+    /// the left edge one text line lower; otherwise it stands behind the text.
     virtual void print(std::string_view text, bool endLine = true) = 0;
 
     /// The colour of the pixel at a place; none outside the retained image.
@@ -45,7 +45,7 @@ public:
 
     /// Wipes ink and background picture and gives the image the window's size again.
     virtual void clear() = 0;
-    /// The colour of the paper. Setting it wipes ink and background picture.
+    /// Sets the colour of the paper, which wipes ink and background picture; the image keeps its size.
     virtual void setBackColor(Color color) = 0;
     /// The colour of everything drawn from now on.
     virtual void setForeColor(Color color) = 0;

@@ -33,6 +33,7 @@ struct Cursor {
 };
 
 /// A top-level window and its named controls. A name the window does not have is a fault of the program and ends it.
+/// Texts are UTF-8.
 class Window {
 public:
     virtual ~Window() = default;
@@ -59,7 +60,8 @@ public:
     /// The pointer over the canvas.
     virtual void setCursor(const Cursor& cursor) = 0;
 
-    /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it.
+    /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it. So
+    /// a row's depth is at most one more than that of the row before it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;
     /// Opens a hidden menu at the mouse and returns at once.
     virtual void popUp(Name menu) = 0;
@@ -90,7 +92,7 @@ public:
     /// Puts a control into the corner of the canvas that is farthest from a place, in twips.
     virtual void placeAwayFrom(Name control, double x, double y) = 0;
 
-    /// Starts a timer that ticks until its interval is set to 0.
+    /// Starts a timer that ticks every so many milliseconds, 1 or more; 0 stops it.
     virtual void setInterval(Name timer, int milliseconds) = 0;
 
     // The same for several controls, in the order given.

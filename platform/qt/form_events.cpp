@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace {
 
@@ -81,6 +82,22 @@ bool Hovering::eventFilter(QObject* watched, QEvent* event)
     default: return QObject::eventFilter(watched, event);
     }
     return watched == &m_frame; // what its controls leave alone goes no further than the frame
+}
+
+StayInside::StayInside(QWidget& control) : QObject(&control), m_control(control)
+{
+    control.installEventFilter(this); // it grows when its layout is done
+    control.parentWidget()->installEventFilter(this);
+}
+
+bool StayInside::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize) {
+        const QSize room = m_control.parentWidget()->size() - m_control.size();
+        const QPoint place = m_control.pos();
+        m_control.move(std::max(0, std::min(place.x(), room.width())), std::max(0, std::min(place.y(), room.height())));
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 KeyDetour::KeyDetour(QWidget& button, QWidget& canvas) : QObject(&button), m_canvas(canvas)

@@ -52,6 +52,20 @@ private:
     std::function<void(const QWidget&)> m_hovered;
 };
 
+/// Keeps a control within its parent when that shrinks: what the user dropped near an edge can still be picked up.
+class StayInside final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the control.
+    explicit StayInside(QWidget& control);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget& m_control;
+};
+
 /// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc
 /// are the button's. Tab goes to each option of a group.
 class KeyDetour final : public QObject {

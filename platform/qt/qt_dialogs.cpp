@@ -92,6 +92,18 @@ QStringList pictureFilters()
     return {"Pictures (" + patterns.trimmed() + ")", "All files (*)"};
 }
 
+/// The toolkit forgot these two, which are for the mouse; its number boxes do the same by keyboard.
+void nameColorFields(QColorDialog& dialog)
+{
+    for (auto* const field : dialog.findChildren<QWidget*>()) {
+        if (field->inherits("QColorPicker")) {
+            field->setAccessibleName("Hue and saturation");
+        } else if (field->inherits("QColorLuminancePicker")) {
+            field->setAccessibleName("Brightness");
+        }
+    }
+}
+
 /// Empty if the user cancels.
 QString chooseFile(QFileDialog& dialog)
 {
@@ -142,6 +154,7 @@ Color QtDialogs::pickColor()
     if (m_colorDialog == nullptr) {
         m_colorDialog = new QColorDialog(&m_owner);
         m_colorDialog->setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
+        nameColorFields(*m_colorDialog);
     }
     m_colorDialog->setCurrentColor(toQColor(m_color));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);

@@ -104,7 +104,9 @@ void QtWindow::connectControls()
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::enter});
             });
         } else if (object->property("reportsHovering").toBool()) {
-            new Hovering(dynamic_cast<QWidget&>(*object), [this](const QWidget& widget) { reportHover(widget); });
+            auto& frame = dynamic_cast<QWidget&>(*object);
+            new Hovering(frame, [this](const QWidget& widget) { reportHover(widget); });
+            new StayInside(frame);
         } else if (object->property("isClickable").toBool()) {
             new LabelClick(dynamic_cast<QLabel&>(*object),
                            [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
