@@ -8,10 +8,12 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QImageReader>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace {
 
@@ -108,6 +110,10 @@ void nameColorFields(QColorDialog& dialog)
 QString chooseFile(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
+    dialog.resize(760, 480);                            // pixels, room for all columns
+    if (const auto* const files = dialog.findChild<QTreeView*>()) {
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // the toolkit cuts the dates off
+    }
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     // What is selected once the dialog is over may be something else, or nothing: a key may have come meanwhile.
     QString chosen;
