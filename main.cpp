@@ -1,5 +1,6 @@
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/fit_screen.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
@@ -14,12 +15,12 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QScreen>
 #include <QSettings>
 
-int main(int argc, char* argv[])
+namespace {
+
+void prepareToolkit()
 {
-    QApplication application(argc, argv);
     // Fast pencil strokes need every motion; the platform plug-in switches merging on when it starts, so only now.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     // Under this name the desktop finds the menu entry of the running windows.
@@ -31,6 +32,14 @@ int main(int argc, char* argv[])
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // The toolkit's dialogs would read and write a file of their own in the home directory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    prepareToolkit();
 
     Form1* schemlet = nullptr;
     const auto report = [&schemlet](const Event& event) {
@@ -49,8 +58,7 @@ int main(int argc, char* argv[])
     QMainWindow mainView;
     Ui::Form1 form;
     form.setupUi(&mainView);
-    constexpr QSize frame(16, 48); // generous: window managers differ
-    mainView.resize(mainView.size().boundedTo(mainView.screen()->availableSize() - frame));
+    resizeOnScreen(mainView, mainView.size());
     QDialog helpView(&mainView);
     Ui::Form2().setupUi(&helpView);
     QDialog aboutView(&mainView);

@@ -7,7 +7,7 @@
 #include "platform/qt/qt_window.h"
 #include "platform/quiet.h"
 #include "shell/events.h"
-#include "shell/view.h"
+#include "shell/main_window.h"
 #include "ui_Form1.h"
 
 #include <QApplication>

@@ -5,7 +5,7 @@
 
 void setTitle(Form1& form, std::string_view file)
 {
-    form.controls.setCaption(" - Schemlet 2.0 " + std::string(file));
+    form.controls.setCaption(" - " + std::string(productName) + " " + std::string(file));
 }
 
 void load(Form1& form)

@@ -47,7 +47,8 @@ inline constexpr Name Command7 = "Command7"; ///< cancels, in bat
 inline constexpr Name Command8 = "Command8"; ///< cancels, in sup
 } // namespace control
 
-/// Directions of the pen. A heading variable may hold other numbers too; nothing is drawn for those.
+/// Directions of the pen. A heading variable may hold other numbers too, as the File menu leaves its answers there:
+/// nothing is drawn for those.
 namespace heading {
 inline constexpr int right = 1;
 inline constexpr int left = 2;
@@ -130,7 +131,7 @@ struct CanvasState {
     std::string resistValue; ///< the texts last entered
     std::string inductValue;
     std::string capacValue;
-    double supplyValue = 0;     ///< the number typed last for a source
+    double supplyValue = 0;     ///< the number typed last for a source, volt or ampere
     double supplyVoltage = 0;   ///< sum of the voltage supplies, volt
     double supplyCurrent = 0;   ///< sum of the current supplies, ampere
     double batteryPositive = 0; ///< the last battery of each kind, volt; batteries are not summed
@@ -192,6 +193,9 @@ inline constexpr double markerRise = 300;
 /// the Output window from the zeros, without showing it. What it does not assign stays: family colours, tools,
 /// automatic jumpers.
 void load(Form1& form);
+
+/// Names the program in the titles of its windows and boxes.
+inline constexpr std::string_view productName = "Schemlet 2.0";
 
 /// What the title shows in place of a file's name.
 inline constexpr std::string_view noFile = " New File ";

@@ -6,10 +6,10 @@
 /// 50 twips of wire. Codes are those of platform/event.h.
 void keyDown(Form1& form, int code);
 
-/// A typed character: a component's or a mode's letter, capital or small, or nothing but a changed mark.
+/// A typed character, a UTF-16 unit: a component's or a mode's letter, capital or small, or nothing but a changed mark.
 void keyPress(Form1& form, int character);
 
-/// Switches erase mode: pen width, mode and label flip each from its own state.
+/// Switches erase mode: pen width (2 or 10 pixels), mode and label flip each from its own state.
 void eraser1(Form1& form);
 
 /// The J key: switches automatic jumpers and leaves the menu's mark as it is.

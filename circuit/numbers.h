@@ -12,8 +12,8 @@
 /// The longest number at the start of a text, blanks before it ignored; 0 if there is none. Throws overflow.
 [[nodiscard]] double leadingNumber(std::string_view text);
 
-/// The general format: at most 15 significant digits and nothing that says nothing, such as "0.2", "-4", "1E+15" or
-/// "1E-05".
+/// The general format of a finite number: at most 15 significant digits and nothing that says nothing, such as "0.2",
+/// "-4", "1E+15" or "1E-05".
 [[nodiscard]] std::string toText(double number);
 
 /// The same number; throws overflow if it is none any more.

@@ -13,9 +13,7 @@ void loadForm4(Form1& form)
         return;
     }
     form.form4Loaded = 1;
-    for (const Name value : form4::values) {
-        form.form4.setText(value, "0");
-    }
+    clearOutput(form);
 }
 
 void showNumber(Form1& form, Name label, double number)
@@ -72,6 +70,13 @@ void output(Form1& form)
     }
     form.form4.showWindow();
     computeOutput(form);
+}
+
+void clearOutput(Form1& form)
+{
+    for (const Name value : form4::values) {
+        form.form4.setText(value, "0");
+    }
 }
 
 void refreshOutput(Form1& form)

@@ -44,9 +44,12 @@ void output(Form1& form);
 /// Fills the window without showing it. Throws the same.
 void refreshOutput(Form1& form);
 
+/// Shows 0 for every value.
+void clearOutput(Form1& form);
+
 namespace form4 {
 
-/// Prints the Output window.
+/// Prints the Output window. Throws printerError.
 void printForm(Form1& form);
 
 } // namespace form4

@@ -222,6 +222,7 @@ void colorPanel(Form1& form)
     for (const Name option : kinds) {
         form.controls.setBackColor(option, form.canvasBackColor);
     }
+    form.controls.setBackColor(control::panel, form.canvasBackColor);
     form.controls.setBackColor(control::bat, form.canvasBackColor);
     form.controls.setBackColor(control::sup, form.canvasBackColor);
 }

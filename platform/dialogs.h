@@ -21,7 +21,7 @@ class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    /// Esc or closing the box counts as Cancel if it has that button, else as No.
+    /// Esc or closing the box counts as Cancel if it has that button, else as No; so does OK.
     virtual int messageBox(std::string_view prompt, Box style, std::string_view title) = 0;
 
     /// Asks for one line of text, with the preset selected so that typing replaces it. Empty on Cancel.

@@ -19,7 +19,8 @@ inline void require(bool sense)
     }
 }
 
-/// Numbers from the file. Places are 64 bits wide: sums of a few 32-bit numbers from a file do not overflow.
+/// Numbers from the file, at places of 0 or more; beyond its end each throws CutShort. Places are 64 bits wide: sums of
+/// a few 32-bit numbers from a file do not overflow.
 class Bytes {
 public:
     explicit Bytes(std::string_view bytes) : m_bytes(bytes) {}

@@ -25,7 +25,7 @@ struct MenuItem {
     Look look = Look::plain;
 };
 
-/// A pointer, by the name of its picture, and the pixel of it that points.
+/// A pointer, by the name of its picture of 24 by 24 pixels, and the pixel of it that points.
 struct Cursor {
     Name picture;
     int hotX;
@@ -55,7 +55,7 @@ public:
     /// Ends the program's main loop, as if nothing were open.
     virtual void endProgram() = 0;
 
-    /// Appends a button to the toolbar, with the picture of this name; a separator if it has none.
+    /// Appends a button to the toolbar, with the picture of this name; an empty key is a separator.
     virtual void addToolButton(Name key, std::string_view tip) = 0;
     /// The pointer over the canvas.
     virtual void setCursor(const Cursor& cursor) = 0;

@@ -11,6 +11,7 @@
 #include "shell/confirmations.h"
 #include "shell/files.h"
 #include "shell/help.h"
+#include "shell/status_bar.h"
 #include "shell/toolbox.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
@@ -146,13 +147,7 @@ constexpr Command menu[] = {
 };
 // clang-format on
 
-struct Clickable {
-    Name window;
-    Name name;
-    Handler handler;
-};
-
-constexpr Clickable controls[] = {
+constexpr NamedHandler controls[] = {
     {mainWindow, control::Option2, Option2},
     {mainWindow, control::Option3, Option3},
     {mainWindow, control::Option4, Option4},
@@ -171,10 +166,8 @@ constexpr Clickable controls[] = {
 
 Handler handlerOf(Name window, Name name)
 {
-    const auto* const control =
-        std::ranges::find_if(controls, [&](const Clickable& row) { return row.window == window && row.name == name; });
-    if (control != std::end(controls)) {
-        return control->handler;
+    if (const Handler handler = findHandler(controls, window, name)) {
+        return handler;
     }
     if (window != mainWindow) {
         return nullptr;
@@ -184,6 +177,13 @@ Handler handlerOf(Name window, Name name)
 }
 
 } // namespace
+
+Handler findHandler(std::span<const NamedHandler> rows, Name window, Name name)
+{
+    const auto found =
+        std::ranges::find_if(rows, [&](const NamedHandler& row) { return row.window == window && row.name == name; });
+    return found == rows.end() ? nullptr : found->handler;
+}
 
 void addMenus(Form1& form)
 {

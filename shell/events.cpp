@@ -9,21 +9,14 @@
 #include "shell/commands.h"
 #include "shell/files.h"
 #include "shell/help.h"
+#include "shell/main_window.h"
 #include "shell/splash.h"
+#include "shell/status_bar.h"
 #include "shell/toolbox.h"
-#include "shell/view.h"
-
-#include <algorithm>
 
 namespace {
 
-struct Ticking {
-    Name window;
-    Name timer;
-    Handler handler;
-};
-
-constexpr Ticking timers[] = {
+constexpr NamedHandler timers[] = {
     {mainWindow, control::Timer1, Timer1},
     {mainWindow, control::Timer2, Timer2},
     {mainWindow, control::statusTimer, showStatus},
@@ -34,10 +27,8 @@ constexpr Ticking timers[] = {
 
 void tick(Form1& form, Name window, Name timer)
 {
-    const auto* const ticking =
-        std::ranges::find_if(timers, [&](const Ticking& row) { return row.window == window && row.timer == timer; });
-    if (ticking != std::end(timers)) {
-        ticking->handler(form);
+    if (const Handler handler = findHandler(timers, window, timer)) {
+        handler(form);
     }
 }
 
@@ -46,20 +37,14 @@ void hideOutput(Form1& form)
     form.form4.hideWindow();
 }
 
-struct Closing {
-    Name window;
-    Handler handler;
-};
-
-/// What a window's frame does.
-constexpr Closing frames[] = {
-    {mainWindow, exit_},         {form2::window, form2::Command1}, {form3::window, form3::Command1},
-    {form4::window, hideOutput}, {form6::window, form6::finish},
+constexpr NamedHandler frames[] = {
+    {mainWindow, {}, exit_},         {form2::window, {}, form2::Command1}, {form3::window, {}, form3::Command1},
+    {form4::window, {}, hideOutput}, {form6::window, {}, form6::finish},
 };
 
 void close(Form1& form, Name window)
 {
-    std::ranges::find(frames, window, &Closing::window)->handler(form);
+    findHandler(frames, window, {})(form);
 }
 
 void panelKey(Form1& form, Name control, int character)
@@ -94,7 +79,7 @@ void deliver(Form1& form, const Event& event)
     try {
         dispatch(form, event);
     } catch (const RuntimeError& error) {
-        form.dialogs.messageBox(error.what(), Box::okWarning, "Schemlet 2.0");
+        form.dialogs.messageBox(error.what(), Box::okWarning, productName);
     }
     // Neither a tick nor a move changes what the status bar shows.
     const bool quiet =

@@ -10,7 +10,7 @@ namespace {
 
 void askToSave(Form1& form)
 {
-    form.heading = form.dialogs.messageBox("Do you want to save changes?", Box::yesNoCancelWarning, "Schemlet 2.0");
+    form.heading = form.dialogs.messageBox("Do you want to save changes?", Box::yesNoCancelWarning, productName);
 }
 
 std::string withoutFolder(std::string_view path)
@@ -69,7 +69,7 @@ void save(Form1& form)
     } catch (const RuntimeError& error) {
         // Any other failure is silent; what was on the disk is still there.
         if (error.fault == Fault::dialogCancelled) {
-            form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, "Schemlet 2.0");
+            form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, productName);
         }
     }
 }
@@ -77,7 +77,7 @@ void save(Form1& form)
 void print(Form1& form)
 {
     form.printAnswer =
-        form.dialogs.messageBox(" Do you want to print this form?", Box::yesNoCancelWarning, "Schemlet 2.0");
+        form.dialogs.messageBox(" Do you want to print this form?", Box::yesNoCancelWarning, productName);
     if (form.printAnswer == answer::yes) {
         form.controls.printForm();
     }
@@ -96,9 +96,7 @@ void exit_(Form1& form)
 
 void Command4(Form1& form)
 {
-    for (const Name value : form4::values) {
-        form.form4.setText(value, "0");
-    }
+    clearOutput(form);
     form.surface.setBackColor(white);
     form.surface.clear();
     form.surface.setDrawWidth(2);

@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-/// Somebody who draws on any surface, as fast as commands run: for the program's own pictures of its symbols. Starts at
-/// (0, 0), heading right. Places and lengths are twips.
+/// Draws on any surface by the program's own commands, as fast as they run: for the program's own pictures of its
+/// symbols. Starts at (0, 0), heading right. Places and lengths are twips.
 class Hand {
 public:
     explicit Hand(Surface& surface);
@@ -17,7 +17,8 @@ public:
     void goTo(int x, int y);
     /// Lays wire by an arrow key, in whole steps of 50 twips: at least as far as asked.
     void wire(int arrow, int twips);
-    /// Places a component; a value is typed into the box of one that asks, which else takes its preset.
+    /// Places a component; a value is typed into the box of one that asks, which else takes its preset. Throws what the
+    /// component throws.
     void put(Handler component, std::string_view value = {});
     /// Places a source, by the option of its kind.
     void putSource(Name option);

@@ -1,7 +1,7 @@
 #include "shell/splash.h"
 
+#include "shell/main_window.h"
 #include "shell/product_picture.h"
-#include "shell/view.h"
 
 void form6::load(Window& splash)
 {

@@ -54,8 +54,8 @@ constexpr ToolButton toolbar[] = {
     {},
     {"Line", "Line (Ctrl+L)", " Click to draw lines with the mouse ", linee},
     {"Pencil", "Pencil (Ctrl+C)", " Click to draw free-hand with the mouse ", pencil1},
-    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the colour of wires ", forec},
-    {"Back", "Back Color (Ctrl+B)", " Click to choose the colour of the canvas, which wipes it ", bc},
+    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the color of wires ", forec},
+    {"Back", "Back Color (Ctrl+B)", " Click to choose the color of the canvas, which wipes it ", bc},
     {"Eraser", "Eraser (Ctrl+E)", " Click to switch erase mode on or off ", eraser1},
     {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan},
 };
@@ -140,12 +140,6 @@ void hover(Form1& form, Name name)
 void lll(Form1& form)
 {
     HideToolbar(form);
-}
-
-void sss(Form1& form)
-{
-    form.controls.setVisible(control::statusBar, !form.controls.visible(control::statusBar));
-    flipMark(form, "sss");
 }
 
 void toolbox(Form1& form)

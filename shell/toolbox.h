@@ -14,7 +14,6 @@ void addTools(Form1& form);
 void hover(Form1& form, Name name);
 
 void lll(Form1& form);     ///< View > ToolBar
-void sss(Form1& form);     ///< View > StatusBar
 void toolbox(Form1& form); ///< View > ToolBox
 
 /// Shows or hides the toolbar.

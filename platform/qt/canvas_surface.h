@@ -23,7 +23,10 @@ public:
     /// whether the image is another one now. Ratios below 1 count as 1.
     bool setRatio(double ratio);
 
+    /// Makes room for a window of this many pixels of the canvas; no image ever shrinks.
     void growTo(QSize window);
+    /// Lays a picture, one pixel of it to one of the canvas, on clean paper that is as large as window and picture
+    /// need.
     void setPicture(const QImage& picture);
 
     void line(float x1, float y1, float x2, float y2) override;

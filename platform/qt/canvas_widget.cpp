@@ -48,22 +48,56 @@ void CanvasWidget::paintEvent(QPaintEvent* event)
     if (m_surface.setRatio(devicePixelRatioF())) {
         update(); // more than this event's part
     }
+    drawInk(event->region());
+    if (m_showsFocus) {
+        drawFocus();
+    }
+}
+
+void CanvasWidget::drawInk(const QRegion& region)
+{
     // The image's pixels are the screen's, and stay so where the canvas starts between two of them.
     const double ratio = m_surface.ratio();
     QPainter painter(this);
     painter.scale(1 / ratio, 1 / ratio);
     const QTransform toScreen = painter.deviceTransform();
     painter.translate(std::round(toScreen.dx()) - toScreen.dx(), std::round(toScreen.dy()) - toScreen.dy());
-    for (const QRect& part : event->region()) {
+    for (const QRect& part : region) {
         const QRect pixels = QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio).toAlignedRect();
         const QRect wider = pixels.adjusted(-1, -1, 1, 1) & m_surface.screenImage().rect();
         painter.drawImage(wider, m_surface.screenImage(), wider);
     }
 }
 
+void CanvasWidget::drawFocus()
+{
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
 void CanvasWidget::resizeEvent(QResizeEvent* /*event*/)
 {
     m_surface.growTo(size());
+    showFocus(m_showsFocus); // where the edges are now
+}
+
+void CanvasWidget::focusInEvent(QFocusEvent* event)
+{
+    showFocus(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+}
+
+void CanvasWidget::focusOutEvent(QFocusEvent* /*event*/)
+{
+    showFocus(false);
+}
+
+void CanvasWidget::showFocus(bool shown)
+{
+    if (shown || m_showsFocus) {
+        m_showsFocus = shown;
+        update();
+    }
 }
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event)

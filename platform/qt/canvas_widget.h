@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <functional>
 
-/// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed and draws
-/// nothing of its own.
+/// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed, and draws
+/// nothing of its own but a frame when Tab has brought the keyboard here.
 class CanvasWidget final : public QWidget {
     Q_OBJECT
 
@@ -18,12 +18,14 @@ public:
     std::function<void(const Event&)> report;
 
     [[nodiscard]] CanvasSurface& surface() { return m_surface; }
-    /// For a release that another widget got although the button went down here.
+    /// For a release that another widget got although the button went down here; the position is this widget's.
     void reportRelease(Qt::MouseButton button, QPointF position) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -32,9 +34,13 @@ protected:
 
 private:
     [[nodiscard]] bool isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const;
+    void drawInk(const QRegion& region);
+    void drawFocus();
+    void showFocus(bool shown);
     void reportMouse(Event::Kind kind, int code, QPointF position) const;
 
     CanvasSurface m_surface;
     quint64 m_lastPress = 0; ///< when, in milliseconds
     bool m_releaseIsStray = false;
+    bool m_showsFocus = false;
 };

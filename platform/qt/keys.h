@@ -12,7 +12,7 @@ namespace keys {
 /// The code of a key on its way down, as in platform/event.h.
 [[nodiscard]] int code(const QKeyEvent& event);
 
-/// The character that a key types; none for a key that types nothing or is held with Ctrl or Alt.
+/// The character that a key types, a UTF-16 unit; none for a key that types nothing or is held with Ctrl or Alt.
 [[nodiscard]] std::optional<int> character(const QKeyEvent& event);
 
 } // namespace keys

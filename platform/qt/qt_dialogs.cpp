@@ -1,6 +1,7 @@
 #include "platform/qt/qt_dialogs.h"
 
 #include "platform/qt/colors.h"
+#include "platform/qt/fit_screen.h"
 #include "platform/qt/text.h"
 #include "platform/runtime_error.h"
 
@@ -110,7 +111,7 @@ void nameColorFields(QColorDialog& dialog)
 QString chooseFile(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
-    dialog.resize(760, 480);                            // pixels, room for all columns
+    resizeOnScreen(dialog, {760, 480});                 // room for all columns
     if (const auto* const files = dialog.findChild<QTreeView*>()) {
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // the toolkit cuts the dates off
     }

@@ -14,6 +14,7 @@
 /// scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
 class QtSurface final : public Surface {
 public:
+    /// scale is above 0.
     explicit QtSurface(double scale = 1);
 
     /// Called with the changed part of the image, in its own pixels, after every change.

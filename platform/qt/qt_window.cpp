@@ -24,11 +24,6 @@
 
 namespace {
 
-int toPixels(double twips)
-{
-    return static_cast<int>(std::lround(twips / twipsPerPixel));
-}
-
 constexpr QSize cursorSize(24, 24); // pixels
 
 /// Whether an object belongs to this window and not to another one that the window owns.
@@ -63,6 +58,11 @@ void applyFormProperties(QWidget& control)
 }
 
 } // namespace
+
+int QtWindow::toPixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
 
 QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),

@@ -58,6 +58,7 @@ public:
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] static int toPixels(double twips);
     void connectControls();
     void reportHover(const QWidget& widget) const;
     [[nodiscard]] QImage pictureOfCanvas();

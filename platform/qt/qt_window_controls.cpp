@@ -13,15 +13,6 @@
 #include <QProgressBar>
 #include <cmath>
 
-namespace {
-
-int toPixels(double twips)
-{
-    return static_cast<int>(std::lround(twips / twipsPerPixel));
-}
-
-} // namespace
-
 void QtWindow::setChecked(Name item, bool checked)
 {
     find<QAction>(item).setChecked(checked);
@@ -163,7 +154,9 @@ void QtWindow::setTop(Name control, double twips)
 void QtWindow::placeAwayFrom(Name control, double x, double y)
 {
     auto& widget = find<QWidget>(control);
-    const Qt::Alignment side = x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft;
+    // Left is left in every language: the canvas is never mirrored.
+    const Qt::Alignment side =
+        Qt::AlignAbsolute | (x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft);
     const Qt::Alignment end = y / twipsPerPixel < m_canvas->height() / 2.0 ? Qt::AlignBottom : Qt::AlignTop;
     QLayout& layout = *widget.parentWidget()->layout();
     if (layout.itemAt(layout.indexOf(&widget))->alignment() != (side | end)) {

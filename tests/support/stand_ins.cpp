@@ -1,6 +1,6 @@
 #include "tests/support/stand_ins.h"
 
-#include "shell/view.h"
+#include "shell/main_window.h"
 
 #include <gtest/gtest.h>
 #include <sstream>

@@ -2,15 +2,13 @@
 
 #include "canvas/canvas_state.h"
 
-/// Fills the main window, loads its state, shows it and starts its timer. Once, at start.
-void openMainWindow(Form1& form);
-
-/// Shows the help window once, a moment after the main window.
-void Timer1(Form1& form);
-
 /// Brings what shows the state up to date: the status bar's panels behind the hint (pen, heading, tool in hand, erase
-/// mode), the canvas's description, which tells the same to a screen reader, and the pointer over the canvas.
+/// mode), the canvas's description, which tells the same to a screen reader, the pointer over the canvas, and the place
+/// of the panel of supplies and batteries, which stays away from the pen.
 void showStatus(Form1& form);
 
 /// The same a moment later, once for all events until then: ink comes first, and nobody reads faster.
 void showStatusSoon(Form1& form);
+
+/// View > StatusBar.
+void sss(Form1& form);

@@ -1,8 +1,4 @@
-#include "shell/view.h"
-
-#include "shell/commands.h"
-#include "shell/help.h"
-#include "shell/toolbox.h"
+#include "shell/status_bar.h"
 
 #include <string>
 
@@ -70,40 +66,7 @@ std::string spokenStatus(const CanvasState& state)
     return state.eraseMode == 1 ? text + ", erase mode" : text;
 }
 
-/// What starts hidden or disabled, and the toolbox's colour until the canvas gets one.
-void prepareControls(Form1& form)
-{
-    using namespace control;
-    form.controls.hide({Label27, Shape1, panel, sup, bat, Label11, Label13, Label12, Label28});
-    form.controls.hide({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
-    form.controls.disable({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
-    form.controls.setBackColor(Frame2, 0xE0E0E0);
-}
-
 } // namespace
-
-void openMainWindow(Form1& form)
-{
-    addMenus(form);
-    addTools(form);
-    prepareControls(form);
-    load(form);
-    showStatus(form);
-    form.controls.showWindow();
-    constexpr int helpDelay = 100; // milliseconds
-    form.controls.setInterval(control::Timer1, helpDelay);
-    constexpr int blinkInterval = 500;
-    form.controls.setInterval(control::Timer2, blinkInterval);
-}
-
-void Timer1(Form1& form)
-{
-    if (form.startShown == 0) {
-        showHelpAtStart(form);
-    }
-    form.controls.setInterval(control::Timer1, 0);
-    form.startShown = 1;
-}
 
 void showStatus(Form1& form)
 {
@@ -125,4 +88,10 @@ void showStatusSoon(Form1& form)
         form.statusDue = 1;
         form.controls.setInterval(control::statusTimer, delay);
     }
+}
+
+void sss(Form1& form)
+{
+    form.controls.setVisible(control::statusBar, !form.controls.visible(control::statusBar));
+    form.controls.setChecked("sss", !form.controls.checked("sss"));
 }
