@@ -185,9 +185,41 @@ void StandInWindow::addMenuItem(int /*depth*/, const MenuItem& item)
     m_controls[std::string(item.name)].checked = item.look == Look::checked;
 }
 
-Bench::Bench()
+Bench::Bench(Start start)
 {
-    openMainWindow(form);
+    if (start == Start::atSplash) {
+        form6::load(splash);
+    } else {
+        openMainWindow(form);
+    }
+}
+
+void Bench::choose(Name option)
+{
+    window.at(option).value = 1;
+    click(option);
+}
+
+void Bench::confirm(std::string_view text)
+{
+    window.at(control::Text11).text = text;
+    deliver(form, {Event::Kind::keyPress, mainWindow, control::Text11, character::enter});
+}
+
+void Bench::enter(char kind, const std::string& value)
+{
+    static const std::map<char, Name> sources{
+        {'A', control::Option2}, {'V', control::Option3}, {'+', control::Option4}, {'-', control::Option5}};
+    static const std::map<char, const char*> titles{
+        {'R', " RESISTANCE "}, {'I', " INDUCTANCE "}, {'C', " CAPACITANCE "}};
+    if (const auto source = sources.find(kind); source != sources.end()) {
+        type(kind == 'A' || kind == 'V' ? 'S' : 'b');
+        choose(source->second);
+        confirm(value);
+    } else {
+        dialogs.expectInput(titles.at(kind), value);
+        type(kind);
+    }
 }
 
 std::string Bench::drawn()
@@ -208,4 +240,9 @@ std::string Bench::marker()
 {
     const auto& picture = window.at(control::Picture1);
     return words(picture.left, picture.top);
+}
+
+std::string Bench::outcome()
+{
+    return drawn() + "pen " + pen() + ", marker " + marker();
 }

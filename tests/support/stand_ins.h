@@ -2,8 +2,10 @@
 
 #include "canvas/canvas_state.h"
 #include "circuit/output_window.h"
+#include "platform/event.h"
 #include "platform/runtime_error.h"
 #include "shell/about.h"
+#include "shell/events.h"
 #include "shell/help.h"
 #include "shell/splash.h"
 
@@ -178,8 +180,10 @@ private:
     std::map<std::string, Control, std::less<>> m_controls;
 };
 
-/// The program as it stands right after start, without a toolkit.
+/// The program without a toolkit, and what a user and the clock do to it.
 struct Bench {
+    enum class Start { atSplash, behindIt };
+
     RecordingSurface surface;
     StandInWindow window{formControls};
     ScriptedDialogs dialogs;
@@ -190,10 +194,36 @@ struct Bench {
     StandInWindow splash{splashControls};
     Form1 form{surface, window, dialogs, pictures, help, about, output, splash};
 
-    Bench();
+    explicit Bench(Start start = Start::behindIt);
+
+    void press(int key) { deliver(form, {.kind = Event::Kind::keyDown, .code = key}); }
+    void type(int character) { deliver(form, {.kind = Event::Kind::keyPress, .code = character}); }
+    void click(Name name, Name of = mainWindow) { deliver(form, {Event::Kind::click, of, name}); }
+    void tick(Name timer, Name of = mainWindow) { deliver(form, {Event::Kind::tick, of, timer}); }
+    void close(Name closed = mainWindow) { deliver(form, {Event::Kind::close, closed}); }
+    void hover(Name name) { deliver(form, {.kind = Event::Kind::hover, .name = name}); }
+    void mouse(Event::Kind kind, int buttons, float x, float y)
+    {
+        deliver(form, {kind, mainWindow, {}, buttons, x, y});
+    }
+    void mouseDown(int button, float x, float y) { mouse(Event::Kind::mouseDown, button, x, y); }
+    void mouseMove(int buttons, float x, float y) { mouse(Event::Kind::mouseMove, buttons, x, y); }
+    void mouseUp(int button, float x, float y) { mouse(Event::Kind::mouseUp, button, x, y); }
+
+    /// As the toolkit does it: the option is on before its click is reported.
+    void choose(Name option);
+    /// Types a text into the panel and ends it with Enter.
+    void confirm(std::string_view text);
+    /// Adds a component by its key, with this value: R, I or C, or a source: V, A, or a battery, + or -.
+    void enter(char kind, const std::string& value);
 
     /// The ink since the last call, one line each.
     std::string drawn();
     [[nodiscard]] std::string pen() const; ///< such as "1600 1500"
     [[nodiscard]] std::string marker();    ///< left and top, such as "1600 1200"
+    /// All of that, such as "line 0 0 9 9\npen 1600 1500, marker 1600 1200".
+    std::string outcome();
 };
+
+/// What a command leaves that does nothing right after start.
+inline constexpr const char* nothing = "pen 1600 1500, marker 1600 1200";
