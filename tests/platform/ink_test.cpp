@@ -1,8 +1,10 @@
 #include "platform/ink.h"
 
 #include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -11,14 +13,10 @@ namespace {
 struct Paper {
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(index(0, height));
+    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height);
 
     [[nodiscard]] ink::Image image() { return {pixels.data(), width, height, width}; }
-    [[nodiscard]] std::size_t index(int x, int y) const
-    {
-        return static_cast<std::size_t>(x + y * std::ptrdiff_t{width});
-    }
-    [[nodiscard]] std::uint32_t at(int x, int y) const { return pixels[index(x, y)]; }
+    [[nodiscard]] int at(int x, int y) const { return static_cast<int>(*(pixels.begin() + x + y * width)); }
     [[nodiscard]] std::string text() const
     {
         std::string out;
@@ -57,15 +55,13 @@ TEST(Ink, CirclesSmallerThanThePenHaveNoHole)
 TEST(Ink, DotsTenTwipsApartMergeIntoASolidWireOfEvenWidth)
 {
     for (const double start : {3.0, 3.3, 3.67}) {
-        Paper paper{40, 7};
-        for (int i = 0; i < 45; ++i) {
+        Paper paper{20, 7};
+        for (int i = -10; i < 45; ++i) {
             ink::circle(paper.image(), thin, {start + i * 2.0 / 3, start}, 2.0 / 3);
         }
-        for (int x = 5; x < 30; ++x) {
-            for (int y = 0; y < 7; ++y) {
-                EXPECT_EQ(paper.at(x, y), y >= 2 && y <= 4 ? 1U : 0U);
-            }
-        }
+        const std::string blank = std::string(20, '.') + '\n';
+        const std::string solid = std::string(20, '#') + '\n';
+        EXPECT_EQ(paper.text(), blank + blank + solid + solid + solid + blank + blank) << start;
     }
 }
 
@@ -76,17 +72,16 @@ TEST(Ink, CirclesOfEveryUsedRadiusAreSymmetricAndClosed)
         constexpr int side = 64;
         Paper paper{side, side};
         const ink::Area area = ink::circle(paper.image(), thin, {32.2, 31.7}, twips / 15.0);
-        const auto at = [&](int x, int y) { return paper.at(x, y); };
         const int width = area.right - area.left;
         ASSERT_EQ(width, area.bottom - area.top);
         for (int y = 0; y < width; ++y) {
             long runs = 0;
             for (int x = 0; x < width; ++x) {
-                const auto pixel = at(area.left + x, area.top + y);
-                ASSERT_EQ(pixel, at(area.right - 1 - x, area.top + y));
-                ASSERT_EQ(pixel, at(area.left + x, area.bottom - 1 - y));
-                ASSERT_EQ(pixel, at(area.left + y, area.top + x));
-                runs += pixel != 0 && (x == 0 || at(area.left + x - 1, area.top + y) == 0) ? 1 : 0;
+                const auto pixel = paper.at(area.left + x, area.top + y);
+                ASSERT_EQ(pixel, paper.at(area.right - 1 - x, area.top + y));
+                ASSERT_EQ(pixel, paper.at(area.left + x, area.bottom - 1 - y));
+                ASSERT_EQ(pixel, paper.at(area.left + y, area.top + x));
+                runs += pixel != 0 && (x == 0 || paper.at(area.left + x - 1, area.top + y) == 0) ? 1 : 0;
             }
             ASSERT_GE(runs, 1);
             ASSERT_LE(runs, 2);
@@ -103,26 +98,20 @@ TEST(Ink, WideRingsAroundAPlaceBlotOutAWholePatch)
     }
     for (int y = 12; y < 28; ++y) {
         for (int x = 12; x < 28; ++x) {
-            EXPECT_EQ(paper.at(x, y), 1U) << x << ' ' << y;
+            EXPECT_EQ(paper.at(x, y), 1) << x << ' ' << y;
         }
     }
 }
 
 TEST(Ink, ArcsRunCounterClockwiseFromStartToEnd)
 {
-    Paper below{30, 30};
-    ink::arc(below.image(), thin, {15, 15}, 10, 3.5, 0);
-    EXPECT_EQ(below.at(15, 25), 1U); // bottom
-    EXPECT_EQ(below.at(24, 15), 1U); // right end
-    EXPECT_EQ(below.at(15, 5), 0U);  // top
-    EXPECT_EQ(below.at(5, 14), 0U);  // left, just before the start
-
-    Paper right{30, 30};
-    ink::arc(right.image(), thin, {15, 15}, 10, 5.0, 1.5);
-    EXPECT_EQ(right.at(25, 15), 1U);
-    EXPECT_EQ(right.at(15, 5), 1U);
-    EXPECT_EQ(right.at(5, 15), 0U);
-    EXPECT_EQ(right.at(13, 25), 0U);
+    const std::tuple<double, double, std::array<int, 4>> arcs[] = {{3.5, 0, {0, 1, 1, 0}}, {5, 1.5, {1, 0, 1, 0}}};
+    for (const auto& [start, end, topBottomRightLeft] : arcs) {
+        Paper paper{30, 30};
+        ink::arc(paper.image(), thin, {15, 15}, 10, start, end);
+        EXPECT_EQ((std::array<int, 4>{paper.at(15, 5), paper.at(15, 25), paper.at(25, 15), paper.at(5, 14)}),
+                  topBottomRightLeft);
+    }
 }
 
 TEST(Ink, ReportsAnAreaThatHoldsEveryInkedPixel)
@@ -130,12 +119,11 @@ TEST(Ink, ReportsAnAreaThatHoldsEveryInkedPixel)
     const auto check = [](auto draw) {
         Paper paper{30, 30};
         const ink::Area area = draw(paper.image());
-        for (int y = 0; y < 30; ++y) {
-            for (int x = 0; x < 30; ++x) {
-                if (paper.at(x, y) != 0) {
-                    EXPECT_TRUE(x >= area.left && x < area.right && y >= area.top && y < area.bottom) << x << ' ' << y;
-                }
-            }
+        for (int place = 0; place < 30 * 30; ++place) {
+            const int x = place % 30;
+            const int y = place / 30;
+            const bool inside = x >= area.left && x < area.right && y >= area.top && y < area.bottom;
+            EXPECT_TRUE(inside || paper.at(x, y) == 0) << x << ' ' << y;
         }
     };
     for (int step = -3; step < 20; ++step) {
