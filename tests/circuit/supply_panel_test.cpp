@@ -8,11 +8,6 @@
 
 namespace {
 
-void escape(Bench& bench)
-{
-    deliver(bench.form, {.kind = Event::Kind::keyPress, .name = control::panel, .code = character::escape});
-}
-
 std::string shown(Bench& bench)
 {
     std::string names;
@@ -28,11 +23,7 @@ std::string shown(Bench& bench)
 TEST(Sources, PrintTheValueInBlackAndMoveThePenPastTheSymbol)
 {
     for (const auto& [kind, way] : {std::pair{'A', 410}, {'V', 410}, {'+', 120}, {'-', 120}}) {
-        for (const auto& [heading, x, y] : {std::tuple{heading::right, 1600 + way, 1500},
-                                            {heading::left, 1600 - way, 1500},
-                                            {heading::up, 1600, 1500 - way},
-                                            {heading::down, 1600, 1500 + way},
-                                            {7, 1600, 1500}}) {
+        for (const auto& [heading, x, y] : waysPast(way, way)) {
             SCOPED_TRACE(kind + std::to_string(heading));
             Bench bench;
             bench.form.heading = heading;
@@ -73,7 +64,7 @@ TEST(SupplyPanel, ShowsWhatEachStepNeedsAndGivesTheKeyboardBack)
     EXPECT_EQ(shown(bench), "panel sup Command3 Command8 Text11 Label12 ");
     EXPECT_EQ(bench.window.focused, control::Text11);
     EXPECT_TRUE(bench.window.at(control::Text11).enabled);
-    deliver(bench.form, {.kind = Event::Kind::keyPress, .name = control::Text11, .code = '5'}); // is only typed
+    bench.typeInto(control::Text11, '5'); // is only typed
     EXPECT_EQ(bench.outcome(), nothing);
     bench.confirm("5");
     EXPECT_EQ(shown(bench), "");
@@ -101,7 +92,7 @@ TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
                 bench.choose(option);
                 bench.window.at(control::Text11).text = "33";
             }
-            byKey ? escape(bench) : bench.click(cancel);
+            byKey ? bench.typeInto(control::panel, character::escape) : bench.click(cancel);
             EXPECT_FALSE(bench.window.at(control::panel).visible);
             EXPECT_EQ(bench.window.focused, control::Canvas);
             EXPECT_FALSE(bench.window.at(control::Text11).enabled);
@@ -119,9 +110,9 @@ TEST(SupplyPanel, EscapeCancelsTheFamilyOpenedLastThenTheOther)
     Bench bench;
     bench.type('s');
     bench.type('b');
-    escape(bench);
+    bench.typeInto(control::panel, character::escape);
     EXPECT_EQ(shown(bench).substr(0, 10), "panel sup ");
-    escape(bench);
+    bench.typeInto(control::panel, character::escape);
     EXPECT_FALSE(bench.window.at(control::panel).visible);
 }
 

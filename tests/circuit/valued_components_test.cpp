@@ -23,11 +23,7 @@ TEST(ValuedComponents, PrintTheValueAsTypedInTheirColourAndMoveThePenPastTheSymb
     for (const Case& c : {Case{'R', " Enter Value of Resistance ", "resistancecolor", 1050, 750},
                           Case{'I', " Enter Value of Inductance ", "inductancecolor", 900, 900},
                           Case{'C', " Enter Value of Capacitance ", "capacitancecolor", 160, 160}}) {
-        for (const auto& [heading, x, y] : {std::tuple{heading::right, 1600 + c.level, 1500},
-                                            {heading::left, 1600 - c.level, 1500},
-                                            {heading::up, 1600, 1500 - c.upright},
-                                            {heading::down, 1600, 1500 + c.upright},
-                                            {7, 1600, 1500}}) {
+        for (const auto& [heading, x, y] : waysPast(c.level, c.upright)) {
             SCOPED_TRACE(c.prompt + std::to_string(heading));
             Bench bench;
             bench.dialogs.picked = red;

@@ -104,17 +104,10 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
 {
     ChangedBench bench;
     CanvasState& state = bench.form;
-    for (double CanvasState::*const sum :
-         {&CanvasState::resist, &CanvasState::induc, &CanvasState::capac, &CanvasState::supplyVoltage,
-          &CanvasState::supplyCurrent, &CanvasState::batteryPositive, &CanvasState::batteryNegative,
-          &CanvasState::resonanceFrequency}) {
-        state.*sum = 5;
-    }
-    state.gatesColor = state.wireColor = state.canvasBackColor = 0x0000FF;
-    state.diodeCount = 5;
     bench.output.at(form4::Label22).text = "0.2";
     bench.window.at(control::Option2).value = 1;
-    for (const char* const item : {"linee", "jj", "gg", "eraser", "Label1"}) {
+    bench.dialogs.picked = 0x0000FF;
+    for (const char* const item : {"gatescolor", "forec", "bc", "linee", "jj", "gg", "eraser", "Label1"}) {
         bench.click(item);
     }
     bench.drawn();
@@ -125,15 +118,11 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
     EXPECT_EQ(bench.surface.current().y, 1500);
     EXPECT_EQ(state.heading, answer::no); // until the next arrow key
     EXPECT_EQ(bench.window.caption, newFile);
-    EXPECT_EQ(state.eraseMode + state.toolboxFollow + state.diodeCount + state.penMoved, 0);
+    EXPECT_EQ(state.eraseMode + state.toolboxFollow + state.penMoved, 0);
     EXPECT_FALSE(bench.window.at(control::Label27).visible);
     EXPECT_EQ(state.confirm[gatesConfirm], 1);
     EXPECT_TRUE(bench.window.checked("gg"));
-    EXPECT_EQ(state.resist + state.induc + state.capac + state.supplyVoltage + state.supplyCurrent, 0);
-    EXPECT_EQ(state.batteryPositive + state.batteryNegative + state.resonanceFrequency, 0);
-    for (const Name value : form4::values) {
-        EXPECT_EQ(bench.output.at(value).text, "0");
-    }
+    EXPECT_EQ(bench.output.at(form4::Label22).text, "0");
     EXPECT_EQ(bench.window.at(control::Option2).value, 0);
     EXPECT_EQ(bench.window.at(control::bat).backColor, white);
     EXPECT_EQ(state.wireColor, black);
@@ -142,6 +131,21 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
     EXPECT_EQ(state.gatesColor, 0x0000FFU);
     EXPECT_EQ(state.lineTool + state.autoJumper, 2);
     EXPECT_TRUE(bench.window.checked("jj"));
+}
+
+TEST(New, SetsEverySumAndResultTo0)
+{
+    using State = CanvasState;
+    for (double State::*const sum :
+         {&State::resist, &State::induc, &State::capac, &State::supplyVoltage, &State::supplyCurrent,
+          &State::supplyValue, &State::batteryPositive, &State::batteryNegative, &State::resonanceDenominator,
+          &State::resonanceFrequency, &State::qualityFactor, &State::frequencyCopy, &State::angularFrequency,
+          &State::frequencyCapac, &State::capacitiveReactance}) {
+        Bench bench;
+        bench.form.*sum = bench.form.diodeCount = 5;
+        bench.click("new");
+        EXPECT_EQ(bench.form.*sum + bench.form.diodeCount, 0);
+    }
 }
 
 TEST(New, AsksOnlyAfterAChangeAndKeepsTheDrawingOnCancel)

@@ -2,116 +2,85 @@
 
 #include "shell/main_window.h"
 
-#include <gtest/gtest.h>
+#include <ranges>
 #include <sstream>
-#include <stdexcept>
 #include <utility>
 
 namespace {
 
-template <typename... Values> std::string words(const Values&... values)
+std::string place(double x, double y)
 {
     std::ostringstream out;
     out.precision(10);
-    const char* blank = "";
-    ((out << std::exchange(blank, " ") << values), ...);
+    out << x << ' ' << y;
     return out.str();
 }
 
 } // namespace
 
-template <typename... Values> void RecordingSurface::note(const Values&... call)
+void RecordingSurface::note(const char* what, std::initializer_list<double> numbers, std::string_view text)
 {
     if (!recording) {
         return;
     }
-    ink.push_back(words(call...));
+    std::ostringstream call;
+    call.precision(10);
+    call << what;
+    for (const double number : numbers) {
+        call << ' ' << number;
+    }
+    ink.push_back(call.str() + std::string(text));
     if (!firstInkColor) {
         firstInkColor = foreColor;
     }
 }
 
-void RecordingSurface::line(float x1, float y1, float x2, float y2)
+void RecordingSurface::stroke(const char* what, const std::array<float, 4>& ends)
 {
-    note("line", x1, y1, x2, y2);
-    m_current = {x2, y2};
-}
-
-void RecordingSurface::box(float x1, float y1, float x2, float y2)
-{
-    note("box", x1, y1, x2, y2);
-    m_current = {x2, y2};
-}
-
-void RecordingSurface::circle(float x, float y, float radius)
-{
-    note("circle", x, y, radius);
+    note(what, {ends[0], ends[1], ends[2], ends[3]});
+    m_current = {ends[2], ends[3]};
 }
 
 void RecordingSurface::arc(float x, float y, float radius, float start, float end)
 {
-    note("arc", x, y, radius, start, end);
+    note("arc", {x, y, radius, start, end});
 }
 
 void RecordingSurface::print(std::string_view text, bool endLine)
 {
-    note("print", m_current.x, m_current.y, std::string(text) + (endLine ? "" : " ..."));
+    note("print", {m_current.x, m_current.y}, " " + std::string(text) + (endLine ? "" : " ..."));
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
-}
-
-void RecordingSurface::clear()
-{
-    note("clear");
-}
-
-void RecordingSurface::setBackColor(Color color)
-{
-    note("back", color);
 }
 
 std::optional<Color> RecordingSurface::point(float x, float y) const
 {
-    probedAt = recording ? words(x, y) : "";
+    probedAt = recording ? place(x, y) : "";
     return underPoint;
 }
 
-void RecordingSurface::setForeColor(Color color)
+ScriptedDialogs::Expected ScriptedDialogs::next(std::string_view prompt, std::string_view title)
 {
-    foreColor = color;
-}
-
-ScriptedDialogs::~ScriptedDialogs()
-{
-    EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().first;
-    EXPECT_TRUE(m_inputs.empty()) << "not asked: " << m_inputs.front().first;
+    lastPrompt = prompt;
+    if (m_expected.empty()) {
+        ADD_FAILURE() << "unexpected question: " << title;
+        return {};
+    }
+    Expected next = m_expected.front();
+    m_expected.pop_front();
+    EXPECT_EQ(title, next.title);
+    return next;
 }
 
 int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
 {
-    lastPrompt = prompt;
     lastStyle = style;
-    if (m_expected.empty()) {
-        ADD_FAILURE() << "unexpected question: " << title;
-        return answer::no;
-    }
-    const auto [expected, answer] = m_expected.front();
-    m_expected.pop_front();
-    EXPECT_EQ(title, expected);
-    return answer;
+    return next(prompt, title).answer;
 }
 
 std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
 {
-    lastPrompt = prompt;
     EXPECT_EQ(preset, "10");
-    if (m_inputs.empty()) {
-        ADD_FAILURE() << "unexpected question: " << title;
-        return {};
-    }
-    const auto [expected, text] = m_inputs.front();
-    m_inputs.pop_front();
-    EXPECT_EQ(title, expected);
-    return text;
+    return next(prompt, title).text;
 }
 
 std::string ScriptedDialogs::openFile()
@@ -148,22 +117,10 @@ StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> 
     }
 }
 
-StandInWindow::Control& StandInWindow::at(Name name)
-{
-    const auto found = m_controls.find(name);
-    if (found == m_controls.end()) {
-        throw std::invalid_argument("no such control: " + std::string(name));
-    }
-    return found->second;
-}
-
 std::vector<Name> StandInWindow::names() const
 {
-    std::vector<Name> all;
-    for (const auto& [name, control] : m_controls) {
-        all.emplace_back(name);
-    }
-    return all;
+    const auto all = std::views::keys(m_controls);
+    return {all.begin(), all.end()};
 }
 
 void StandInWindow::unload()
@@ -203,7 +160,7 @@ void Bench::choose(Name option)
 void Bench::confirm(std::string_view text)
 {
     window.at(control::Text11).text = text;
-    deliver(form, {Event::Kind::keyPress, mainWindow, control::Text11, character::enter});
+    typeInto(control::Text11, character::enter);
 }
 
 void Bench::enter(char kind, const std::string& value)
@@ -233,16 +190,25 @@ std::string Bench::drawn()
 
 std::string Bench::pen() const
 {
-    return words(form.x, form.y);
+    return place(form.x, form.y);
 }
 
 std::string Bench::marker()
 {
     const auto& picture = window.at(control::Picture1);
-    return words(picture.left, picture.top);
+    return place(picture.left, picture.top);
 }
 
 std::string Bench::outcome()
 {
     return drawn() + "pen " + pen() + ", marker " + marker();
+}
+
+std::array<Way, 5> waysPast(int level, int upright)
+{
+    return {{{heading::right, 1600 + level, 1500},
+             {heading::left, 1600 - level, 1500},
+             {heading::up, 1600, 1500 - upright},
+             {heading::down, 1600, 1500 + upright},
+             {7, 1600, 1500}}};
 }

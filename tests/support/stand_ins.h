@@ -9,7 +9,10 @@
 #include "shell/help.h"
 #include "shell/splash.h"
 
+#include <array>
 #include <deque>
+#include <gtest/gtest.h>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <span>
@@ -26,22 +29,23 @@ public:
     Color foreColor = black;
     std::optional<Color> firstInkColor; ///< of the first thing that was drawn
 
-    void line(float x1, float y1, float x2, float y2) override;
-    void box(float x1, float y1, float x2, float y2) override;
-    void circle(float x, float y, float radius) override;
+    void line(float x1, float y1, float x2, float y2) override { stroke("line", {x1, y1, x2, y2}); }
+    void box(float x1, float y1, float x2, float y2) override { stroke("box", {x1, y1, x2, y2}); }
+    void circle(float x, float y, float radius) override { note("circle", {x, y, radius}); }
     void arc(float x, float y, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(float x, float y) const override;
-    void clear() override;
-    void setBackColor(Color color) override;
-    void setForeColor(Color color) override;
+    void clear() override { note("clear", {}); }
+    void setBackColor(Color color) override { note("back", {static_cast<double>(color)}); }
+    void setForeColor(Color color) override { foreColor = color; }
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
     [[nodiscard]] Point current() const override { return m_current; }
     void setCurrent(float x, float y) override { m_current = {x, y}; }
 
 private:
-    template <typename... Values> void note(const Values&... call);
+    void note(const char* what, std::initializer_list<double> numbers, std::string_view text = {});
+    void stroke(const char* what, const std::array<float, 4>& ends);
 
     int m_drawWidth = 2;
     Point m_current;
@@ -50,13 +54,12 @@ private:
 /// Gives queued answers; an unexpected question or one left over fails the test.
 class ScriptedDialogs final : public Dialogs {
 public:
-    ~ScriptedDialogs() override;
+    ~ScriptedDialogs() override { EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().title; }
 
     /// The next question must have this title, and is answered so.
-    void expect(std::string title, int answer) { m_expected.emplace_back(std::move(title), answer); }
-
-    /// The next input box must have this title; "" is Cancel.
-    void expectInput(std::string title, std::string text) { m_inputs.emplace_back(std::move(title), std::move(text)); }
+    void expect(const char* title, int answer) { m_expected.push_back({title, answer, {}}); }
+    /// Before all others an input box must have this title; "" is Cancel.
+    void expectInput(const char* title, const std::string& text) { m_expected.push_front({title, answer::no, text}); }
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
@@ -72,8 +75,14 @@ public:
     Box lastStyle = Box::okOnly;
 
 private:
-    std::deque<std::pair<std::string, std::string>> m_inputs;
-    std::deque<std::pair<std::string, int>> m_expected;
+    struct Expected {
+        std::string title;
+        int answer = answer::no;
+        std::string text;
+    };
+    Expected next(std::string_view prompt, std::string_view title);
+
+    std::deque<Expected> m_expected;
 };
 
 /// Notes what is asked of it.
@@ -139,8 +148,9 @@ public:
     std::string poppedUp;
     std::map<std::string, int, std::less<>> intervals;
 
-    /// Fails the test for a name that the program's windows do not have.
-    [[nodiscard]] Control& at(Name name);
+    // A name that the program's windows do not have fails the test.
+    [[nodiscard]] Control& at(Name name) { return m_controls.at(std::string(name)); }
+    [[nodiscard]] const Control& at(Name name) const { return m_controls.at(std::string(name)); }
     /// Of all controls, menu items and toolbar buttons.
     [[nodiscard]] std::vector<Name> names() const;
 
@@ -158,17 +168,17 @@ public:
     void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
     void popUp(Name menu) override { poppedUp = menu; }
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
-    [[nodiscard]] bool checked(Name item) const override { return m_controls.find(item)->second.checked; }
+    [[nodiscard]] bool checked(Name item) const override { return at(item).checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
-    [[nodiscard]] bool visible(Name control) const override { return m_controls.find(control)->second.visible; }
+    [[nodiscard]] bool visible(Name control) const override { return at(control).visible; }
     void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
-    [[nodiscard]] bool enabled(Name control) const override { return m_controls.find(control)->second.enabled; }
+    [[nodiscard]] bool enabled(Name control) const override { return at(control).enabled; }
     void focus(Name control) override { focused = control; }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
-    [[nodiscard]] std::string text(Name control) const override { return m_controls.find(control)->second.text; }
+    [[nodiscard]] std::string text(Name control) const override { return at(control).text; }
     void setDescription(Name control, std::string_view text) override { at(control).description = text; }
     void setValue(Name control, int value) override { at(control).value = value; }
-    [[nodiscard]] int value(Name control) const override { return m_controls.find(control)->second.value; }
+    [[nodiscard]] int value(Name control) const override { return at(control).value; }
     void setBackColor(Name control, Color color) override { at(control).backColor = color; }
     void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
@@ -202,6 +212,8 @@ struct Bench {
     void tick(Name timer, Name of = mainWindow) { deliver(form, {Event::Kind::tick, of, timer}); }
     void close(Name closed = mainWindow) { deliver(form, {Event::Kind::close, closed}); }
     void hover(Name name) { deliver(form, {.kind = Event::Kind::hover, .name = name}); }
+    /// A key in one of the panel's controls.
+    void typeInto(Name name, int character) { deliver(form, {Event::Kind::keyPress, mainWindow, name, character}); }
     void mouse(Event::Kind kind, int buttons, float x, float y)
     {
         deliver(form, {kind, mainWindow, {}, buttons, x, y});
@@ -224,6 +236,13 @@ struct Bench {
     /// All of that, such as "line 0 0 9 9\npen 1600 1500, marker 1600 1200".
     std::string outcome();
 };
+
+/// Where the pen ends, right after start, past something this long that follows its heading, and for a heading that is
+/// none.
+struct Way {
+    int heading, x, y;
+};
+std::array<Way, 5> waysPast(int level, int upright);
 
 /// What a command leaves that does nothing right after start.
 inline constexpr const char* nothing = "pen 1600 1500, marker 1600 1200";
