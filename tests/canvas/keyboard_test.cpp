@@ -91,21 +91,6 @@ TEST(Jumper, HopsAlongTheHeadingInTheColourInHand)
     }
 }
 
-TEST(EraseMode, FlipsWidthModeAndLabelEachFromItsOwnState)
-{
-    Bench bench;
-    const auto state = [&] {
-        return std::tuple(bench.surface.drawWidth(), bench.form.eraseMode, bench.window.at(control::Label27).visible);
-    };
-    bench.type('E');
-    EXPECT_EQ(state(), std::tuple(10, 1, true));
-    bench.type('e');
-    EXPECT_EQ(state(), std::tuple(2, 0, false));
-    bench.surface.setDrawWidth(10);
-    bench.type('e');
-    EXPECT_EQ(state(), std::tuple(2, 1, true));
-}
-
 TEST(AutomaticJumpers, KeyAndMenuItemFlipTheSwitchButOnlyTheItemItsMark)
 {
     Bench bench;

@@ -12,7 +12,7 @@ void enter(Bench& bench, const std::string& circuit)
 {
     std::istringstream parts(circuit);
     for (std::string part; parts >> part;) {
-        bench.enter(part.front(), part.substr(1));
+        bench.enter(part);
     }
 }
 

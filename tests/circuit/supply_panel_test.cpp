@@ -22,14 +22,17 @@ std::string shown(Bench& bench)
 
 TEST(Sources, PrintTheValueInBlackAndMoveThePenPastTheSymbol)
 {
-    for (const auto& [kind, way] : {std::pair{'A', 410}, {'V', 410}, {'+', 120}, {'-', 120}}) {
+    for (const auto& [source, way] :
+         {std::pair{"A 4.70V", 410}, {"V 4.70V", 410}, {"+ 4.70V", 120}, {"- 4.70V", 120}}) {
         for (const auto& [heading, x, y] : waysPast(way, way)) {
-            SCOPED_TRACE(kind + std::to_string(heading));
+            SCOPED_TRACE(source + std::to_string(heading));
             Bench bench;
             bench.form.heading = heading;
             bench.surface.setForeColor(0x0000FF);
-            bench.enter(kind, " 4.70V");
-            EXPECT_EQ(bench.drawn().find(" 4.7\n") == std::string::npos, heading == 7);
+            bench.enter(source);
+            const std::string drawn = bench.drawn();
+            EXPECT_EQ(drawn.find(" 4.7\n") == std::string::npos, heading == 7);
+            EXPECT_EQ(drawn.ends_with(" ...\n"), way == 410 && heading != 7); // no new line behind a supply's unit
             EXPECT_EQ(bench.pen(), std::to_string(x) + " " + std::to_string(y));
             EXPECT_EQ(bench.marker(), "1600 1200");
             EXPECT_EQ(bench.surface.foreColor, black);
@@ -41,9 +44,8 @@ TEST(Sources, PrintTheValueInBlackAndMoveThePenPastTheSymbol)
 TEST(Sources, SuppliesAreSummedAndBatteriesReplaced)
 {
     Bench bench;
-    for (const auto& [kind, text] :
-         {std::pair{'V', "5"}, {'V', "7"}, {'A', "-0.5"}, {'A', ""}, {'+', "9"}, {'+', "6"}, {'-', "x"}}) {
-        bench.enter(kind, text);
+    for (const char* const source : {"V5", "V7", "A-0.5", "A", "+9", "+6", "-x"}) {
+        bench.enter(source);
     }
     EXPECT_EQ(bench.form.supplyVoltage, 12);
     EXPECT_EQ(bench.form.supplyCurrent, -0.5);
@@ -79,12 +81,12 @@ TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
     struct Family {
         char letter;
         Name option, cancel;
-        char other;
+        const char* other;
         const char* pen; ///< after the other kind alone
     };
     for (const auto& [letter, option, cancel, other, pen] :
-         {Family{'s', control::Option2, control::Command8, '+', "1720 1500"},
-          Family{'b', control::Option5, control::Command7, 'V', "2010 1500"}}) {
+         {Family{'s', control::Option2, control::Command8, "+5", "1720 1500"},
+          Family{'b', control::Option5, control::Command7, "V5", "2010 1500"}}) {
         for (const auto& [chosen, byKey] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
             Bench bench;
             bench.type(letter);
@@ -99,7 +101,7 @@ TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
             EXPECT_FALSE(bench.window.at(control::Command3).enabled);
             EXPECT_EQ(bench.window.at(control::Text11).text, chosen ? "33" : "");
             EXPECT_EQ(bench.outcome(), nothing);
-            bench.enter(other, "5");
+            bench.enter(other);
             EXPECT_EQ(bench.pen(), pen);
         }
     }
@@ -122,7 +124,7 @@ TEST(SupplyPanel, OneClickDrawsABatteryAndASupplyOneAfterTheOther)
     bench.type('b');
     bench.choose(control::Option4);
     bench.choose(control::Option5); // takes the place of the other battery
-    bench.enter('A', "3");
+    bench.enter("A3");
     EXPECT_EQ(bench.pen(), "2130 1500"); // 120 and 410 further
     EXPECT_EQ(bench.form.batteryPositive, 0);
     EXPECT_EQ(bench.form.batteryNegative, 3);
@@ -146,7 +148,7 @@ TEST(SupplyPanel, AnOverflowInTheTextLeavesEverythingAsItIs)
 {
     Bench bench;
     bench.dialogs.expect("Schemlet 2.0", 0);
-    bench.enter('V', "1e999");
+    bench.enter("V1e999");
     EXPECT_TRUE(bench.dialogs.lastPrompt.starts_with("Overflow"));
     EXPECT_EQ(shown(bench), "panel sup Command3 Command8 Text11 Label12 ");
     EXPECT_EQ(bench.window.at(control::Text11).text, "1e999");
@@ -160,10 +162,10 @@ TEST(SupplyPanel, AnOverflowOfASumLeavesSumPenAndDrawingAndUsesTheChoicesUp)
     bench.type('b');
     bench.choose(control::Option4);
     bench.dialogs.expect("Schemlet 2.0", 0);
-    bench.enter('V', "1e308");
+    bench.enter("V1e308");
     EXPECT_EQ(bench.form.supplyVoltage, 1.7e308);
     EXPECT_EQ(bench.pen(), "1720 1500"); // the battery comes first
     EXPECT_FALSE(bench.window.at(control::panel).visible);
-    bench.enter('A', "5");
+    bench.enter("A5");
     EXPECT_EQ(bench.pen(), "2130 1500"); // no second battery
 }

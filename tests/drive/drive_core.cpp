@@ -73,10 +73,8 @@ private:
     void prepare()
     {
         m_surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
-        m_window.printFault = m_output.printFault = {};
-        if (m_chance.oneIn(2)) {
-            m_window.printFault = m_output.printFault = Fault::printerError;
-        }
+        m_window.printFault = m_output.printFault =
+            m_chance.oneIn(2) ? std::optional(Fault::printerError) : std::nullopt;
         m_help.heights.erase(m_help.heights.begin(), m_help.heights.end() - (m_help.heights.empty() ? 0 : 1));
     }
 

@@ -163,19 +163,26 @@ void Bench::confirm(std::string_view text)
     typeInto(control::Text11, character::enter);
 }
 
-void Bench::enter(char kind, const std::string& value)
+void Bench::enter(const std::string& component)
 {
-    static const std::map<char, Name> sources{
-        {'A', control::Option2}, {'V', control::Option3}, {'+', control::Option4}, {'-', control::Option5}};
-    static const std::map<char, const char*> titles{
-        {'R', " RESISTANCE "}, {'I', " INDUCTANCE "}, {'C', " CAPACITANCE "}};
-    if (const auto source = sources.find(kind); source != sources.end()) {
-        type(kind == 'A' || kind == 'V' ? 'S' : 'b');
-        choose(source->second);
-        confirm(value);
+    struct Kind {
+        char key;              ///< that asks for its value
+        Name option{};         ///< of a source
+        const char* title{""}; ///< of anything else's box
+    };
+    static const std::map<char, Kind> kinds{{'A', {'S', control::Option2}},   {'V', {'S', control::Option3}},
+                                            {'+', {'b', control::Option4}},   {'-', {'b', control::Option5}},
+                                            {'R', {'R', {}, " RESISTANCE "}}, {'I', {'I', {}, " INDUCTANCE "}},
+                                            {'C', {'C', {}, " CAPACITANCE "}}};
+    const Kind& kind = kinds.at(component.front());
+    const std::string value = component.substr(1);
+    if (kind.option.empty()) {
+        dialogs.expectInput(kind.title, value);
+        type(kind.key);
     } else {
-        dialogs.expectInput(titles.at(kind), value);
-        type(kind);
+        type(kind.key);
+        choose(kind.option);
+        confirm(value);
     }
 }
 

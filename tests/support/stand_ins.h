@@ -226,8 +226,8 @@ struct Bench {
     void choose(Name option);
     /// Types a text into the panel and ends it with Enter.
     void confirm(std::string_view text);
-    /// Adds a component by its key, with this value: R, I or C, or a source: V, A, or a battery, + or -.
-    void enter(char kind, const std::string& value);
+    /// Adds a component, such as "R4.7": its letter, R, I or C, or of a source V, A, + or -, and its value.
+    void enter(const std::string& component);
 
     /// The ink since the last call, one line each.
     std::string drawn();
