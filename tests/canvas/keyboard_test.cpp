@@ -84,7 +84,7 @@ TEST(Jumper, HopsAlongTheHeadingInTheColourInHand)
         bench.form.heading = heading;
         bench.surface.setForeColor(red);
         bench.click("jumper");
-        EXPECT_EQ(bench.drawn() == "", heading == 7);
+        EXPECT_EQ(bench.drawn().empty(), heading == 7);
         EXPECT_EQ(bench.pen(), std::to_string(x) + " " + std::to_string(y));
         EXPECT_EQ(bench.marker(), "1600 1200");
         EXPECT_EQ(bench.surface.foreColor, red);

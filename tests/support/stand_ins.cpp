@@ -2,7 +2,6 @@
 
 #include "shell/main_window.h"
 
-#include <ranges>
 #include <sstream>
 #include <utility>
 
@@ -119,8 +118,11 @@ StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> 
 
 std::vector<Name> StandInWindow::names() const
 {
-    const auto all = std::views::keys(m_controls);
-    return {all.begin(), all.end()};
+    std::vector<Name> all;
+    for (const auto& [name, control] : m_controls) {
+        all.emplace_back(name);
+    }
+    return all;
 }
 
 void StandInWindow::unload()
@@ -165,25 +167,18 @@ void Bench::confirm(std::string_view text)
 
 void Bench::enter(const std::string& component)
 {
-    struct Kind {
-        char key;              ///< that asks for its value
-        Name option{};         ///< of a source
-        const char* title{""}; ///< of anything else's box
-    };
-    static const std::map<char, Kind> kinds{{'A', {'S', control::Option2}},   {'V', {'S', control::Option3}},
-                                            {'+', {'b', control::Option4}},   {'-', {'b', control::Option5}},
-                                            {'R', {'R', {}, " RESISTANCE "}}, {'I', {'I', {}, " INDUCTANCE "}},
-                                            {'C', {'C', {}, " CAPACITANCE "}}};
-    const Kind& kind = kinds.at(component.front());
-    const std::string value = component.substr(1);
-    if (kind.option.empty()) {
-        dialogs.expectInput(kind.title, value);
-        type(kind.key);
-    } else {
-        type(kind.key);
-        choose(kind.option);
-        confirm(value);
+    static const std::map<char, const char*> boxes{
+        {'R', " RESISTANCE "}, {'I', " INDUCTANCE "}, {'C', " CAPACITANCE "}};
+    static const std::map<char, Name> sources{
+        {'A', control::Option2}, {'V', control::Option3}, {'+', control::Option4}, {'-', control::Option5}};
+    const char kind = component.front();
+    if (const auto box = boxes.find(kind); box != boxes.end()) {
+        dialogs.expectInput(box->second, component.substr(1));
+        return type(kind);
     }
+    type(kind == 'A' || kind == 'V' ? 'S' : 'b');
+    choose(sources.at(kind));
+    confirm(component.substr(1));
 }
 
 std::string Bench::drawn()
