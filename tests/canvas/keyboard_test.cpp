@@ -76,7 +76,7 @@ TEST(JumperQuestion, ComesOnlyWithTheSwitchOnAndTheWiresOwnColourAheadAndYesHops
     }
 }
 
-// Its arcs, and the ground symbol, are checked by the symbol sheet.
+// Its arcs are checked by the symbol sheet.
 TEST(Jumper, HopsAlongTheHeadingInTheColourInHand)
 {
     for (const auto& [heading, x, y] : waysPast(200, 220)) {
@@ -89,6 +89,16 @@ TEST(Jumper, HopsAlongTheHeadingInTheColourInHand)
         EXPECT_EQ(bench.marker(), "1600 1200");
         EXPECT_EQ(bench.surface.foreColor, red);
     }
+}
+
+// The symbol sheet does not show a bar that is less than a pixel off.
+TEST(Ground, HangsFourBarsFromThePenWhateverTheHeading)
+{
+    Bench bench;
+    bench.form.heading = heading::up;
+    bench.click("ground");
+    EXPECT_EQ(bench.outcome(), "line 1400 1500 1800 1500\nline 1475 1555 1725 1555\nline 1525 1600 1675 1600\n"
+                               "line 1575 1650 1625 1650\npen 1600 1500, marker 1600 1200");
 }
 
 TEST(AutomaticJumpers, KeyAndMenuItemFlipTheSwitchButOnlyTheItemItsMark)
