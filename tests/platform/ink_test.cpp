@@ -13,10 +13,14 @@ namespace {
 struct Paper {
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height);
+    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(index(0, height));
 
     [[nodiscard]] ink::Image image() { return {pixels.data(), width, height, width}; }
-    [[nodiscard]] int at(int x, int y) const { return static_cast<int>(*(pixels.begin() + x + y * width)); }
+    [[nodiscard]] std::size_t index(int x, int y) const
+    {
+        return static_cast<std::size_t>(x + y * std::ptrdiff_t{width});
+    }
+    [[nodiscard]] int at(int x, int y) const { return static_cast<int>(pixels[index(x, y)]); }
     [[nodiscard]] std::string text() const
     {
         std::string out;
@@ -54,14 +58,14 @@ TEST(Ink, CirclesSmallerThanThePenHaveNoHole)
 
 TEST(Ink, DotsTenTwipsApartMergeIntoASolidWireOfEvenWidth)
 {
+    std::string wire;
+    for (const char pixel : {'.', '.', '#', '#', '#', '.', '.'}) {
+        wire.append(20, pixel).push_back('\n');
+    }
     for (const double start : {3.0, 3.3, 3.67}) {
         Paper paper{20, 7};
         for (int i = -10; i < 45; ++i) {
             ink::circle(paper.image(), thin, {start + i * 2.0 / 3, start}, 2.0 / 3);
-        }
-        std::string wire;
-        for (int y = 0; y < 7; ++y) {
-            wire.append(20, y >= 2 && y <= 4 ? '#' : '.').append("\n");
         }
         EXPECT_EQ(paper.text(), wire) << start;
     }
