@@ -3,9 +3,9 @@
 #include "tests/gui/desk.h"
 
 #include <QDBusArgument>
+#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <stdexcept>
 
 namespace {
 
@@ -20,22 +20,16 @@ AccessibilityBus::AccessibilityBus()
     m_sessionBus.start("dbus-daemon", {"--session", "--nofork", "--print-address", "--address=" + session});
     waitForLine(m_sessionBus);
     qputenv("DBUS_SESSION_BUS_ADDRESS", session.toUtf8());
-    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_RUNTIME_DIR", m_folder.path()); // for the socket of the other bus
     environment.insert("GSETTINGS_BACKEND", "memory");
     m_launcher.setProcessEnvironment(environment);
     m_launcher.start("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately"});
-    const QDBusConnection sessionBus = QDBusConnection::connectToBus(session, "session");
-    QString address;
+    const QDBusConnection bus = QDBusConnection::connectToBus(session, "session");
+    const auto question = QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress");
     waitUntil("the accessibility bus", [&] {
-        address =
-            sessionBus
-                .call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"))
-                .arguments()
-                .value(0)
-                .toString();
+        const QString address = bus.call(question).arguments().value(0).toString();
         return QDBusConnection::connectToBus(address, connectionName).isConnected();
     });
     QDBusConnection::disconnectFromBus("session");
@@ -50,42 +44,48 @@ AccessibilityBus::~AccessibilityBus()
     for (QProcess* const process : {&m_registry, &m_launcher, &m_sessionBus}) {
         end(*process);
     }
-    qunsetenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON");
-    Desk::denySessionBus();
 }
 
 std::vector<Accessible> AccessibilityBus::everything() const
 {
-    const Accessible desktop{"org.a11y.atspi.Registry", QDBusObjectPath("/org/a11y/atspi/accessible/root")};
+    const QDBusObjectPath desktop("/org/a11y/atspi/accessible/root");
     std::vector<Accessible> found;
-    for (const Accessible& program : childrenOf(desktop)) {
-        for (const Accessible& window : childrenOf(program)) {
-            addAllOf(window, found);
-        }
+    std::vector<Accessible> open;
+    for (const Accessible& program : childrenOf({"org.a11y.atspi.Registry", desktop})) {
+        const std::vector<Accessible> windows = childrenOf(program);
+        open.insert(open.end(), windows.begin(), windows.end());
     }
-    return found;
-}
-
-/// From the outside in, what comes first on the screen first.
-void AccessibilityBus::addAllOf(const Accessible& window, std::vector<Accessible>& found) const
-{
-    const QString title = property(window, "Name");
-    std::vector<Accessible> open{window};
     while (!open.empty()) {
         Accessible next = open.back();
         open.pop_back();
         next.role = ask(next, itself, "GetRoleName").toString();
-        next.name = property(next, "Name");
-        next.window = title;
+        next.name = property(next, itself, "Name").toString();
+        next.state = qdbus_cast<QList<uint>>(ask(next, itself, "GetState")).value(0);
+        if (next.window.isEmpty()) {
+            next.window = next.name;
+            next.inFront = next.active();
+        }
         found.push_back(next);
         const std::vector<Accessible> children = childrenOf(next);
         open.insert(open.end(), children.rbegin(), children.rend());
     }
+    return found;
 }
 
 QString AccessibilityBus::description(const Accessible& accessible) const
 {
-    return property(accessible, "Description");
+    return property(accessible, itself, "Description").toString();
+}
+
+double AccessibilityBus::value(const Accessible& accessible) const
+{
+    return property(accessible, "org.a11y.atspi.Value", "CurrentValue").toDouble();
+}
+
+QRect AccessibilityBus::place(const Accessible& accessible) const
+{
+    constexpr uint onScreen = 0;
+    return qdbus_cast<QRect>(ask(accessible, "org.a11y.atspi.Component", "GetExtents", {onScreen}));
 }
 
 /// The first value of the answer; none if what was asked is gone.
@@ -98,24 +98,21 @@ QVariant AccessibilityBus::ask(const Accessible& accessible, const QString& inte
     return QDBusConnection(connectionName).call(question).arguments().value(0);
 }
 
-QString AccessibilityBus::property(const Accessible& accessible, const QString& name) const
+QVariant AccessibilityBus::property(const Accessible& accessible, const QString& interface, const QString& name) const
 {
-    return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {itself, name})
-        .value<QDBusVariant>()
-        .variant()
-        .toString();
+    return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {interface, name}).value<QDBusVariant>().variant();
 }
 
 std::vector<Accessible> AccessibilityBus::childrenOf(const Accessible& parent) const
 {
+    using Reference = std::pair<QString, QDBusObjectPath>;
     std::vector<Accessible> children;
-    const auto list = ask(parent, itself, "GetChildren").value<QDBusArgument>();
-    for (list.beginArray(); !list.atEnd();) {
-        Accessible child;
-        list.beginStructure();
-        list >> child.service >> child.path;
-        list.endStructure();
-        children.push_back(child);
+    for (const auto& [service, path] : qdbus_cast<QList<Reference>>(ask(parent, itself, "GetChildren"))) {
+        children.push_back({.service = service,
+                            .path = path,
+                            .window = parent.window,
+                            .parent = parent.name,
+                            .inFront = parent.inFront});
     }
     return children;
 }

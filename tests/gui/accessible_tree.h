@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QProcess>
+#include <QRect>
 #include <QString>
 #include <QTemporaryDir>
 #include <QVariant>
@@ -12,9 +12,16 @@
 struct Accessible {
     QString service;
     QDBusObjectPath path;
+    QString window{}; ///< the name of the window that it is in
+    QString parent{}; ///< the name of what it lies in
     QString role{};
     QString name{};
-    QString window{}; ///< the name of the window that it is in
+    uint state = 0;
+    bool inFront = false; ///< its window has the keyboard
+
+    [[nodiscard]] bool active() const { return (state >> 1U & 1U) != 0; }
+    [[nodiscard]] bool checked() const { return (state >> 4U & 1U) != 0; }
+    [[nodiscard]] bool showing() const { return (state >> 25U & 1U) != 0; }
 };
 
 /// A screen reader's view of the programs that are started while it lives: a bus of their own, on which they tell what
@@ -26,17 +33,20 @@ public:
     AccessibilityBus(const AccessibilityBus&) = delete;
     AccessibilityBus& operator=(const AccessibilityBus&) = delete;
 
-    /// All windows that are open, with everything that is in them and in their menus, shown or not.
+    /// All windows that are open, with everything that is in them and in their menus, shown or not; from the outside
+    /// in, what comes first on the screen first.
     [[nodiscard]] std::vector<Accessible> everything() const;
 
     [[nodiscard]] QString description(const Accessible& accessible) const;
+    [[nodiscard]] double value(const Accessible& accessible) const;
+    /// On the screen.
+    [[nodiscard]] QRect place(const Accessible& accessible) const;
 
 private:
     [[nodiscard]] QVariant ask(const Accessible& accessible, const QString& interface, const QString& method,
                                const QVariantList& words = {}) const;
-    [[nodiscard]] QString property(const Accessible& accessible, const QString& name) const;
+    [[nodiscard]] QVariant property(const Accessible& accessible, const QString& interface, const QString& name) const;
     [[nodiscard]] std::vector<Accessible> childrenOf(const Accessible& parent) const;
-    void addAllOf(const Accessible& window, std::vector<Accessible>& found) const;
 
     QTemporaryDir m_folder;
     QProcess m_sessionBus;

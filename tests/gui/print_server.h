@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/gui/desk.h"
+
 #include <QImage>
-#include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -15,7 +16,7 @@ public:
     static constexpr auto queue = "Desk_Printer";
 
     PrintServer();
-    ~PrintServer();
+    ~PrintServer() { end(); }
     PrintServer(const PrintServer&) = delete;
     PrintServer& operator=(const PrintServer&) = delete;
 
@@ -28,7 +29,7 @@ public:
     /// From then on there is no printer at all.
     void removeQueue() { run("lpadmin", {"-x", queue}); }
     /// From then on nobody answers.
-    void end();
+    void end() { ::end(m_server); }
 
     /// How many jobs wait to be printed.
     [[nodiscard]] int waitingJobs() const;

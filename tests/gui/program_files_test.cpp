@@ -1,16 +1,14 @@
-#include "tests/gui/steps.h"
+#include "tests/gui/program.h"
 #include "tests/support/limits.h"
 #include "tests/support/sample_files.h"
 
 #include <QDir>
+#include <QPainter>
 #include <gtest/gtest.h>
-#include <optional>
 
 // Drawings on the disk.
 
 namespace {
-
-constexpr auto caption = " - Schemlet 2.0 "; // then the file's name
 
 /// A folder with the program at work in it, without the toolbox on the canvas.
 class Drawing {
@@ -18,7 +16,7 @@ public:
     explicit Drawing(const QStringList& launcher = {}) : program(Program::Stage::drawing, m_folder.path(), launcher)
     {
         program.keys({"ctrl+t"});
-        waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
+        waitUntil("no toolbox", [&] { return !program.shows("panel", "ToolBox"); });
     }
 
     [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
@@ -27,14 +25,23 @@ public:
         return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
-    void waitForTitle(const QString& name) { program.waitForWindow(caption + name); }
+    void waitForTitle(const QString& name) const { program.waitForWindow(" - Schemlet 2.0 " + name); }
+
+    void layWire()
+    {
+        program.keys({"Right", "Right", "Right"});
+        waitForWire(true);
+    }
+    void waitForWire(bool there) const
+    {
+        waitUntil(there ? "wire" : "no wire", [&] { return program.inked(115, 100) == there; });
+    }
 
     /// Answers the question that a short-cut brings.
     void answer(const char* key, const char* reply)
     {
         program.keys({key});
-        program.waitForWindow("Schemlet 2.0");
-        waitForWords(saveQuestion);
+        program.waitForText(saveQuestion);
         program.keys({reply});
     }
 
@@ -42,17 +49,20 @@ public:
     void choose(const char* dialog, const QString& name)
     {
         program.waitForWindow(dialog);
-        if (name.isEmpty()) {
-            return program.keys({"Escape"});
-        }
         program.type(name);
-        program.keys({"Return"});
+        program.keys({name.isEmpty() ? "Escape" : "Return"});
     }
 
     void save(const QString& name)
     {
         program.keys({"ctrl+s"});
         choose("Save", name);
+    }
+    void saveOver(const QString& name)
+    {
+        save(name);
+        program.waitForText("*Do you want to replace it?");
+        program.keys({"alt+y"});
     }
 
     void open(const QString& name)
@@ -83,47 +93,30 @@ TEST(Program, NewOpenAndExitDoAsTheQuestionIsAnswered)
 {
     Drawing drawing;
     Program& program = drawing.program;
-    const auto waitForWire = [&](bool there) {
-        waitUntil(there ? "wire" : "no wire", [&] { return program.inked(109, 100) == there; });
-    };
-    program.keys({"Right", "Right", "Right"});
+    drawing.layWire();
     drawing.answer("ctrl+n", "Escape");
-    waitForWords("← Left"); // what the answer happens to mean
-    waitForWire(true);
+    program.waitForText("← Left"); // what the answer happens to mean
+    drawing.waitForWire(true);
     drawing.answer("ctrl+n", "n");
     drawing.waitForTitle(" New File ");
-    waitForWire(false);
+    drawing.waitForWire(false);
 
-    // No heading is left, so a gate draws nothing until an arrow key.
-    const auto gate = [&] {
-        program.keys({"alt+l", "g", "Return"});
-        program.waitForWindow("This draws an AND GATE");
-        program.keys({"Return"});
-        program.waitForMainWindow();
-    };
-    gate();
-    program.keys({"Right", "Right", "Right"});
-    waitForWire(true);
-    EXPECT_FALSE(program.inked(106, 112));
-    gate();
-    waitUntil("a gate", [&] { return program.inked(116, 112); });
-
+    drawing.layWire();
     drawing.answer("ctrl+n", "y");
     drawing.choose("Save", "first");
     drawing.waitForTitle(" New File ");
-    waitForWire(false);
+    drawing.waitForWire(false);
     EXPECT_EQ(drawing.listing(), QStringList("first.JPEG"));
 
-    program.keys({"Right", "Right", "Right"});
+    drawing.layWire();
     drawing.save("");
-    program.waitForWindow("Schemlet 2.0");
-    waitForWords("Unkown error while saving file");
+    program.waitForText("Unkown error while saving file");
     program.keys({"Return"});
     drawing.waitForTitle(" New File ");
     program.keys({"ctrl+n"}); // without a question: it counts as saved
-    waitForWire(false);
+    drawing.waitForWire(false);
 
-    program.keys({"Right", "Right", "Right"});
+    drawing.layWire();
     drawing.answer("ctrl+o", "Escape");
     drawing.waitForTitle(" New File ");
     drawing.answer("ctrl+o", "y");
@@ -132,7 +125,7 @@ TEST(Program, NewOpenAndExitDoAsTheQuestionIsAnswered)
     drawing.waitForTitle("");
     drawing.open("");
     drawing.waitForTitle(" New File ");
-    waitForWire(true);
+    drawing.waitForWire(true);
 
     drawing.answer("ctrl+x", "Escape");
     drawing.waitForTitle(" New File ");
@@ -166,18 +159,12 @@ TEST(Program, SavesReopensAndSavesAgainPixelForPixel)
     program.drag(320, 320, 340, 340);
     waitUntil("a box in the box", [&] { return program.inked(330, 339); });
     store(drawing.path("second.png"), "to be replaced");
-    drawing.save("second.png");
-    waitForWords("Do you want to replace it?");
-    program.keys({"alt+y"});
+    drawing.saveOver("second.png");
     drawing.waitForTitle("second.png");
     const QImage second(drawing.path("second.png"));
     drawing.waitForCanvas(second);
     QImage expected = first;
-    for (int x = 318; x <= 342; ++x) {
-        for (int y = 318; y <= 342; ++y) {
-            expected.setPixel(x, y, second.pixel(x, y));
-        }
-    }
+    QPainter(&expected).drawImage(318, 318, second, 318, 318, 25, 25);
     EXPECT_TRUE(second == expected);
     EXPECT_TRUE(second != first);
 
@@ -204,11 +191,9 @@ TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
         {"b.bmp", bmp.left(bmp.size() / 2), "is cut short."},
         {"c.jpg", jpeg.left(jpeg.size() / 2), "is cut short."},
         {"d.png", "some text\n", "is no picture that Schemlet can read."},
-        {"e.jpg", "", "is no picture that Schemlet can read."},
-        {"g.bmp", claiming(bmp, 18, "FFFF0000FFFF0000"), "is too large: 65535 x 65535 pixels"},
-        {"h.png", claiming(png, 16, "0000EA600000EA60"), "is too large: 60000 x 60000 pixels"},
+        {"e.bmp", claiming(bmp, 18, "FFFF0000FFFF0000"), "is too large: 65535 x 65535 pixels, at most 32 megapixels."},
     };
-    program.keys({"Right", "Right", "Right"});
+    drawing.layWire();
     drawing.save("kept");
     drawing.waitForTitle("kept.JPEG");
     const QImage kept(drawing.path("kept.JPEG"));
@@ -216,8 +201,7 @@ TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
         SCOPED_TRACE(name.toStdString());
         store(drawing.path(name), bytes);
         drawing.open(name);
-        program.waitForWindow("Schemlet 2.0");
-        waitForWords("The file " + name + " " + cause);
+        program.waitForText("Invalid picture The file " + name + " " + cause);
         program.keys({"Return"});
         drawing.waitForTitle("kept.JPEG"); // no second message
         drawing.waitForCanvas(kept);
@@ -226,7 +210,7 @@ TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
     ASSERT_TRUE(QDir().mkdir(drawing.path("folder")));
     drawing.open("folder");
     drawing.choose("Open", "none.png"); // the dialog is still there, in that folder
-    waitForWords("File not found.");
+    program.waitForText("*File not found.*");
     program.keys({"Return", "Escape"});
     drawing.waitForTitle(" New File ");
     drawing.waitForCanvas(kept);
@@ -246,21 +230,17 @@ TEST(Program, ASaveThatFailsLeavesTheOldFileAndTheDrawing)
         }
         Drawing drawing(full || !root ? QStringList() : obeysModes);
         disk.reset();
-        Program& program = drawing.program;
         store(drawing.path("old.JPEG"), "precious");
         if (!full) {
             QFile::setPermissions(drawing.path(""), QFile::ReadOwner | QFile::ExeOwner);
         }
-        program.keys({"Right", "Right", "Right"});
-        waitUntil("wire", [&] { return program.inked(109, 100); });
-        const QImage before = program.canvas().copy(0, 97, 200, 200);
-        drawing.save("old.JPEG");
-        waitForWords("Do you want to replace it?");
-        program.keys({"alt+y"});
+        drawing.layWire();
+        const QImage before = drawing.program.canvas().copy(0, 97, 114, 200);
+        drawing.saveOver("old.JPEG");
         drawing.waitForTitle(" New File "); // without a message
-        program.keys({"Down"});
-        waitUntil("wire downwards", [&] { return program.inked(116, 103); });
-        EXPECT_TRUE(program.canvas().copy(0, 97, 114, 200) == before.copy(0, 0, 114, 200));
+        drawing.program.keys({"Down"});
+        waitUntil("wire downwards", [&] { return drawing.program.inked(116, 103); });
+        EXPECT_TRUE(drawing.program.canvas().copy(before.rect().translated(0, 97)) == before);
         EXPECT_EQ(contents(drawing.path("old.JPEG")), "precious");
         EXPECT_EQ(drawing.listing(), QStringList("old.JPEG"));
         QFile::setPermissions(drawing.path(""), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

@@ -1,124 +1,103 @@
-#include "tests/gui/steps.h"
+#include "tests/gui/program.h"
 
 #include <gtest/gtest.h>
+#include <span>
 
 // The toolbar and the toolbox.
+
+namespace {
+
+struct Tool {
+    const char* name;
+    const char* hint;
+    Outcome outcome;
+};
+
+void tryTools(Program& program, std::span<const Tool> tools)
+{
+    for (const auto& [name, hint, outcome] : tools) {
+        SCOPED_TRACE(hint);
+        program.keys({"Right"}); // New and Open do something only then
+        program.hoverOver("push button", name);
+        program.waitForText(hint);
+        program.xdotool({"click", "1"});
+        program.expect(outcome);
+    }
+}
+
+} // namespace
 
 TEST(Program, ToolbarAndToolboxHintAndWork)
 {
     Program program;
-    const auto hover = [&](int x, int y, const char* hint) {
-        program.moveMouse(x, y);
-        program.xdotool({"mousemove_relative", "1", "0"});
-        waitForWords(hint);
-    };
-    const auto click = [&] { program.xdotool({"click", "1"}); };
-
-    struct Tool {
-        const char* hint = nullptr;
-        Outcome outcome;
-    };
     const Tool toolbox[] = {
-        {"Click to draw AND Gate", {"This draws an AND GATE"}},
-        {"Click to draw OR Gate", {"This draws an OR GATE"}},
-        {"Click to draw NOT Gate", {"This draws a NOT GATE"}},
-        {"Click to draw NOR Gate", {"This draws a NOR GATE"}},
-        {"Click to draw NAND Gate", {"This draws a NAND GATE"}},
-        {"Click to draw RESISTANCE", {"RESISTANCE"}},
-        {"Click to draw INDUCTANCE", {"INDUCTANCE"}},
-        {"Click to draw CAPACITANCE", {"CAPACITANCE"}},
-        {"Click to draw SUPPLY", {nullptr, "Type of Supply is"}},
-        {"Click to draw BATTERY", {nullptr, "Type of Battery is"}},
-        {"Click to get ERASER", {nullptr, "Erase mode"}},
-        {"Click to Close the ToolBox", {}},
+        {"AND Gate", "Click to draw AND Gate", {"This draws an AND GATE"}},
+        {"OR Gate", "Click to draw OR Gate", {"This draws an OR GATE"}},
+        {"NOT Gate", "Click to draw NOT Gate", {"This draws a NOT GATE"}},
+        {"NOR Gate", "Click to draw NOR Gate", {"This draws a NOR GATE"}},
+        {"NAND Gate", "Click to draw NAND Gate", {"This draws a NAND GATE"}},
+        {"Resistance", "Click to draw RESISTANCE", {"RESISTANCE"}},
+        {"Inductance", "Click to draw INDUCTANCE", {"INDUCTANCE"}},
+        {"Capacitance", "Click to draw CAPACITANCE", {"CAPACITANCE"}},
+        {"Supply", "Click to draw SUPPLY", {nullptr, "Type of Supply is"}},
+        {"Battery", "Click to draw BATTERY", {nullptr, "Type of Battery is"}},
+        {"Eraser", "Click to get ERASER", {nullptr, "Erase mode"}},
+        {"Close the ToolBox", "Click to Close the ToolBox", {}},
     };
-    int place = 0;
-    for (const auto& [hint, outcome] : toolbox) {
-        SCOPED_TRACE(hint);
-        const QPoint label = program.onCanvas(findWords("Click once and drag").center());
-        hover(label.x() + (place % 2 == 0 ? -40 : 40), label.y() + 35 + 51 * (place / 2), hint);
-        click();
-        expect(program, outcome);
-        ++place;
-    }
-    waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
-
+    tryTools(program, toolbox);
+    waitUntil("no toolbox", [&] { return !program.shows("panel", "ToolBox"); });
     const Tool toolbar[] = {
-        {"Click to start a new drawing", {"Schemlet 2.0", saveQuestion}},
-        {"Click to open a picture as the drawing's background", {"Schemlet 2.0", saveQuestion}},
-        {"Click to save the drawing as a picture", {"Save"}},
-        {"Click to print the drawing", {"Schemlet 2.0", printQuestion}},
-        {},
-        {"Click to see how to use the program", {"Help"}},
-        {"Click to see the totals and what follows from them", {"Output"}},
-        {"Click to show or hide the toolbox", {}},
-        {},
-        {"Click to draw lines with the mouse", {nullptr, "Line"}},
-        {"Click to draw free-hand with the mouse", {nullptr, "Pencil"}},
-        {"Click to choose the colour of wires", {"Select Color"}},
-        {"Click to choose the colour of the canvas, which wipes it", {"Select Color"}},
-        {"Click to switch erase mode on or off", {nullptr, "Normal mode"}},
-        {"Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
+        {"New", "Click to start a new drawing", {"Schemlet 2.0", saveQuestion}},
+        {"Open", "Click to open a picture as the drawing's background", {"Schemlet 2.0", saveQuestion}},
+        {"Save", "Click to save the drawing as a picture", {"Save"}},
+        {"Print", "Click to print the drawing", {"Schemlet 2.0", printQuestion}},
+        {"Help", "Click to see how to use the program", {"Help"}},
+        {"Output", "Click to see the totals and what follows from them", {"Output"}},
+        {"Eraser", "Click to switch erase mode on or off", {nullptr, "Normal mode"}},
+        {"ToolBox", "Click to show or hide the toolbox", {nullptr, "Click once and drag"}},
+        {"Line", "Click to draw lines with the mouse", {nullptr, "Line"}},
+        {"Pencil", "Click to draw free-hand with the mouse", {nullptr, "Pencil"}},
+        {"Fore", "Click to choose the colour of wires", {"Select Color"}},
+        {"Back", "Click to choose the colour of the canvas, which wipes it", {"Select Color"}},
+        {"Box", "Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
     };
-    int x = 20;
-    for (const auto& [hint, outcome] : toolbar) {
-        if (hint == nullptr) {
-            x += 7; // a separator
-            continue;
-        }
-        SCOPED_TRACE(hint);
-        program.keys({"Right"}); // New and Open do something only then
-        hover(x, -20, hint);
-        click();
-        expect(program, outcome);
-        x += 33;
-    }
-    waitForWords("Click once and drag"); // shown again
+    tryTools(program, toolbar);
 }
 
 TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
 {
     Program program;
-    const auto label = [&] {
-        waitForWords("Click once and drag");
-        return program.onCanvas(findWords("Click once and drag").center());
-    };
-    const auto clickAt = [&](QPoint place) { program.click(1, place.x(), place.y()); };
-    const QPoint start = label();
-    const auto followsTo = [&](int x, int y) {
-        const QPoint before = label();
-        program.moveMouse(x, y);
-        waitUntil("the toolbox", [&] { return label() != before; });
-        return label() - QPoint(x, y);
-    };
+    const auto corner = [&] { return program.onCanvas(program.placeOf("panel", "ToolBox")).topLeft(); };
+    const auto waitForCorner = [&](QPoint place) { waitUntil("the toolbox", [&] { return corner() == place; }); };
 
     // A drag over it draws nothing and moves no pen.
+    const QPoint start = corner();
     program.keys({"ctrl+l", "Right"});
-    waitForWords("1650, 1500");
+    program.waitForText("1650, 1500");
     const QRect rest(0, 130, program.canvas().width(), program.canvas().height() - 130);
     const QImage before = program.canvas().copy(rest);
-    program.drag(start.x() - 30, start.y() + 130, start.x() + 45, start.y());
+    program.drag(start.x() + 50, start.y() + 130, start.x() + 130, start.y() + 10);
     program.keys({"Right"});
-    waitForWords("1700, 1500");
+    program.waitForText("1700, 1500");
     program.moveMouse(300, 250); // it does not follow yet
-    waitForWords("Press F1 for Help");
+    program.waitForText("Press F1 for Help");
     EXPECT_TRUE(program.canvas().copy(rest) == before);
 
-    clickAt(label());
-    const QPoint corner = followsTo(300, 300);
-    EXPECT_EQ(followsTo(200, 200), corner); // its corner is at the mouse
-    program.moveMouse(202, 202);            // which is over it now, and stops it
+    program.clickOn("label", "Click once and drag");
+    program.moveMouse(300, 300);
+    waitForCorner({300, 300});
+    program.moveMouse(200, 200);
+    waitForCorner({200, 200});
+    program.moveMouse(202, 202); // which is over it now, and stops it
     program.moveMouse(100, 500);
-    waitForWords("Press F1 for Help");
-    EXPECT_EQ(label(), corner + QPoint(200, 200));
+    program.waitForText("Press F1 for Help");
+    EXPECT_EQ(corner(), QPoint(200, 200));
 
-    const QImage marked = lookOf(program, "View", "ToolBox");
-    const QPoint closing = label() + QPoint(40, 35 + 5 * 51);
-    clickAt(closing);
-    waitUntil("no toolbox", [] { return !seeWords("Click once and drag"); });
-    const QImage unmarked = lookOf(program, "View", "ToolBox");
-    EXPECT_TRUE(unmarked != marked);
+    program.waitForMark("View", "ToolBox", true);
+    program.clickOn("push button", "Close the ToolBox");
+    waitUntil("no toolbox", [&] { return !program.shows("panel", "ToolBox"); });
+    program.waitForMark("View", "ToolBox", false);
     program.keys({"ctrl+t"});
-    EXPECT_EQ(label(), corner + QPoint(200, 200));
-    EXPECT_TRUE(lookOf(program, "View", "ToolBox") == marked);
+    waitForCorner({200, 200});
+    program.waitForMark("View", "ToolBox", true);
 }

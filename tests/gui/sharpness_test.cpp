@@ -4,6 +4,8 @@
 #include "platform/qt/canvas_widget.h"
 #include "platform/quiet.h"
 #include "shell/events.h"
+#include "tests/gui/pixels.h"
+#include "tests/support/sample_files.h"
 
 #include <QBackingStore>
 #include <QTest>
@@ -87,56 +89,28 @@ int strays(const CanvasSurface& surface)
     const QImage& screen = surface.screenImage();
     const double ratio = surface.ratio();
     int count = 0;
-    for (int y = 0; y < int(picture.height() * ratio); ++y) {
-        for (int x = 0; x < int(picture.width() * ratio); ++x) {
-            const QPoint on(int((x + 0.5) / ratio), int((y + 0.5) / ratio));
-            count += occurs(picture, screen.pixel(x, y), QRect(on, QSize(1, 1)).adjusted(-1, -1, 1, 1)) ? 0 : 1;
-        }
-    }
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QRectF around((x - 1) * ratio, (y - 1) * ratio, 3 * ratio, 3 * ratio);
-            count += occurs(screen, picture.pixel(x, y), around) ? 0 : 1;
-        }
-    }
-    return count;
-}
-
-int inked(const QImage& image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            count += image.pixel(x, y) == qRgb(255, 255, 255) ? 0 : 1;
-        }
-    }
+    visit(screen.copy(QRect(QPoint(), picture.size() * ratio)), [&](int x, int y) {
+        const QPoint on(int((x + 0.5) / ratio), int((y + 0.5) / ratio));
+        count += occurs(picture, screen.pixel(x, y), QRect(on, QSize(1, 1)).adjusted(-1, -1, 1, 1)) ? 0 : 1;
+    });
+    visit(picture, [&](int x, int y) {
+        const QRectF around((x - 1) * ratio, (y - 1) * ratio, 3 * ratio, 3 * ratio);
+        count += occurs(screen, picture.pixel(x, y), around) ? 0 : 1;
+    });
     return count;
 }
 
 /// What the screen image would be if it were the picture's pixels, only larger.
 QImage blocks(const CanvasSurface& surface)
 {
+    const QImage& picture = surface.picture();
     QImage image = surface.screenImage().copy();
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            image.setPixel(
-                x, y,
-                surface.picture().pixel(qMin(int((x + 0.5) / surface.ratio()), surface.picture().width() - 1),
-                                        qMin(int((y + 0.5) / surface.ratio()), surface.picture().height() - 1)));
-        }
-    }
+    visit(image, [&](int x, int y) {
+        image.setPixel(x, y,
+                       picture.pixel(qMin(int((x + 0.5) / surface.ratio()), picture.width() - 1),
+                                     qMin(int((y + 0.5) / surface.ratio()), picture.height() - 1)));
+    });
     return image;
-}
-
-int differing(const QImage& a, const QImage& b)
-{
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += a.pixel(x, y) == b.pixel(x, y) ? 0 : 1;
-        }
-    }
-    return count;
 }
 
 } // namespace
@@ -147,7 +121,7 @@ TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
     plain.drawEverything();
     plain.erase({1500, 1200, 1000, 500}, 80);
     EXPECT_EQ(&plain.surface.screenImage(), &plain.surface.picture()); // one image and no more
-    EXPECT_GT(inked(plain.surface.picture()), 2000);
+    EXPECT_GT(inkedPixels(plain.surface.picture()), 2000);
     for (const double ratio : ratios) {
         SCOPED_TRACE(ratio);
         Canvas canvas(ratio);
@@ -163,16 +137,6 @@ TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
 
 TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
 {
-    const auto inkedPart = [](const QtSurface& surface) {
-        const QImage& image = surface.image();
-        QRect part;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                part |= image.pixel(x, y) == qRgb(255, 255, 255) ? QRect() : QRect(x, y, 1, 1);
-            }
-        }
-        return part;
-    };
     constexpr void (*strokes[])(QtSurface&, float) = {
         [](QtSurface& surface, float at) { surface.line(at, at, at + 200, at + 550); },
         [](QtSurface& surface, float at) { surface.box(at, at, at + 500, at + 411); },
@@ -189,9 +153,9 @@ TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
                 fine.growTo({80, 80});
                 stroke(plain, at);
                 stroke(fine, at);
-                const QRectF wanted(QPointF(inkedPart(plain).topLeft()) * ratio,
-                                    QSizeF(inkedPart(plain).size()) * ratio);
-                const QRectF found = inkedPart(fine);
+                const QRect part = inkedPart(plain.image());
+                const QRectF wanted(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
+                const QRectF found = inkedPart(fine.image());
                 const auto off = {found.left() - wanted.left(), found.top() - wanted.top(),
                                   found.right() - wanted.right(), found.bottom() - wanted.bottom()};
                 EXPECT_LE(std::max(off), 1.01) << ratio << ' ' << at << ' ' << (&stroke - strokes);
@@ -208,8 +172,8 @@ TEST(Sharpness, WhatIsCleanInThePictureIsCleanOnTheScreen)
         Canvas erased(ratio);
         erased.drawEverything();
         erased.erase({0, 0, 4601, 3101}, 140);
-        EXPECT_EQ(inked(erased.surface.picture()), 0);
-        EXPECT_EQ(inked(erased.surface.screenImage()), 0);
+        EXPECT_EQ(inkedPixels(erased.surface.picture()), 0);
+        EXPECT_EQ(inkedPixels(erased.surface.screenImage()), 0);
 
         Canvas drawnOver(ratio);
         for (const Color color : {black, white}) {
@@ -223,8 +187,8 @@ TEST(Sharpness, WhatIsCleanInThePictureIsCleanOnTheScreen)
                 drawnOver.surface.print("WiLlIaM 12.5", true);
             }
         }
-        EXPECT_EQ(inked(drawnOver.surface.picture()), 0);
-        EXPECT_EQ(inked(drawnOver.surface.screenImage()), 0);
+        EXPECT_EQ(inkedPixels(drawnOver.surface.picture()), 0);
+        EXPECT_EQ(inkedPixels(drawnOver.surface.screenImage()), 0);
     }
 }
 
@@ -246,10 +210,7 @@ TEST(Sharpness, ScreensOfOtherRatiosShowAllInkAndAreSharpFromThenOn)
 
 TEST(Sharpness, PaperPicturesAndLargerWindowsReachBothImages)
 {
-    QImage picture(500, 70, QImage::Format_RGB32);
-    for (int i = 0; i < 500 * 70; ++i) {
-        picture.setPixel(i % 500, i / 500, qRgb(i % 251, i % 7 * 30, i % 13 * 19));
-    }
+    const QImage picture = colourful(500, 70);
     for (const double ratio : ratios) {
         SCOPED_TRACE(ratio);
         Canvas canvas(ratio);
@@ -264,7 +225,7 @@ TEST(Sharpness, PaperPicturesAndLargerWindowsReachBothImages)
         surface.growTo({600, 250});
         EXPECT_EQ(strays(surface), 0); // the picture's hidden part too
         surface.clear();
-        EXPECT_EQ(inked(surface.screenImage()), 0);
+        EXPECT_EQ(inkedPixels(surface.screenImage()), 0);
         surface.line(4000, 3000, 8800, 3500);
         surface.growTo({700, 300});
         EXPECT_EQ(strays(surface), 0);

@@ -1,159 +1,207 @@
-#include "platform/qt/qt_window.h"
+#include "platform/qt/canvas_widget.h"
 #include "shell/product_picture.h"
+#include "tests/gui/pixels.h"
+#include "tests/gui/shown.h"
 #include "tests/support/stand_ins.h"
+#include "ui_Form1.h"
 #include "ui_Form2.h"
 #include "ui_Form3.h"
 #include "ui_Form4.h"
 #include "ui_Form6.h"
 
-#include <QCloseEvent>
-#include <QTest>
+#include <QApplication>
+#include <QMetaProperty>
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
-// The windows beside the main one, on the toolkit.
+// Every control is there, whole, and every text can be read, whatever colours the user gives the canvas and the
+// desktop. Contrast is measured on the pixels.
 
 namespace {
 
-template <typename Form> struct Shown {
-    QDialog view;
-    Form form = [this] {
-        Form made;
-        made.setupUi(&view);
-        return made;
-    }();
-    std::vector<Event> events;
-    std::unique_ptr<QtWindow> window =
-        std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
+double luminance(QRgb color)
+{
+    const auto linear = [](int value) {
+        return value <= 10 ? value / 255.0 / 12.92 : std::pow((value / 255.0 + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
 
-    Shown()
-    {
-        window->showWindow();
-        (void)QTest::qWaitForWindowExposed(&view);
-    }
+/// From 1, the same, to 21, black and white.
+double contrast(QRgb one, QRgb other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
 
-    [[nodiscard]] int count(Event::Kind kind, Name name = {}) const
-    {
-        return static_cast<int>(std::ranges::count_if(
-            events, [&](const Event& event) { return event.kind == kind && event.name == name; }));
-    }
+/// The contrast of a text's strokes to what is there without them; 0 if nothing of it is to be seen.
+double textContrast(QWidget& widget, const char* property)
+{
+    QWidget& window = *widget.window();
+    const QRect place(widget.mapTo(&window, QPoint()), widget.size());
+    const QVariant text = widget.property(property);
+    const QImage with = window.grab(place).toImage();
+    widget.setProperty(property, " ");
+    const QImage without = window.grab(place).toImage();
+    widget.setProperty(property, text);
+    double best = 0;
+    visit(with, [&](int x, int y) {
+        if (with.pixel(x, y) != without.pixel(x, y)) {
+            best = std::max(best, contrast(with.pixel(x, y), without.pixel(x, y)));
+        }
+    });
+    return best;
+}
 
-    void expectControls(std::span<const Name> names) const
-    {
-        for (const Name name : names) {
-            EXPECT_NE(view.findChild<QObject*>(QString::fromLatin1(name.data())), nullptr) << name;
+/// Returns how many texts there are.
+int expectReadable(const QWidget& window)
+{
+    int texts = 0;
+    for (auto* const widget : window.findChildren<QWidget*>()) {
+        for (const char* const property : {"text", "title"}) {
+            const auto* const type = widget->metaObject();
+            const QString text = widget->property(property).toString().trimmed();
+            // A progress bar's text is not to be written, and not to be seen.
+            if (widget->isVisible() && !text.isEmpty() &&
+                type->property(type->indexOfProperty(property)).isWritable()) {
+                ++texts;
+                EXPECT_GE(textContrast(*widget, property), 4.5) << text.toStdString();
+            }
         }
     }
+    return texts;
+}
 
-    void expectNothingCutOff() const
+void expectControls(const QWidget& window, std::span<const Name> names)
+{
+    for (const Name name : names) {
+        EXPECT_NE(window.findChild<QObject*>(QString::fromLatin1(name.data())), nullptr) << name;
+    }
+}
+
+void expectWholeAndReadable(const QWidget& window, std::span<const Name> names, int texts)
+{
+    expectControls(window, names);
+    EXPECT_EQ(expectReadable(window), texts);
+    for (const auto* const control : window.findChildren<QWidget*>()) {
+        const std::string name = control->objectName().toStdString();
+        EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
+        EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
+        EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry())) << name;
+    }
+}
+
+/// The main window with everything that is ever to be seen on the canvas.
+struct FullWindow : Shown<QMainWindow, Ui::Form1> {
+    FullWindow()
     {
-        for (const auto* const control : view.findChildren<QWidget*>()) {
-            const std::string name = control->objectName().toStdString();
-            EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
-            EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
-            EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry())) << name;
+        using namespace control;
+        for (const Name name : {panel, sup, bat, Label11, Label12, Label13, Label28, Label27, Option2, Option3, Option4,
+                                Option5, Text11, Command3, Command7, Command8}) {
+            window->setVisible(name, true);
+            window->setEnabled(name, true);
+        }
+        window->setText(Text11, "10");
+        window->setText(sb, "Press F1 for Help");
+        window->setBackColor(Frame2, 0xE0E0E0);
+        QCoreApplication::processEvents();
+    }
+
+    void colorCanvas(Color color)
+    {
+        using namespace control;
+        form.Canvas->surface().setBackColor(color);
+        for (const Name name : {Frame2, sup, bat, Option2, Option3, Option4, Option5}) {
+            window->setBackColor(name, color);
         }
     }
 };
 
+/// A desktop's colours, until this goes. Its text has no soft edges, so that each pixel of it has the text's colour.
+class Desktop {
+public:
+    Desktop(const QColor& ground, const QColor& text) : m_palette(QApplication::palette()), m_font(QApplication::font())
+    {
+        QPalette palette = m_palette;
+        for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+            palette.setColor(role, ground);
+        }
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            palette.setColor(role, text);
+        }
+        QApplication::setPalette(palette);
+        QFont font = m_font;
+        font.setStyleStrategy(QFont::NoAntialias);
+        QApplication::setFont(font);
+    }
+    ~Desktop()
+    {
+        QApplication::setPalette(m_palette);
+        QApplication::setFont(m_font);
+    }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+private:
+    QPalette m_palette;
+    QFont m_font;
+};
+
+constexpr std::pair<QRgb, QRgb> desktops[] = {
+    {0xFFEFEFEF, 0xFF000000}, {0xFF2B2B2B, 0xFFF0F0F0}, {0xFF000000, 0xFFFFFF00}, {0xFFFFFFFF, 0xFF000000}};
+
 } // namespace
 
-TEST(Windows, HaveEveryControlThatTheProgramNamesAndCutNothingOff)
+TEST(Windows, AreWholeAndReadableOnEveryDesktop)
 {
-    Shown<Ui::Form2> help;
-    help.window->setHeight(form2::open);
-    help.expectControls(helpControls);
-    help.expectNothingCutOff();
-    EXPECT_EQ(help.form.Frame2->findChildren<QLabel*>().size(), 24);
-
-    const Shown<Ui::Form3> about;
-    about.expectControls(aboutControls);
-    about.expectNothingCutOff();
-
-    const Shown<Ui::Form4> output;
-    output.expectControls(form4::captions);
-    output.expectControls(form4::values);
-    output.expectNothingCutOff();
-
-    const Shown<Ui::Form6> splash;
-    splash.expectControls(splashControls);
-    splash.expectNothingCutOff();
+    for (const auto& [ground, text] : desktops) {
+        SCOPED_TRACE(QColor(ground).name().toStdString());
+        const Desktop desktop(ground, text);
+        const FullWindow main;
+        expectControls(main.view, formControls);
+        EXPECT_EQ(expectReadable(main.view), 21);
+        const Shown<QDialog, Ui::Form2> help;
+        help.window->setHeight(form2::collapsed);
+        EXPECT_LT(help.form.hints->geometry().bottom(), help.view.height());
+        EXPECT_GE(help.form.Frame2->geometry().top(), help.view.height());
+        help.window->setHeight(form2::open);
+        expectWholeAndReadable(help.view, helpControls, 44);
+        const Shown<QDialog, Ui::Form3> about;
+        expectWholeAndReadable(about.view, aboutControls, 5);
+        const Shown<QDialog, Ui::Form4> output;
+        for (const Name value : form4::values) {
+            output.window->setText(value, "0");
+        }
+        expectWholeAndReadable(output.view, form4::captions, 20);
+        const Shown<QDialog, Ui::Form6> splash;
+        expectWholeAndReadable(splash.view, splashControls, 5);
+    }
 }
 
-TEST(Windows, HelpShowsAllHintsAndNoKeysUntilItSlidesOpen)
+TEST(Windows, AreReadableOnEveryColourOfTheCanvas)
 {
-    Shown<Ui::Form2> help;
-    help.window->setHeight(form2::collapsed);
-    EXPECT_EQ(help.view.height(), 214);
-    EXPECT_LE(help.form.hints->geometry().bottom(), 213);
-    EXPECT_GE(help.form.Frame2->geometry().top(), 214);
-    help.window->setHeight(3310); // no whole number of pixels
-    EXPECT_EQ(help.window->height(), 3310);
-    help.window->setHeight(form2::open);
-    EXPECT_EQ(help.view.height(), 337);
-}
-
-TEST(Windows, CloseWhenTheProgramSaysSoAndNotBefore)
-{
-    Shown<Ui::Form3> about;
-    about.view.close();
-    EXPECT_EQ(about.count(Event::Kind::close), 1);
-    QTest::keyClick(about.form.Command1, Qt::Key_Escape);
-    EXPECT_EQ(about.count(Event::Kind::close), 2);
-    EXPECT_EQ(about.events.back().window, form3::window);
-    EXPECT_TRUE(about.view.isVisible());
-    about.window->hideWindow();
-    EXPECT_FALSE(about.view.isVisible());
-
-    about.window->showWindow();
-    about.window->setInterval("a timer", 1);
-    about.window->unload();
-    EXPECT_FALSE(about.view.isVisible());
-    about.events.clear();
-    QTest::qWait(20);
-    EXPECT_TRUE(about.events.empty());
-}
-
-TEST(Windows, ReportClicksOfALabelThatIsAButton)
-{
-    Shown<Ui::Form2> help;
-    const auto clicks = [&] { return help.count(Event::Kind::click, form2::control::Label23); };
-    QTest::mouseClick(help.form.Label23, Qt::LeftButton);
-    EXPECT_EQ(clicks(), 1);
-    QTest::mouseClick(help.form.Label23, Qt::RightButton);
-    QTest::mousePress(help.form.Label23, Qt::LeftButton);
-    QTest::mouseRelease(help.form.Label23, Qt::LeftButton, {}, {-5, 5}); // thought better of it
-    QTest::mouseClick(help.form.Label1, Qt::LeftButton);
-    EXPECT_EQ(clicks(), 1);
-    EXPECT_EQ(help.events.size(), 1U);
-}
-
-TEST(Windows, KeepValuesOfBoxesAndBarsAndReportNoClickForThem)
-{
-    const Shown<Ui::Form2> help;
-    EXPECT_EQ(help.window->value(form2::control::Check1), 0);
-    help.window->setValue(form2::control::Check1, 1);
-    EXPECT_EQ(help.window->value(form2::control::Check1), 1);
-    EXPECT_TRUE(help.events.empty());
-
-    const Shown<Ui::Form6> splash;
-    EXPECT_EQ(splash.window->value(form6::control::ProgressBar1), 0);
-    splash.window->setValue(form6::control::ProgressBar1, 100);
-    EXPECT_EQ(splash.window->value(form6::control::ProgressBar1), 100);
+    for (const auto& [ground, text] : {desktops[0], desktops[1]}) {
+        const Desktop desktop(ground, text);
+        FullWindow main;
+        std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
+        for (Color i = 0; i < 64; ++i) {
+            colors.push_back(85 * (i % 4) | 85 * (i / 4 % 4) << 8 | 85 * (i / 16) << 16);
+        }
+        for (const Color color : colors) {
+            SCOPED_TRACE(QColor(ground).name().toStdString() + " " + std::to_string(color));
+            main.colorCanvas(color);
+            expectReadable(main.view);
+        }
+    }
 }
 
 TEST(Windows, ShowTheProductsPictureWhole)
 {
-    const Shown<Ui::Form6> splash;
+    const Shown<QDialog, Ui::Form6> splash;
     splash.window->drawPicture(form6::control::Picture1, drawProductPicture);
     const QImage picture = splash.form.Picture1->pixmap().toImage();
     EXPECT_EQ(picture.deviceIndependentSize(), splash.form.Picture1->size());
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            ink |= picture.pixelColor(x, y) == Qt::white ? QRect() : QRect(x, y, 1, 1);
-        }
-    }
-    EXPECT_GT(ink.width(), 380);
-    EXPECT_TRUE(picture.rect().adjusted(2, 2, -2, -2).contains(ink)); // nothing runs out of the picture
+    EXPECT_GT(inkedPart(picture).width(), 380);
+    EXPECT_TRUE(picture.rect().adjusted(2, 2, -2, -2).contains(inkedPart(picture)));
 }

@@ -1,0 +1,269 @@
+#include "tests/gui/program.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QRegularExpression>
+#include <QScreen>
+#include <algorithm>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <string_view>
+
+namespace {
+
+QString outputOf(const QString& program, const QStringList& words)
+{
+    QProcess process;
+    process.start(program, words);
+    EXPECT_TRUE(process.waitForFinished(patience)) << program.toStdString() << ' ' << words.join(' ').toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+QImage grab(const QRect& part)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
+}
+
+} // namespace
+
+Program::Program(Stage until, const QString& folder, const QStringList& launcher)
+{
+    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", m_home.path());
+    for (const char* const elsewhere : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
+        environment.remove(elsewhere);
+    }
+    m_process.setProcessEnvironment(environment);
+    m_process.setWorkingDirectory(folder.isEmpty() ? m_home.path() : folder);
+    const QStringList command = launcher + QStringList(SCHEMLET_PROGRAM);
+    m_process.start(command.first(), command.mid(1));
+    waitForWindow("Schemlet 2.0");
+    if (until != Stage::splash) {
+        waitForHelp();
+    }
+    if (until == Stage::drawing) {
+        EXPECT_EQ(QProcess::execute("wmctrl", {"-F", "-c", "Help"}), 0);
+        waitUntil("the help window's end", [this] { return !isOpen("Help"); });
+        xdotool({"windowmove", idOf(mainTitle), "40", "40"});
+        waitUntil("the main window in its place", [this] {
+            findCanvas();
+            return m_canvas.left() == 40;
+        });
+    }
+}
+
+void Program::waitForHelp()
+{
+    waitForMainWindow();
+    waitUntil("the help window", [this] { return isOpen("Help"); });
+    findCanvas();
+}
+
+void Program::findCanvas()
+{
+    m_canvas = placeOf("canvas", "Canvas");
+}
+
+void Program::xdotool(const QStringList& words)
+{
+    EXPECT_EQ(QProcess::execute("xdotool", words), 0) << words.join(' ').toStdString();
+}
+
+void Program::keys(std::initializer_list<const char*> keys)
+{
+    QStringList words{"key", "--delay", "10"};
+    for (const char* const key : keys) {
+        words << key;
+    }
+    xdotool(words);
+}
+
+void Program::type(const QString& text)
+{
+    xdotool({"type", "--delay", "5", text});
+}
+
+void Program::keyTimes(int times, const char* key)
+{
+    xdotool({"key", "--delay", "2", "--repeat", QString::number(times), key});
+}
+
+void Program::moveMouse(int x, int y)
+{
+    const QPoint place = m_canvas.topLeft() + QPoint(x, y);
+    xdotool({"mousemove", QString::number(place.x()), QString::number(place.y())});
+}
+
+void Program::click(int button, int x, int y)
+{
+    moveMouse(x, y);
+    xdotool({"click", QString::number(button)});
+}
+
+void Program::drag(int x1, int y1, int x2, int y2)
+{
+    moveMouse(x1, y1);
+    xdotool({"mousedown", "1"});
+    moveMouse((x1 + x2) / 2, (y1 + y2) / 2);
+    moveMouse(x2, y2);
+    xdotool({"mouseup", "1"});
+}
+
+void Program::openPopup(int x, int y)
+{
+    click(3, x, y);
+    (void)placeOf("menu item", "Fore Color");
+}
+
+void Program::resize(int width, int height)
+{
+    xdotool({"windowsize", "--sync", idOf(mainTitle), QString::number(width), QString::number(height)});
+    waitUntil("the new size", [&] {
+        findCanvas();
+        return m_canvas.width() == width;
+    });
+}
+
+void Program::activate()
+{
+    xdotool({"windowactivate", idOf(mainTitle)});
+    waitForMainWindow();
+}
+
+QImage Program::canvas() const
+{
+    return grab(m_canvas);
+}
+
+QColor Program::pixel(int x, int y) const
+{
+    return grab({m_canvas.topLeft() + QPoint(x, y), QSize(1, 1)}).pixelColor(0, 0);
+}
+
+std::optional<Accessible> Program::find(const char* role, const QString& name) const
+{
+    const auto wanted = QRegularExpression::fromWildcard(name, Qt::CaseSensitive);
+    const std::vector<Accessible> all = m_bus.everything();
+    const auto found = std::ranges::find_if(all, [&](const Accessible& each) {
+        return each.inFront && each.showing() && each.role == role && wanted.match(each.name.simplified()).hasMatch();
+    });
+    return found == all.end() ? std::nullopt : std::optional(*found);
+}
+
+QRect Program::placeOf(const char* role, const QString& name) const
+{
+    std::optional<Accessible> found;
+    waitUntil(qPrintable(role + (": " + name)), [&] {
+        found = find(role, name);
+        return found.has_value();
+    });
+    return m_bus.place(*found);
+}
+
+void Program::hoverOver(const char* role, const QString& name)
+{
+    const QPoint place = placeOf(role, name).center();
+    xdotool({"mousemove", QString::number(place.x()), QString::number(place.y()), "mousemove_relative", "1", "0"});
+}
+
+void Program::clickOn(const char* role, const QString& name)
+{
+    hoverOver(role, name);
+    xdotool({"click", "1"});
+}
+
+void Program::clickMenus(const QStringList& captions)
+{
+    for (const QString& caption : captions) {
+        clickOn("menu item", caption);
+    }
+}
+
+void Program::openMenu(int place)
+{
+    keys({"alt+f"});
+    for (; place != 0; place += place > 0 ? -1 : 1) {
+        keys({place > 0 ? "Right" : "Left"});
+    }
+}
+
+void Program::waitForMark(const char* menu, const char* item, bool checked) const
+{
+    waitUntil(item, [&] {
+        return std::ranges::any_of(m_bus.everything(), [&](const Accessible& each) {
+            return each.parent == menu && each.name == item && each.checked() == checked;
+        });
+    });
+}
+
+void Program::waitForWindow(const QString& title) const
+{
+    waitUntil(qPrintable(title), [&] {
+        return outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title.trimmed();
+    });
+}
+
+void Program::answer(const QString& title, const char* key)
+{
+    waitForWindow(title);
+    keys({key});
+    waitForMainWindow();
+}
+
+void Program::expect(const Outcome& outcome)
+{
+    if (outcome.window != nullptr) {
+        waitForWindow(outcome.window);
+    }
+    if (outcome.text != nullptr) {
+        waitForText(outcome.text);
+    }
+    if (outcome.window == nullptr) {
+        return;
+    }
+    keys({"Escape"});
+    if (std::string_view(outcome.window) == "Save") {
+        waitForText("Unkown error while saving file");
+        keys({"Escape"});
+    }
+    waitForMainWindow();
+}
+
+QString Program::idOf(const QString& title) const
+{
+    return outputOf("xdotool", {"search", "--onlyvisible", "--name", "^" + title + "$"});
+}
+
+QImage Program::window(const QString& title) const
+{
+    const QString place =
+        outputOf("xwininfo", {"-id", title.isEmpty() ? outputOf("xdotool", {"getactivewindow"}) : idOf(title)});
+    const auto number = [&](const char* label) {
+        return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
+    };
+    return grab(
+        {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"), number("Height:")});
+}
+
+void Program::closeActiveWindow()
+{
+    EXPECT_EQ(QProcess::execute("wmctrl", {"-c", ":ACTIVE:"}), 0);
+}
+
+QStringList Program::filesAtHome() const
+{
+    return QDir(m_home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+void Program::signal(int number)
+{
+    EXPECT_EQ(kill(static_cast<pid_t>(m_process.processId()), number), 0);
+}
+
+int Program::exitStatus()
+{
+    EXPECT_TRUE(m_process.waitForFinished(patience)) << "the program does not end";
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}

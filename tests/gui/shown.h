@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/qt/qt_window.h"
+
+#include <QTest>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// A window on the toolkit, with a note of every event in place of the program behind it.
+template <typename View, typename Form> struct Shown {
+    View view;
+    Form form = [this] {
+        Form made;
+        made.setupUi(&view);
+        return made;
+    }();
+    std::vector<Event> events;
+    std::unique_ptr<QtWindow> window =
+        std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
+
+    Shown()
+    {
+        window->showWindow();
+        (void)QTest::qWaitForWindowActive(&view);
+        events.clear();
+    }
+
+    /// What came since the last call.
+    [[nodiscard]] std::string noted()
+    {
+        constexpr const char* kinds[] = {"keyDown", "keyPress", "mouseDown", "mouseMove", "mouseUp",
+                                         "click",   "hover",    "tick",      "close"};
+        std::string text;
+        for (const Event& event : events) {
+            text += std::string(kinds[static_cast<int>(event.kind)]) + " " + std::string(event.name) +
+                    std::to_string(event.code) + "\n";
+        }
+        events.clear();
+        return text;
+    }
+};
