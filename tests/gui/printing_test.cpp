@@ -18,7 +18,6 @@ QImage testPicture(const QSize& size)
     picture.fill(QColor(230, 230, 255));
     QPainter painter(&picture);
     painter.drawLine(0, size.height(), size.width(), 0);
-    painter.drawText(picture.rect(), Qt::AlignCenter, "R = 10");
     const int right = size.width() - 40;
     const int bottom = size.height() - 40;
     painter.fillRect(0, 0, 40, 40, Qt::red);

@@ -20,11 +20,6 @@ QString outputOf(const QString& program, const QStringList& words)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
-QImage grab(const QRect& part)
-{
-    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
-}
-
 } // namespace
 
 Program::Program(Stage until, const QString& folder, const QStringList& launcher)
@@ -132,14 +127,14 @@ void Program::activate()
     waitForMainWindow();
 }
 
-QImage Program::canvas() const
+QImage Program::screen(const QRect& part) const
 {
-    return grab(m_canvas);
+    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
 }
 
 QColor Program::pixel(int x, int y) const
 {
-    return grab({m_canvas.topLeft() + QPoint(x, y), QSize(1, 1)}).pixelColor(0, 0);
+    return screen({m_canvas.topLeft() + QPoint(x, y), QSize(1, 1)}).pixelColor(0, 0);
 }
 
 std::optional<Accessible> Program::find(const char* role, const QString& name) const
@@ -234,17 +229,6 @@ void Program::expect(const Outcome& outcome)
 QString Program::idOf(const QString& title) const
 {
     return outputOf("xdotool", {"search", "--onlyvisible", "--name", "^" + title + "$"});
-}
-
-QImage Program::window(const QString& title) const
-{
-    const QString place =
-        outputOf("xwininfo", {"-id", title.isEmpty() ? outputOf("xdotool", {"getactivewindow"}) : idOf(title)});
-    const auto number = [&](const char* label) {
-        return place.section(label, 1).trimmed().section('\n', 0, 0).toInt();
-    };
-    return grab(
-        {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"), number("Height:")});
 }
 
 void Program::closeActiveWindow()

@@ -46,7 +46,8 @@ public:
     void activate();
     void xdotool(const QStringList& words);
 
-    [[nodiscard]] QImage canvas() const;
+    [[nodiscard]] QImage screen(const QRect& part) const;
+    [[nodiscard]] QImage canvas() const { return screen(m_canvas); }
     /// A place on the screen, on the canvas.
     [[nodiscard]] QRect onCanvas(QRect place) const { return place.translated(-m_canvas.topLeft()); }
     [[nodiscard]] QColor pixel(int x, int y) const;
@@ -74,8 +75,6 @@ public:
     void answer(const QString& title, const char* key);
     void expect(const Outcome& outcome);
 
-    /// The window with this title, or the one that has the keyboard: what it shows, without its frame.
-    [[nodiscard]] QImage window(const QString& title = {}) const;
     [[nodiscard]] bool isOpen(const QString& title) const { return !idOf(title).isEmpty(); }
 
     /// From the splash on: waits for the main window, and for the help window that opens after it.

@@ -46,18 +46,6 @@ TEST(Program, ArrowKeysLaySolidWireWithShiftAndOnTheNumberPadTooAndOtherKeysNoth
     EXPECT_TRUE(below.copy(106, 0, 66, 3) == solid);
 }
 
-TEST(Program, PenComesBackFromFarOutside)
-{
-    Program program;
-    program.keyTimes(100, "Left");
-    program.keyTimes(120, "Right");
-    program.keyTimes(100, "Up");
-    program.keyTimes(120, "Down");
-    waitUntil("wire from the edge and back", [&] {
-        return program.inked(0, 100) && program.inked(172, 100) && program.inked(173, 0) && program.inked(173, 165);
-    });
-}
-
 TEST(Program, JumperQuestionIsAnsweredThroughAHeldArrowKeyAndHopsOverTheWireOrDrawsItThrough)
 {
     for (const std::string_view reply : {"Return", "y", "n", "Escape", "its frame"}) {
@@ -85,22 +73,6 @@ TEST(Program, JumperQuestionIsAnsweredThroughAHeldArrowKeyAndHopsOverTheWireOrDr
         program.keys({yes ? "Up" : "Left"});      // the keyboard is the canvas's again
         waitUntil("the next step", [&] { return yes ? program.inked(116, 87) : program.inked(113, 103); });
     }
-}
-
-TEST(Program, GateFromTheMenuAsksAndTheWireGoesOnFromItsOutput)
-{
-    Program program;
-    program.keyTimes(6, "Right"); // the pen is at (126, 100)
-    for (const char* const reply : {"Escape", "Return"}) {
-        program.keys({"alt+l", "g", "Return"});
-        program.answer("This draws an AND GATE", reply);
-    }
-    waitUntil("the gate's nose", [&] { return program.inked(146, 105); });
-    EXPECT_TRUE(program.inked(126, 115));  // lower back corner
-    EXPECT_FALSE(program.inked(136, 108)); // hollow
-    EXPECT_FALSE(program.inked(148, 103)); // no wire yet
-    program.keys({"Right", "Right"});
-    waitUntil("wire from the output", [&] { return program.inked(150, 103); });
 }
 
 TEST(Program, ValueTypedOverThePresetIsPrintedBesideTheSymbolAndBadTextChangesNothing)
@@ -189,8 +161,9 @@ TEST(Program, OutputWindowStaysUsableBesideTheMainWindowAndPrintsItselfOnTheDefa
     program.keys({"alt+p"});
     waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
     const QImage printed = printedPicture(server.printedFiles().first());
-    ASSERT_EQ(printed.size(), program.window().size());
-    EXPECT_LT(differing(printed, program.window()), 100); // no more than a text cursor or a highlight
+    const QImage window = program.screen(program.placeOf("dialog", "Output"));
+    ASSERT_EQ(printed.size(), window.size());
+    EXPECT_LT(differing(printed, window), 100); // no more than a text cursor or a highlight
 
     server.removeQueue();
     program.keys({"alt+p"});

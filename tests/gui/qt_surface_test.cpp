@@ -3,7 +3,6 @@
 #include "tests/gui/pixels.h"
 
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 namespace {
 
@@ -52,19 +51,6 @@ TEST(QtSurface, ReportsOnlyThePartThatChanged)
     EXPECT_LT(paper.changed.width(), 40);
 }
 
-TEST(QtSurface, BoxIsAnOutlineWithClosedCornersThatLeavesTheCurrentPointAtItsSecondCorner)
-{
-    Paper paper;
-    paper.surface.box(1200, 900, 300, 300);
-    for (const auto& [x, y] : {std::pair{300.0F, 300.0F}, {1199.0F, 300.0F}, {300.0F, 899.0F}, {1199.0F, 899.0F}}) {
-        EXPECT_EQ(paper.surface.point(x, y), black) << x << ' ' << y;
-    }
-    EXPECT_EQ(paper.surface.point(300, 600), black);
-    EXPECT_EQ(paper.surface.point(750, 600), white);
-    EXPECT_EQ(paper.surface.current().x, 300);
-    EXPECT_EQ(paper.surface.current().y, 300);
-}
-
 TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
 {
     constexpr double lineHeight = 13 * twipsPerPixel;
@@ -87,27 +73,4 @@ TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
     surface.setCurrent(-1e9F, 1e9F); // far outside: nothing to draw, and no overflow
     surface.print("R", true);
     EXPECT_EQ(surface.current().x, 0);
-}
-
-TEST(QtSurface, KeepsNothingOfAMillionStrokes)
-{
-    Paper paper;
-    const auto draw = [&](int strokes) {
-        for (int i = 0; i < strokes; i += 4) {
-            const auto x = static_cast<float>(i % 2999);
-            const auto y = static_cast<float>(i % 3001);
-            paper.surface.line(x, y, y, x);
-            paper.surface.box(x, y, x + 100, y + 100);
-            paper.surface.circle(x, y, 100);
-            paper.surface.arc(x, y, 100, 1, 2);
-            if (i % 1000 == 0) {
-                paper.surface.print(std::to_string(i % 10000), true);
-            }
-        }
-    };
-    draw(10'000);
-    const auto bytes = [] { return mallinfo2().uordblks; };
-    const std::size_t before = bytes();
-    draw(1'000'000);
-    EXPECT_LE(bytes(), before + 1000);
 }

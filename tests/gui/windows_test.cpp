@@ -118,35 +118,21 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     }
 };
 
-/// A desktop's colours, until this goes. Its text has no soft edges, so that each pixel of it has the text's colour.
-class Desktop {
-public:
-    Desktop(const QColor& ground, const QColor& text) : m_palette(QApplication::palette()), m_font(QApplication::font())
-    {
-        QPalette palette = m_palette;
-        for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
-            palette.setColor(role, ground);
-        }
-        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-            palette.setColor(role, text);
-        }
-        QApplication::setPalette(palette);
-        QFont font = m_font;
-        font.setStyleStrategy(QFont::NoAntialias);
-        QApplication::setFont(font);
+/// A desktop's colours. Its text has no soft edges, so that each pixel of it has the text's colour.
+void useDesktop(const QColor& ground, const QColor& text)
+{
+    QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        palette.setColor(role, ground);
     }
-    ~Desktop()
-    {
-        QApplication::setPalette(m_palette);
-        QApplication::setFont(m_font);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
     }
-    Desktop(const Desktop&) = delete;
-    Desktop& operator=(const Desktop&) = delete;
-
-private:
-    QPalette m_palette;
-    QFont m_font;
-};
+    QApplication::setPalette(palette);
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::NoAntialias);
+    QApplication::setFont(font);
+}
 
 constexpr std::pair<QRgb, QRgb> desktops[] = {
     {0xFFEFEFEF, 0xFF000000}, {0xFF2B2B2B, 0xFFF0F0F0}, {0xFF000000, 0xFFFFFF00}, {0xFFFFFFFF, 0xFF000000}};
@@ -157,7 +143,7 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
 {
     for (const auto& [ground, text] : desktops) {
         SCOPED_TRACE(QColor(ground).name().toStdString());
-        const Desktop desktop(ground, text);
+        useDesktop(ground, text);
         const FullWindow main;
         expectControls(main.view, formControls);
         EXPECT_EQ(expectReadable(main.view), 21);
@@ -182,7 +168,7 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
 TEST(Windows, AreReadableOnEveryColourOfTheCanvas)
 {
     for (const auto& [ground, text] : {desktops[0], desktops[1]}) {
-        const Desktop desktop(ground, text);
+        useDesktop(ground, text);
         FullWindow main;
         std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
         for (Color i = 0; i < 64; ++i) {
