@@ -69,8 +69,6 @@ TEST_F(PictureFiles, LoadsWholePicturesAndRefusesEveryPartOfOne)
         {written(image, "bmp"), image},
         {written(image, "ppm"), image},
         {written(image, "ico"), image},
-        {written(image.convertToFormat(QImage::Format_Indexed8), "png"),
-         image.convertToFormat(QImage::Format_Indexed8)},
         {written(image.convertToFormat(QImage::Format_Mono), "bmp"), image.convertToFormat(QImage::Format_Mono)},
         {written(image, "jpg"), QImage::fromData(written(image, "jpg"))},
         {written(image, "jpg", true), QImage::fromData(written(image, "jpg", true))},
@@ -137,13 +135,10 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
         {"/dev/zero", "zero is no picture that Schemlet can read"},
         {store("empty.bmp", ""), "empty.bmp is no picture that Schemlet can read"},
         {store("text.png", "A circuit %1 of mine"), "text.png is no picture that Schemlet can read"},
-        {store("less.bmp", claiming(bmp, 18, "FBFFFFFF")), "less.bmp is no picture that Schemlet can read"},
         {store("100 %2.bmp", bmp.left(99)), "100 %2.bmp is cut short"},
         {path("large.png"), "large.png is too large: 10000 megabytes, at most 129 megabytes"},
         {store("a", claiming(png, 16, "0000EA600000EA60")),
          "a is too large: 60000 x 60000 pixels, at most 32 megapixels"},
-        {store("b", claiming(bmp, 18, "0500000000000080")),
-         "b is too large: 5 x 2147483648 pixels, at most 32 megapixels"},
         {store("c", claiming(jpeg, frame + 5, "10011000")),
          "c is too large: 4096 x 4097 pixels, at most 16 megapixels of this kind"},
         {store("d", "P6 8001 4000 255\n"), "d is too large: 8001 x 4000 pixels, at most 32 megapixels"},
@@ -152,13 +147,6 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
         EXPECT_EQ(refusal(path), "Invalid picture\n\nThe file " + expected + ".");
     }
     EXPECT_EQ(refusal(path("large.bmp")), "");
-
-    store("secret.bmp", bmp);
-    allow("secret.bmp", 0);
-    allow(".", 0755);
-    const OrdinaryUser user;
-    EXPECT_TRUE(!OrdinaryUser::isOne() ||
-                refusal(path("secret.bmp")) == "Invalid picture\n\nThe file secret.bmp may not be read.");
 }
 
 TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
@@ -192,33 +180,26 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
 TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
 {
     const QByteArray old = written(colourful(9, 9), "bmp");
-    const auto expectRefusal = [&](const QString& name) {
+    const auto expectRefusal = [&](const char* name) {
         const QStringList before = listing();
-        EXPECT_NE(refusal(Fault::pictureNotSaved, [&] { savePicture(colourful(90, 90), path(name)); }), "");
-        EXPECT_EQ(listing(), before) << name.toStdString();
+        EXPECT_NE(refusal(Fault::pictureNotSaved, [&] { savePicture(colourful(90, 90), path(name)); }), "") << name;
+        EXPECT_EQ(listing(), before) << name;
     };
     ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
     ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
-    store("closed.bmp", old);
-    store("open.bmp", old);
-    allow("closed.bmp", 0444);
-    allow("open.bmp", 0666);
+    store("old.bmp", old);
     for (const char* const name : {"folder", "pipe", "gone/a.bmp"}) {
         expectRefusal(name);
     }
     for (const rlim_t room : {0U, 1U, 54U, 16384U, 24353U}) { // of 24354 bytes
         const FullDisk full(room);
-        expectRefusal("open.bmp");
+        expectRefusal("old.bmp");
         expectRefusal("new.bmp");
     }
-    for (const mode_t folder : {0777U, 0555U}) {
-        allow(".", folder);
-        const OrdinaryUser user;
-        if (OrdinaryUser::isOne()) { // root may write anywhere
-            expectRefusal(folder == 0777U ? "closed.bmp" : "open.bmp");
-        }
+    allow("old.bmp", 0444);
+    allow(".", 0777);
+    if (const OrdinaryUser user; OrdinaryUser::isOne()) { // root may write anywhere
+        expectRefusal("old.bmp");
     }
-    allow(".", 0700);
-    EXPECT_EQ(contents(path("closed.bmp")), old);
-    EXPECT_EQ(contents(path("open.bmp")), old);
+    EXPECT_EQ(contents(path("old.bmp")), old);
 }

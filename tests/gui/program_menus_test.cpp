@@ -6,6 +6,27 @@
 
 // Menus and short-cuts, settings, colours and printing.
 
+namespace {
+
+/// In the dialog that has been asked for; no colour cancels it.
+void pick(Program& program, const QString& color)
+{
+    program.waitForWindow("Select Color");
+    if (!color.isEmpty()) {
+        program.keys({"alt+h", "ctrl+a"});
+        program.type(color);
+    }
+    program.answer("Select Color", color.isEmpty() ? "Escape" : "Return");
+}
+
+QColor ground(const Program& program, const char* panel)
+{
+    const QRect place = program.onCanvas(program.placeOf("panel", panel));
+    return program.pixel(place.left() + 4, place.bottom() - 4);
+}
+
+} // namespace
+
 TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
 {
     struct Way {
@@ -126,51 +147,39 @@ TEST(Program, SettingsAskWhatTheirMarksSay)
 TEST(Program, ColoursGoWhereTheyAreChosenAndCancelStoresTheLastOne)
 {
     Program program;
-    const auto pick = [&](const QString& color) {
-        program.waitForWindow("Select Color");
-        if (!color.isEmpty()) {
-            program.keys({"alt+h", "ctrl+a"});
-            program.type(color);
-        }
-        program.answer("Select Color", color.isEmpty() ? "Escape" : "Return");
-    };
     const auto draw = [&](const char* menuKey, const char* question) {
         program.keys({"alt+l", menuKey, "Return"});
         program.answer(question, "Return");
     };
-    const auto ground = [&](const char* panel) {
-        const QRect place = program.onCanvas(program.placeOf("panel", panel));
-        return program.pixel(place.left() + 4, place.bottom() - 4);
-    };
     const QColor grey(0xE0, 0xE0, 0xE0);
-    EXPECT_EQ(ground("ToolBox"), grey);
+    EXPECT_EQ(ground(program, "ToolBox"), grey);
     program.keyTimes(3, "Right");
     program.keys({"ctrl+b"});
-    pick({}); // black, which is for the panel only
-    EXPECT_EQ(ground("ToolBox"), grey);
+    pick(program, {}); // black, which is for the panel only
+    EXPECT_EQ(ground(program, "ToolBox"), grey);
     waitUntil("the wire", [&] { return program.inked(114, 100) && !program.inked(114, 110); });
     program.keys({"b"});
-    waitUntil("a black panel", [&] { return ground("Battery") == Qt::black; });
+    waitUntil("a black panel", [&] { return ground(program, "Battery") == Qt::black; });
     program.keys({"Escape"});
 
     program.clickMenus({"Components Color", "Diodes"});
-    pick("#ff0000");
+    pick(program, "#ff0000");
     program.clickMenus({"Components Color", "Gates"});
-    pick({});
+    pick(program, {});
     draw("g", "This draws an AND GATE");
     waitUntil("a red gate", [&] { return program.pixel(116, 110) == Qt::red; });
     draw("d", "This draws a ZENER DIODE");
     waitUntil("a red diode", [&] { return program.pixel(137, 105) == Qt::red; });
 
     program.keys({"ctrl+b"});
-    pick("#00ff00");
+    pick(program, "#00ff00");
     waitUntil("a green canvas", [&] {
         return program.pixel(114, 100) == Qt::green && program.pixel(116, 110) == Qt::green &&
                program.pixel(600, 400) == Qt::green;
     });
-    EXPECT_EQ(ground("ToolBox"), QColor(Qt::green));
+    EXPECT_EQ(ground(program, "ToolBox"), QColor(Qt::green));
     program.keys({"ctrl+f"});
-    pick("#0000ff");
+    pick(program, "#0000ff");
     program.keyTimes(3, "Down");
     waitUntil("blue wire", [&] { return program.pixel(153, 109) == Qt::blue || program.pixel(152, 109) == Qt::blue; });
 }
