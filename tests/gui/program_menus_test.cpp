@@ -30,8 +30,8 @@ QColor ground(const Program& program, const char* panel)
 TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
 {
     struct Way {
-        int menu;
-        const char* keys;
+        int menu = 0;
+        const char* keys = nullptr;
         QStringList captions;
         Outcome outcome;
         Outcome outcomeByMouse;

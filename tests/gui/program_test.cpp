@@ -30,7 +30,7 @@ TEST(Program, StartsWithABlinkingMarkerOnAnEmptyCanvasAndEndsCleanly)
 TEST(Program, ArrowKeysLaySolidWireWithShiftAndOnTheNumberPadTooAndOtherKeysNothing)
 {
     Program program;
-    program.keys({"x", "q", "5", "space", "Tab", "Home", "F7", "ctrl+z", "ctrl+q", "alt+x", "alt+r", "Shift_L",
+    program.keys({"x", "q", "5", "space", "Tab", "Home", "F7", "ctrl+z", "ctrl+q", "alt+x", "alt+i", "Shift_L",
                   "Control_L", "Super_L", "percent", "parenleft"});
     program.click(2, 500, 300);
     program.click(8, 500, 300);
@@ -46,7 +46,7 @@ TEST(Program, ArrowKeysLaySolidWireWithShiftAndOnTheNumberPadTooAndOtherKeysNoth
     EXPECT_TRUE(below.copy(106, 0, 66, 3) == solid);
 }
 
-TEST(Program, JumperQuestionIsAnsweredThroughAHeldArrowKeyAndHopsOverTheWireOrDrawsItThrough)
+TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndHopsOverTheWireOrDrawsItThrough)
 {
     for (const std::string_view reply : {"Return", "y", "n", "Escape", "its frame"}) {
         SCOPED_TRACE(reply);
@@ -55,11 +55,9 @@ TEST(Program, JumperQuestionIsAnsweredThroughAHeldArrowKeyAndHopsOverTheWireOrDr
         program.keyTimes(6, "Right");
         program.keyTimes(6, "Down");
         program.keyTimes(3, "Left");
-        waitUntil("the wire below the crossing", [&] { return program.inked(116, 120); });
-        program.xdotool({"keydown", "Up"});
+        program.keyTimes(9, "Up");
         program.waitForWindow("POINT (or) LINE AHEAD...");
-        program.xdotool({"sleep", "0.4"}); // a dozen repeats, which would move the focus from Yes to No
-        program.xdotool({"keyup", "Up"});
+        program.keyTimes(3, "Up"); // the walk's last ones, which would move the focus from Yes to No
         if (reply == "its frame") {
             program.closeActiveWindow();
         } else {
@@ -226,7 +224,8 @@ TEST(Program, InksEveryPointOfAFastStroke)
     program.keys({"ctrl+c"});
     program.moveMouse(200, 200);
     const auto place = [](int i) { return QPoint(200 + 3 * (i % 200), 200 + 12 * (i / 200) + i % 2 * 7); };
-    QStringList words{"mousedown", "1"};
+    program.xdotool({"mousedown", "1"});
+    QStringList words;
     for (int i = 0; i < 2000; ++i) {
         const QPoint step = place(i) - (i == 0 ? QPoint(200, 200) : place(i - 1));
         words << "mousemove_relative"
@@ -234,13 +233,14 @@ TEST(Program, InksEveryPointOfAFastStroke)
     }
     program.xdotool(words << "mouseup"
                           << "1");
-    waitUntil("the stroke's end", [&] { return program.inked(place(1999).x(), place(1999).y()); });
-    const QImage canvas = program.canvas();
-    int missing = 0;
-    for (int i = 0; i < 2000; ++i) {
-        missing += canvas.pixelColor(place(i)) == Qt::black ? 0 : 1;
-    }
-    EXPECT_EQ(missing, 0);
+    waitUntil("every point", [&] {
+        const QImage canvas = program.canvas();
+        int inked = 0;
+        for (int i = 0; i < 2000; ++i) {
+            inked += isInked(canvas, place(i).x(), place(i).y()) ? 1 : 0;
+        }
+        return inked == 2000;
+    });
 }
 
 TEST(Program, InkOutlivesSmallerAndLargerWindows)
@@ -253,6 +253,7 @@ TEST(Program, InkOutlivesSmallerAndLargerWindows)
     program.resize(1100, 800);
     waitUntil("the whole box",
               [&] { return program.inked(699, 400) && program.inked(500, 499) && program.inked(300, 400); });
+    EXPECT_FALSE(program.inked(1025, 500));
     program.keys({"ctrl+l"});
     program.drag(1000, 400, 1050, 600); // in the part that is new
     waitUntil("a line", [&] { return program.inked(1025, 500); });

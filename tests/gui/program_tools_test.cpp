@@ -8,8 +8,8 @@
 namespace {
 
 struct Tool {
-    const char* name;
-    const char* hint;
+    const char* name = nullptr;
+    const char* hint = nullptr;
     Outcome outcome;
 };
 
@@ -86,6 +86,8 @@ TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
     program.clickOn("label", "Click once and drag");
     program.moveMouse(300, 300);
     waitForCorner({300, 300});
+    program.keys({"Right"});
+    program.waitForText("1750, 1500"); // the click was for the label alone
     program.moveMouse(200, 200);
     waitForCorner({200, 200});
     program.moveMouse(202, 202); // which is over it now, and stops it

@@ -116,7 +116,7 @@ TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
             QtSurface surfaces[] = {QtSurface(), QtSurface(ratio)};
             for (QtSurface& surface : surfaces) {
                 surface.growTo({80, 80});
-                strokes[i % 4](surface, static_cast<float>(300 + i / 4 * 4));
+                strokes[i % 4](surface, static_cast<float>(300 + i - i % 4));
             }
             const QRect plain = inkedPart(surfaces[0].image());
             const QRect fine = inkedPart(surfaces[1].image());
