@@ -13,6 +13,22 @@ namespace {
 
 constexpr double ratios[] = {1.25, 1.5, 1.75, 2, 3};
 
+/// A bit of everything that leaves ink, at places between the pixels and over the edges too.
+void drawEverything(Surface& surface)
+{
+    drawProductPicture(surface);
+    surface.setForeColor(0x2040C0);
+    surface.box(1003, 403, 1711, 1296);
+    surface.box(-100, -100, 4490, 2990);
+    surface.arc(3000, 1500, 307, 3.5F, 0);
+    surface.setCurrent(2111, 333);
+    surface.print("WiLlIaM 12.5 mOhm", true);
+    for (int i = 0; i < 100; ++i) {
+        const auto at = static_cast<float>(37 * i);
+        surface.line(at, 2400 + at / 3, at + 37, 2400 + (at + 37) / 3);
+    }
+}
+
 /// A canvas of 300 x 200 pixels, as a screen of some ratio shows it.
 struct Canvas {
     CanvasSurface surface;
@@ -21,22 +37,6 @@ struct Canvas {
     {
         surface.growTo({300, 200});
         surface.setRatio(ratio);
-    }
-
-    /// A bit of everything that leaves ink, at places between the pixels and over the edges too.
-    void drawEverything()
-    {
-        drawProductPicture(surface);
-        surface.setForeColor(0x2040C0);
-        surface.box(1003, 403, 1711, 1296);
-        surface.box(-100, -100, 4490, 2990);
-        surface.arc(3000, 1500, 307, 3.5F, 0);
-        surface.setCurrent(2111, 333);
-        surface.print("WiLlIaM 12.5 mOhm", true);
-        for (int i = 0; i < 100; ++i) {
-            const auto at = static_cast<float>(37 * i);
-            surface.line(at, 2400 + at / 3, at + 37, 2400 + (at + 37) / 3);
-        }
     }
 };
 
@@ -87,18 +87,23 @@ QImage blocks(const CanvasSurface& surface)
 TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
 {
     Canvas plain;
-    plain.drawEverything();
+    drawEverything(plain.surface);
     EXPECT_EQ(&plain.surface.screenImage(), &plain.surface.picture()); // one image and no more
     EXPECT_GT(inkedPixels(plain.surface.picture()), 2000);
     for (const double ratio : ratios) {
         SCOPED_TRACE(ratio);
         Canvas canvas(ratio);
-        canvas.drawEverything();
+        drawEverything(canvas.surface);
         EXPECT_EQ(canvas.surface.picture(), plain.surface.picture());
         EXPECT_EQ(canvas.surface.current().x, plain.surface.current().x);
         EXPECT_EQ(canvas.surface.screenImage().size(), QSize(qCeil(301 * ratio), qCeil(201 * ratio)));
         EXPECT_EQ(strays(canvas.surface), 0);
-        EXPECT_GT(differing(canvas.surface.screenImage(), blocks(canvas.surface)), 1000);
+        QtSurface fine(ratio);
+        fine.growTo({301, 201});
+        drawEverything(fine);
+        const QImage& screen = canvas.surface.screenImage();
+        EXPECT_GT(differing(screen, blocks(canvas.surface)), 1000);
+        EXPECT_LT(differing(screen, fine.image()), differing(screen, blocks(canvas.surface)));
     }
 }
 
@@ -157,7 +162,7 @@ TEST(Sharpness, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
     for (const double ratio : {2.0, 1.5, 3.0, 1.75, 1.0, 1.25}) {
         SCOPED_TRACE(ratio);
         surface.setBackColor(white);
-        canvas.drawEverything();
+        drawEverything(canvas.surface);
         const QImage before = surface.picture();
         EXPECT_TRUE(surface.setRatio(ratio));
         EXPECT_FALSE(surface.setRatio(ratio));
@@ -168,7 +173,7 @@ TEST(Sharpness, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
         surface.setPicture(picture);
         EXPECT_TRUE(changed.contains(QRect(0, 0, 300, 200)));
         EXPECT_EQ(surface.screenImage(), blocks(surface));
-        canvas.drawEverything();
+        drawEverything(canvas.surface);
         surface.growTo(surface.picture().size() + QSize(60, 20));
         EXPECT_EQ(strays(surface), 0); // the picture's hidden part too
         surface.clear();
