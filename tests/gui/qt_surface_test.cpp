@@ -3,6 +3,7 @@
 #include "tests/gui/pixels.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 namespace {
 
@@ -73,4 +74,22 @@ TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
     surface.setCurrent(-1e9F, 1e9F); // far outside: nothing to draw, and no overflow
     surface.print("R", true);
     EXPECT_EQ(surface.current().x, 0);
+}
+
+TEST(QtSurface, KeepsNothingOfAMillionStrokes)
+{
+    Paper paper;
+    const auto draw = [&](int strokes) {
+        for (int i = 0; i < strokes; i += 4) {
+            const auto x = static_cast<float>(i % 2999);
+            paper.surface.line(x, 0, 3000 - x, 3000);
+            paper.surface.circle(x, x, 100);
+            paper.surface.arc(x, x, 100, 1, 2);
+            paper.surface.print(i % 1000 == 0 ? std::to_string(i % 10000) : "", true);
+        }
+    };
+    draw(10'000);
+    const std::size_t before = mallinfo2().uordblks;
+    draw(1'000'000);
+    EXPECT_LE(mallinfo2().uordblks, before + 1000);
 }

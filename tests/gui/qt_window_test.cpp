@@ -71,6 +71,19 @@ TEST(QtWindow, PanelFitsIntoTheSmallestWindowInTheCornerFarthestFromThePen)
     }
 }
 
+TEST(QtWindow, ToolboxStaysWithinReachWhenTheWindowShrinks)
+{
+    MainWindow main;
+    main.window->show({control::Frame2});
+    const QPoint place = main.form.Frame2->pos();
+    for (const auto& [size, moves] : {std::pair{QSize(1000, 700), false}, {QSize(700, 600), true}}) {
+        main.view.resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(main.form.Canvas->rect().contains(main.form.Frame2->geometry()));
+        EXPECT_EQ(main.form.Frame2->pos() != place, moves);
+    }
+}
+
 TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
 {
     MainWindow main;
@@ -88,7 +101,10 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
         QTest::keyClick(main.view.focusWidget(), Qt::Key_S);
         EXPECT_EQ(main.noted(), next == "Text11" ? "" : "keyDown 39\nkeyDown 0\nkeyPress 115\n");
     }
+    const auto edge = [&main] { return main.form.Canvas->grab().toImage().pixelColor(0, 300); };
+    EXPECT_NE(edge(), QColor(Qt::white)); // it shows that it has the keyboard
     QTest::keyClick(main.form.Canvas, Qt::Key_Backtab);
+    EXPECT_EQ(edge(), QColor(Qt::white));
     EXPECT_EQ(main.view.focusWidget(), main.form.Image7);
     QTest::keyClick(main.form.Image7, Qt::Key_Space);
     EXPECT_EQ(main.noted(), "click Image70\n");
