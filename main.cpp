@@ -25,7 +25,6 @@ void prepareToolkit()
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     // Under this name the desktop finds the menu entry of the running windows.
     QGuiApplication::setDesktopFileName("org.schemlet.schemlet");
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(), QIcon(":/schemlet.svg")));
     installAccessibility();
     endOnSignals();
     // The end of the last window would ask every hidden one first, and none of them closes unasked.
@@ -54,6 +53,8 @@ int main(int argc, char* argv[])
     QtWindow form6(splashView, report);
     form6::load(form6);
     QCoreApplication::processEvents();
+    // Only now, as it takes a while to draw in all its sizes.
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(), QIcon(":/schemlet.svg")));
 
     QMainWindow mainView;
     Ui::Form1 form;
