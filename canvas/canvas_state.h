@@ -98,7 +98,7 @@ struct CanvasState {
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     std::string fileTitle; ///< the name of the file saved last, without its folder
     int printAnswer = 0;   ///< the button that closed the question about printing
-    int blinkCount = 0;    ///< 0 to 10000: the marker shows at multiples of 50
+    int blinkCount = 0;    ///< 0 to 9975: the marker shows at multiples of 50
     int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
 
     int startShown = 0;     ///< 1 once the help window has shown itself at start

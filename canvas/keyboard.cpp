@@ -32,7 +32,6 @@ struct Letter {
 constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', suppl},  {'B', batter},
                               {'I', inductanc}, {'C', capacitanc},       {'E', eraser1}};
 
-constexpr int stepLength = 50; // twips a key press
 constexpr int dotSpacing = 10;
 constexpr float dotRadius = 10;
 
@@ -102,7 +101,7 @@ void eraser1(Form1& form)
     constexpr int eraserWidth = 10;
     form.surface.setDrawWidth(form.surface.drawWidth() == eraserWidth ? normalWidth : eraserWidth);
     form.eraseMode = form.eraseMode == 0 ? 1 : 0;
-    form.controls.setVisible(control::Label27, !form.controls.visible(control::Label27));
+    form.controls.flipVisible(control::Label27);
 }
 
 void toggleAutoJumper(Form1& form)
@@ -112,6 +111,6 @@ void toggleAutoJumper(Form1& form)
 
 void jj(Form1& form)
 {
-    form.controls.setChecked("jj", !form.controls.checked("jj"));
+    form.controls.flipChecked("jj");
     toggleAutoJumper(form);
 }

@@ -2,8 +2,10 @@
 
 #include "canvas/canvas_state.h"
 
+inline constexpr int stepLength = 50; ///< twips of wire for each arrow key
+
 /// A key going down. Any key marks the drawing changed; the arrow keys turn the pen and, outside erase mode, lay
-/// 50 twips of wire. Codes are those of platform/event.h.
+/// a step of wire. Codes are those of platform/event.h.
 void keyDown(Form1& form, int code);
 
 /// A typed character, a UTF-16 unit: a component's or a mode's letter, capital or small, or nothing but a changed mark.

@@ -7,10 +7,11 @@
 void mouseDown(Form1& form, int button, float x, float y);
 /// With the left button alone held: the pencil draws, erase mode erases, in this order.
 void mouseMove(Form1& form, int buttons, float x, float y);
-/// Brings the marker, and draws the line or the rectangle from where the left button went down.
+/// Any button marks the drawing changed. The left one brings the marker, and draws the line or the rectangle from where
+/// it went down.
 void mouseUp(Form1& form, int button, float x, float y);
 
-// Tool commands. Once a tool is chosen one of them stays on.
+// Tool commands. At most one tool is on; once one is chosen, only Open puts one away, the pencil.
 void linee(Form1& form);
 void rectan(Form1& form);
 void pencil1(Form1& form);

@@ -26,7 +26,7 @@ void computeResonance(Form1& form)
     form.resonanceDenominator = checked(squareRoot(checked(form.induc * form.capac)) * twoPi);
     if (form.resonanceDenominator != 0) {
         form.resonanceFrequency = checked(1 / form.resonanceDenominator);
-        showNumber(form, form4::Label21, form.resonanceFrequency);
+        showNumber(form, form4::control::Label21, form.resonanceFrequency);
     }
 }
 
@@ -37,24 +37,24 @@ void computeQuality(Form1& form)
     form.angularFrequency = checked(form.frequencyCopy * twoPi);
     form.frequencyCapac = checked(form.frequencyCopy * form.capac);
     form.capacitiveReactance = checked(1 / form.frequencyCapac); // kept, though nothing shows it
-    showNumber(form, form4::Label22, form.qualityFactor);
-    showNumber(form, form4::Label23, checked(form.induc * form.angularFrequency));
-    showNumber(form, form4::Label24, form.capac);
+    showNumber(form, form4::control::Label22, form.qualityFactor);
+    showNumber(form, form4::control::Label23, checked(form.induc * form.angularFrequency));
+    showNumber(form, form4::control::Label24, form.capac);
 }
 
 void computeOutput(Form1& form)
 {
-    showNumber(form, form4::Label18, form.resist);
-    showNumber(form, form4::Label19, form.induc);
-    showNumber(form, form4::Label20, form.capac == 0 ? 0 : checked(1 / form.capac));
+    showNumber(form, form4::control::Label18, form.resist);
+    showNumber(form, form4::control::Label19, form.induc);
+    showNumber(form, form4::control::Label20, form.capac == 0 ? 0 : checked(1 / form.capac));
     if (form.capac != 0 || form.induc != 0) {
         computeResonance(form);
     }
     if (form.resonanceFrequency != 0 && form.capac != 0 && form.resist != 0) {
         computeQuality(form);
     }
-    showNumber(form, form4::Label14, form.supplyVoltage);
-    showNumber(form, form4::Label15, form.supplyCurrent);
+    showNumber(form, form4::control::Label14, form.supplyVoltage);
+    showNumber(form, form4::control::Label15, form.supplyCurrent);
 }
 
 } // namespace
@@ -62,10 +62,10 @@ void computeOutput(Form1& form)
 void output(Form1& form)
 {
     loadForm4(form);
-    for (const Name caption : form4::captions) {
+    for (const Name caption : form4::control::captions) {
         form.form4.setVisible(caption, true);
     }
-    for (const Name value : form4::values) {
+    for (const Name value : form4::control::values) {
         form.form4.setVisible(value, true);
     }
     form.form4.showWindow();
@@ -74,7 +74,7 @@ void output(Form1& form)
 
 void clearOutput(Form1& form)
 {
-    for (const Name value : form4::values) {
+    for (const Name value : form4::control::values) {
         form.form4.setText(value, "0");
     }
 }

@@ -10,6 +10,8 @@
 /// The Output window and its controls.
 namespace form4 {
 inline constexpr Name window = "Form4";
+
+namespace control {
 // Captions
 inline constexpr Name Label1 = "Label1";   ///< resistance
 inline constexpr Name Label29 = "Label29"; ///< its unit
@@ -35,6 +37,11 @@ inline constexpr Name print = "print"; ///< the button
 
 inline constexpr Name captions[] = {Label1, Label29, Label2, Label3, Label4, Label5, Label6, Label7, Label16, Label17};
 inline constexpr Name values[] = {Label18, Label19, Label20, Label21, Label22, Label23, Label24, Label14, Label15};
+} // namespace control
+
+/// Prints the Output window. Throws printerError.
+void printForm(Form1& form);
+
 } // namespace form4
 
 /// Fills the Output window and shows it beside the main window. Throws invalidArgument if the product of inductance
@@ -46,10 +53,3 @@ void refreshOutput(Form1& form);
 
 /// Shows 0 for every value.
 void clearOutput(Form1& form);
-
-namespace form4 {
-
-/// Prints the Output window. Throws printerError.
-void printForm(Form1& form);
-
-} // namespace form4

@@ -5,7 +5,7 @@
 // Components with a value: each asks for it in an input box, adds it to its total, draws the symbol along the heading,
 // prints the value as typed and moves the pen past it. Zero, an empty box or Cancel adds and draws nothing. The
 // foreground is black afterwards, the marker goes with its left edge. Throws if the text is no number or the total
-// grows out of range; total, pen and drawing are then as before.
+// grows out of range; total, pen and drawing are then as before, but the foreground is the family's colour.
 
 /// Adds to the sum of resistances, in ohm.
 void resistanc(Form1& form);

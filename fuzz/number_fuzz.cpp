@@ -51,8 +51,8 @@ void checkWriting(double number)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    static const std::regex leading(R"(^[ \t]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
-    static const std::regex trailing(R"([ \t]*)");
+    static const std::regex leading(R"(^[ \t\n\r]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
+    static const std::regex trailing(R"([ \t\n\r]*)");
     if (size > 400) {
         return 0; // regular expressions recurse for every character, and longer texts hold nothing new
     }

@@ -5,11 +5,10 @@
 #include <string>
 #include <string_view>
 
-/// Buttons and icon of a message box, in the numbering of the classic message box call: 3 is Yes, No and Cancel, 4 Yes
-/// and No, 32 the question mark, 48 the exclamation mark.
-enum class Box { okOnly = 0, yesNoQuestion = 36, okWarning = 48, yesNoCancelWarning = 51 };
+/// Buttons and icon of a message box.
+enum class Box { okOnly, okWarning, yesNoQuestion, yesNoCancelWarning };
 
-/// What a message box answers, in the same numbering.
+/// What a message box answers. The numbers count: the answer about saving becomes the pen's heading.
 namespace answer {
 inline constexpr int cancel = 2;
 inline constexpr int yes = 6;

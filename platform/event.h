@@ -2,8 +2,7 @@
 
 #include "platform/window.h"
 
-/// The keys that mean something on their way down; every other key reports 0. The numbers are the classic virtual
-/// key codes.
+/// The keys that mean something on their way down; every other key reports 0.
 namespace key {
 inline constexpr int left = 37;
 inline constexpr int up = 38;

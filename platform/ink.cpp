@@ -37,7 +37,7 @@ template <typename Wanted> void inkRow(const Image& image, const Pen& pen, int y
     }
 }
 
-constexpr auto everyPixel = [](int) { return true; };
+constexpr auto everyPixel = [](auto... /*place*/) { return true; };
 
 /// The nearest place from which a shape of this extent covers whole pixels evenly to both sides.
 double fitted(double place, double extent)
@@ -121,7 +121,7 @@ template <typename Wanted> Area ring(const Image& image, const Pen& pen, Place c
 
 Area disc(const Image& image, const Pen& pen, Place centre)
 {
-    return ring(image, pen, centre, 0, [](int, int) { return true; });
+    return ring(image, pen, centre, 0, everyPixel);
 }
 
 double turnsFrom(double start, double angle)
@@ -153,7 +153,7 @@ Area line(const Image& image, const Pen& pen, Place from, Place to)
 Area circle(const Image& image, const Pen& pen, Place centre, double radius)
 {
     return ring(image, scaled(image, pen), fitted(image, centre, 2 * radius + pen.width), radius * image.scale,
-                [](int, int) { return true; });
+                everyPixel);
 }
 
 Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end)

@@ -27,3 +27,13 @@ void Window::disable(std::initializer_list<Name> controls)
         setEnabled(control, false);
     }
 }
+
+void Window::flipVisible(Name control)
+{
+    setVisible(control, !visible(control));
+}
+
+void Window::flipChecked(Name item)
+{
+    setChecked(item, !checked(item));
+}

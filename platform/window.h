@@ -100,4 +100,9 @@ public:
     void hide(std::initializer_list<Name> controls);
     void enable(std::initializer_list<Name> controls);
     void disable(std::initializer_list<Name> controls);
+
+    /// Shows a hidden control, hides a visible one.
+    void flipVisible(Name control);
+    /// Marks a menu item, or takes its mark away.
+    void flipChecked(Name item);
 };

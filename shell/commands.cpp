@@ -161,7 +161,7 @@ constexpr NamedHandler controls[] = {
     {form2::window, form2::control::Command1, form2::Command1},
     {form3::window, form3::control::Command1, form3::Command1},
     {form3::window, form3::control::Command2, form3::Command1},
-    {form4::window, form4::print, form4::printForm},
+    {form4::window, form4::control::print, form4::printForm},
 };
 
 Handler handlerOf(Name window, Name name)

@@ -12,5 +12,5 @@ inline constexpr std::array<Name, confirmCount> confirmItems = {"m",     "g",   
 template <Confirm family> void toggleConfirm(Form1& form)
 {
     form.confirm[family] = form.confirm[family] == 1 ? 0 : 1;
-    form.controls.setChecked(confirmItems[family], !form.controls.checked(confirmItems[family]));
+    form.controls.flipChecked(confirmItems[family]);
 }

@@ -44,7 +44,9 @@ constexpr NamedHandler frames[] = {
 
 void close(Form1& form, Name window)
 {
-    findHandler(frames, window, {})(form);
+    if (const Handler handler = findHandler(frames, window, {})) {
+        handler(form);
+    }
 }
 
 void panelKey(Form1& form, Name control, int character)

@@ -16,7 +16,6 @@ void Hand::goTo(int x, int y)
 
 void Hand::wire(int arrow, int twips)
 {
-    constexpr int stepLength = 50;
     for (int way = 0; way < twips; way += stepLength) {
         keyDown(m_form, arrow);
     }

@@ -15,7 +15,7 @@ public:
     [[nodiscard]] CanvasState& state() { return m_form; }
 
     void goTo(int x, int y);
-    /// Lays wire by an arrow key, in whole steps of 50 twips: at least as far as asked.
+    /// Lays wire by an arrow key, in whole steps: at least as far as asked.
     void wire(int arrow, int twips);
     /// Places a component; a value is typed into the box of one that asks, which else takes its preset. Throws what the
     /// component throws.

@@ -29,7 +29,6 @@ void form6::Timer2(Form1& form)
 
 void form6::finish(Form1& form)
 {
-    form.form6.setInterval(control::Timer1, 0);
     openMainWindow(form);
     form.form6.unload();
 }

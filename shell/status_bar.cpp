@@ -92,6 +92,6 @@ void showStatusSoon(Form1& form)
 
 void sss(Form1& form)
 {
-    form.controls.setVisible(control::statusBar, !form.controls.visible(control::statusBar));
-    form.controls.setChecked("sss", !form.controls.checked("sss"));
+    form.controls.flipVisible(control::statusBar);
+    form.controls.flipChecked("sss");
 }

@@ -17,16 +17,11 @@
 
 namespace {
 
-void flipMark(Form1& form, Name item)
-{
-    form.controls.setChecked(item, !form.controls.checked(item));
-}
-
 /// Unlike the menu's command it flips the mark on its own.
 void toolBoxButton(Form1& form)
 {
-    form.controls.setVisible(control::Frame2, !form.controls.visible(control::Frame2));
-    flipMark(form, "toolbox");
+    form.controls.flipVisible(control::Frame2);
+    form.controls.flipChecked("toolbox");
 }
 
 void eraserPicture(Form1& form)
@@ -151,8 +146,8 @@ void toolbox(Form1& form)
 
 void HideToolbar(Form1& form)
 {
-    form.controls.setVisible(control::Toolbar1, !form.controls.visible(control::Toolbar1));
-    flipMark(form, "lll");
+    form.controls.flipVisible(control::Toolbar1);
+    form.controls.flipChecked("lll");
 }
 
 void Label1(Form1& form)

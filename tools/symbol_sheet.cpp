@@ -7,7 +7,7 @@
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "platform/qt/qt_surface.h"
-#include "platform/quiet.h"
+#include "shell/hand.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -102,17 +102,14 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPointF pen)
     surface.growTo(paper);
     Drawing drawing;
     surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
-    QuietWindow window;
-    QuietDialogs dialogs;
-    QuietPictures pictures;
-    Form1 form(surface, window, dialogs, pictures, window, window, window, window); // all switches off: nothing asks
-    form.heading = heading;
-    form.x = pen.x() * twipsPerPixel;
-    form.y = pen.y() * twipsPerPixel;
-    entry.draw(form);
+    Hand hand(surface);
+    const CanvasState& state = hand.state();
+    hand.state().heading = heading;
+    hand.goTo(qRound(pen.x() * twipsPerPixel), qRound(pen.y() * twipsPerPixel));
+    hand.put(entry.draw);
     drawing.image = surface.image();
     drawing.entry = pen;
-    drawing.exit = QPointF(form.x, form.y) / twipsPerPixel;
+    drawing.exit = QPointF(state.x, state.y) / twipsPerPixel;
     return drawing;
 }
 

@@ -96,7 +96,7 @@ void refuseIncomplete(QFile& file)
     file.seek(0);
 }
 
-/// In place where Qt can: two copies of a large picture are a lot of memory. Not with a QPainter, which does not reach
+/// In place where Qt can: two copies of a large picture are a lot of memory. Not with a QPainter, which blends nothing
 /// beyond 32767 pixels.
 void putOnWhite(QImage& image)
 {

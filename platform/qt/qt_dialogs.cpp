@@ -57,7 +57,7 @@ private:
     bool m_dropping = true;
 };
 
-/// Buttons and icon as the numbers of the style say.
+/// The style's buttons and icon.
 void applyStyle(QMessageBox& box, Box style)
 {
     switch (style) {

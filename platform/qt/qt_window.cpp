@@ -1,8 +1,6 @@
 #include "platform/qt/qt_window.h"
 
-#include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
-#include "platform/qt/colors.h"
 #include "platform/qt/form_events.h"
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
@@ -13,14 +11,13 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QProgressBar>
 #include <QTimer>
 #include <QToolBar>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -270,5 +267,7 @@ void QtWindow::setInterval(Name timer, int milliseconds)
 void QtWindow::addNamed(Name name, QObject& object)
 {
     object.setObjectName(toQString(name));
-    m_named.emplace(name, &object);
+    if (!m_named.emplace(name, &object).second) {
+        qFatal("A second '%s' in '%s'", qPrintable(object.objectName()), qPrintable(m_form.objectName()));
+    }
 }

@@ -2,16 +2,17 @@
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/colors.h"
+#include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_window.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
-#include <cmath>
 
 void QtWindow::setChecked(Name item, bool checked)
 {
@@ -25,6 +26,7 @@ bool QtWindow::checked(Name item) const
 
 void QtWindow::setVisible(Name control, bool visible)
 {
+    // An option that nobody is to see is an action, which has nothing but its switches.
     if (auto* const action = findIf<QAction>(control)) {
         action->setVisible(visible);
     } else {
@@ -115,27 +117,26 @@ void QtWindow::setBackColor(Name control, Color color)
     QPalette palette;
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::WindowText, readableOn(ground));
-    // The title of a group is painted as what is typed in a box, but on the group's ground. A button in the group does
-    // not follow: its mark lies on the button's own ground.
-    const bool isButton = qobject_cast<const QAbstractButton*>(&widget) != nullptr;
-    palette.setColor(QPalette::Text, isButton ? palette.color(QPalette::Text) : readableOn(ground));
+    // The title of a group is painted as what is typed in a box, but on the group's ground. Boxes do not follow, nor do
+    // the marks of buttons: they lie on a ground of their own.
+    const bool isGroup = qobject_cast<const QGroupBox*>(&widget) != nullptr;
+    palette.setColor(QPalette::Text, isGroup ? readableOn(ground) : palette.color(QPalette::Text));
     widget.setPalette(palette);
 }
 
 void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
 {
     auto* const button = findIf<QAbstractButton>(control);
-    auto* const label = findIf<QLabel>(control);
     const double scale = m_form.devicePixelRatioF();
     QtSurface surface(scale);
-    surface.growTo(button != nullptr ? button->iconSize() : label->minimumSize());
+    surface.growTo(button != nullptr ? button->iconSize() : find<QLabel>(control).minimumSize());
     draw(surface);
     QPixmap picture = QPixmap::fromImage(surface.image());
     picture.setDevicePixelRatio(scale);
     if (button != nullptr) {
         button->setIcon(picture);
     } else {
-        label->setPixmap(picture);
+        find<QLabel>(control).setPixmap(picture);
     }
 }
 

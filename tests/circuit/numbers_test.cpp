@@ -23,8 +23,9 @@ std::optional<Fault> faultOf(std::string_view text)
 TEST(ToNumber, TakesNumbersWithAPointAndNothingElse)
 {
     const std::pair<const char*, double> numbers[] = {
-        {"10", 10},      {" 0.5 ", 0.5},      {"+3", 3},      {"-2.5", -2.5}, {".5", 0.5}, {"5.", 5},     {"1e3", 1000},
-        {"1E-3", 0.001}, {"4.7E-06", 4.7e-6}, {"1.e+2", 100}, {"007", 7},     {"0.0", 0},  {"1e-999", 0}, {"\t1", 1},
+        {"10", 10}, {" 0.5 ", 0.5}, {"+3", 3},       {"-2.5", -2.5},      {".5", 0.5},
+        {"5.", 5},  {"1e3", 1000},  {"1E-3", 0.001}, {"4.7E-06", 4.7e-6}, {"1.e+2", 100},
+        {"007", 7}, {"0.0", 0},     {"1e-999", 0},   {"\t1", 1},          {"\n1\r\n", 1},
     };
     for (const auto& [text, number] : numbers) {
         EXPECT_EQ(toNumber(text), number) << text;
@@ -44,9 +45,10 @@ TEST(ToNumber, TakesNumbersWithAPointAndNothingElse)
 TEST(LeadingNumber, IsTheLongestOneAtTheStart)
 {
     const std::pair<const char*, double> texts[] = {
-        {"", 0},      {"abc", 0}, {"12", 12}, {" 12V", 12},  {"1,5", 1},    {"5 ohm", 5}, {"-2.5e3x", -2500},
-        {"1e", 1},    {"1e+", 1}, {".", 0},   {"-", 0},      {".5.5", 0.5}, {"0x10", 0},  {"nan", 0},
-        {"1 000", 1}, {"e5", 0},  {"--1", 0}, {"1e-999", 0},
+        {"", 0},      {"abc", 0},   {"12", 12},         {" 12V", 12},  {"\r\n12V", 12},
+        {"1,5", 1},   {"5 ohm", 5}, {"-2.5e3x", -2500}, {"1e", 1},     {"1e+", 1},
+        {".", 0},     {"-", 0},     {".5.5", 0.5},      {"0x10", 0},   {"nan", 0},
+        {"1 000", 1}, {"e5", 0},    {"--1", 0},         {"1e-999", 0},
     };
     for (const auto& [text, number] : texts) {
         EXPECT_EQ(leadingNumber(text), number) << text;

@@ -60,7 +60,7 @@ TEST(SupplyPanel, ShowsWhatEachStepNeedsAndGivesTheKeyboardBack)
     EXPECT_EQ(shown(bench), "");
     bench.type('S');
     EXPECT_EQ(shown(bench), "panel sup ");
-    EXPECT_EQ(bench.window.placedAwayFrom.x, 1600);
+    EXPECT_EQ(bench.window.at(control::panel).awayFrom.x, 1600);
     EXPECT_EQ(bench.window.focused, ""); // arrow keys draw on
     bench.choose(control::Option3);
     EXPECT_EQ(shown(bench), "panel sup Command3 Command8 Text11 Label12 ");
@@ -109,13 +109,15 @@ TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
 
 TEST(SupplyPanel, EscapeCancelsTheFamilyOpenedLastThenTheOther)
 {
-    Bench bench;
-    bench.type('s');
-    bench.type('b');
-    bench.typeInto(control::panel, character::escape);
-    EXPECT_EQ(shown(bench).substr(0, 10), "panel sup ");
-    bench.typeInto(control::panel, character::escape);
-    EXPECT_FALSE(bench.window.at(control::panel).visible);
+    for (const auto& [first, second, left] : {std::tuple{'s', 'b', "panel sup "}, {'b', 's', "panel bat "}}) {
+        Bench bench;
+        bench.type(first);
+        bench.type(second);
+        bench.typeInto(control::panel, character::escape);
+        EXPECT_EQ(shown(bench), left);
+        bench.typeInto(control::panel, character::escape);
+        EXPECT_FALSE(bench.window.at(control::panel).visible);
+    }
 }
 
 TEST(SupplyPanel, OneClickDrawsABatteryAndASupplyOneAfterTheOther)
@@ -134,14 +136,17 @@ TEST(SupplyPanel, OneClickDrawsABatteryAndASupplyOneAfterTheOther)
 
 TEST(SupplyPanel, ConfirmedWithoutAKindDrawsNothingAndStaysOpen)
 {
-    Bench bench;
-    bench.type('s');
-    bench.choose(control::Option3);
-    bench.type('s'); // takes the choice back
-    bench.confirm("5");
-    EXPECT_EQ(bench.drawn(), "");
-    EXPECT_EQ(bench.form.supplyVoltage, 0);
-    EXPECT_EQ(shown(bench), "panel sup ");
+    for (const auto& [family, kind, left] :
+         {std::tuple{'s', control::Option3, "panel sup "}, {'b', control::Option4, "panel bat "}}) {
+        Bench bench;
+        bench.type(family);
+        bench.choose(kind);
+        bench.type(family); // takes the choice back
+        bench.confirm("5");
+        EXPECT_EQ(bench.drawn(), "");
+        EXPECT_EQ(bench.form.supplyVoltage, 0);
+        EXPECT_EQ(shown(bench), left);
+    }
 }
 
 TEST(SupplyPanel, AnOverflowInTheTextLeavesEverythingAsItIs)

@@ -34,7 +34,7 @@ public:
                 deliver(m_form, event);
             }
         };
-        m_output.addToolButton(form4::print, "");
+        m_output.addToolButton(form4::control::print, "");
         form6::load(m_splash);
     }
 
@@ -221,7 +221,7 @@ private:
     RandomPictures m_pictures{m_chance};
     StandInWindow m_help{helpControls};
     StandInWindow m_about{aboutControls};
-    StandInWindow m_output{form4::captions, form4::values};
+    StandInWindow m_output{form4::control::captions, form4::control::values};
     StandInWindow m_splash{splashControls};
     Form1 m_form{m_surface, m_window, m_dialogs, m_pictures, m_help, m_about, m_output, m_splash};
     std::array<Actor, 4> m_actors{Actor{mainWindow, m_window, {}}, Actor{form2::window, m_help, {}},

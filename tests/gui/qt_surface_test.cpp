@@ -76,6 +76,19 @@ TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
     EXPECT_EQ(surface.current().x, 0);
 }
 
+TEST(QtSurface, KeepsAPictureWiderOrTallerThanQtPaints)
+{
+    for (const QSize size : {QSize(40000, 2), QSize(2, 40000)}) {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        const QPoint last(size.width() - 1, size.height() - 1);
+        picture.setPixelColor(last, Qt::red);
+        Paper paper;
+        paper.surface.setPicture(picture);
+        EXPECT_EQ(QColor(paper.surface.image().pixel(last)), QColor(Qt::red)) << size.width();
+    }
+}
+
 TEST(QtSurface, KeepsNothingOfAMillionStrokes)
 {
     Paper paper;

@@ -97,8 +97,8 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     FullWindow()
     {
         using namespace control;
-        for (const Name name : {panel, sup, bat, Label11, Label12, Label13, Label28, Label27, Option2, Option3, Option4,
-                                Option5, Text11, Command3, Command7, Command8}) {
+        for (const Name name : {panel, sup, bat, Label11, Label12, Label13, Label28, Label27, Option1, Option2, Option3,
+                                Option4, Option5, Text11, Command3, Command7, Command8}) {
             window->setVisible(name, true);
             window->setEnabled(name, true);
         }
@@ -112,7 +112,7 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     {
         using namespace control;
         form.Canvas->surface().setBackColor(color);
-        for (const Name name : {Frame2, sup, bat, Option2, Option3, Option4, Option5}) {
+        for (const Name name : {Frame2, panel, sup, bat, Option2, Option3, Option4, Option5}) {
             window->setBackColor(name, color);
         }
     }
@@ -156,10 +156,10 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
         const Shown<QDialog, Ui::Form3> about;
         expectWholeAndReadable(about.view, aboutControls, 5);
         const Shown<QDialog, Ui::Form4> output;
-        for (const Name value : form4::values) {
+        for (const Name value : form4::control::values) {
             output.window->setText(value, "0");
         }
-        expectWholeAndReadable(output.view, form4::captions, 20);
+        expectWholeAndReadable(output.view, form4::control::captions, 20);
         const Shown<QDialog, Ui::Form6> splash;
         expectWholeAndReadable(splash.view, splashControls, 5);
     }

@@ -59,6 +59,7 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
     bench.tick(control::statusTimer);
     EXPECT_EQ(panels(), "1600, 1450|↑ Up|Rectangle|Erase mode|eraser|"
                         "Pen at 1600, 1450 twips, heading up, tool Rectangle, erase mode");
+    EXPECT_EQ(bench.window.at(control::panel).awayFrom.y, 1450);
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 }
 
@@ -75,8 +76,8 @@ TEST(Colors, CanvasColourWipesTheDrawingAndReachesToolboxAndPanelBlackOnlyThePan
     EXPECT_EQ(bench.outcome(), nothing);
     EXPECT_EQ(bench.window.at(control::Frame2).backColor, 0x0000FFU);
     EXPECT_EQ(bench.form.canvasBackColor, black);
-    for (const Name control :
-         {control::Option2, control::Option3, control::Option4, control::Option5, control::bat, control::sup}) {
+    for (const Name control : {control::panel, control::Option2, control::Option3, control::Option4, control::Option5,
+                               control::bat, control::sup}) {
         EXPECT_EQ(bench.window.at(control).backColor, black) << control;
     }
 }

@@ -104,7 +104,7 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
 {
     ChangedBench bench;
     CanvasState& state = bench.form;
-    bench.output.at(form4::Label22).text = "0.2";
+    bench.output.at(form4::control::Label22).text = "0.2";
     bench.window.at(control::Option2).value = 1;
     bench.dialogs.picked = 0x0000FF;
     for (const char* const item : {"gatescolor", "forec", "bc", "linee", "jj", "gg", "eraser", "Label1"}) {
@@ -122,7 +122,7 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
     EXPECT_FALSE(bench.window.at(control::Label27).visible);
     EXPECT_EQ(state.confirm[gatesConfirm], 1);
     EXPECT_TRUE(bench.window.checked("gg"));
-    EXPECT_EQ(bench.output.at(form4::Label22).text, "0");
+    EXPECT_EQ(bench.output.at(form4::control::Label22).text, "0");
     EXPECT_EQ(bench.window.at(control::Option2).value, 0);
     EXPECT_EQ(bench.window.at(control::bat).backColor, white);
     EXPECT_EQ(state.wireColor, black);

@@ -129,13 +129,13 @@ public:
         void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
+        Point awayFrom; ///< the place that it keeps away from
     };
 
     explicit StandInWindow(std::span<const Name> names, std::span<const Name> more = {});
 
     std::string caption;
     std::string focused; ///< the control that was given the keyboard last
-    Point placedAwayFrom;
     std::string cursor;
     int timesEnded = 0;
     int timesShown = 0;
@@ -173,7 +173,11 @@ public:
     [[nodiscard]] bool visible(Name control) const override { return at(control).visible; }
     void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
     [[nodiscard]] bool enabled(Name control) const override { return at(control).enabled; }
-    void focus(Name control) override { focused = control; }
+    void focus(Name control) override
+    {
+        (void)at(control);
+        focused = control;
+    }
     void setText(Name control, std::string_view text) override { at(control).text = text; }
     [[nodiscard]] std::string text(Name control) const override { return at(control).text; }
     void setDescription(Name control, std::string_view text) override { at(control).description = text; }
@@ -183,7 +187,7 @@ public:
     void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
-    void placeAwayFrom(Name /*control*/, double x, double y) override { placedAwayFrom = {x, y}; }
+    void placeAwayFrom(Name control, double x, double y) override { at(control).awayFrom = {x, y}; }
     void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
 
 private:
@@ -200,7 +204,7 @@ struct Bench {
     StandInPictures pictures;
     StandInWindow help{helpControls};
     StandInWindow about{aboutControls};
-    StandInWindow output{form4::captions, form4::values};
+    StandInWindow output{form4::control::captions, form4::control::values};
     StandInWindow splash{splashControls};
     Form1 form{surface, window, dialogs, pictures, help, about, output, splash};
 
