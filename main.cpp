@@ -71,7 +71,7 @@ int main(int argc, char* argv[])
     QtWindow form2(helpView, report);
     QtWindow form3(aboutView, report);
     QtWindow form4(outputView, report);
-    QtDialogs dialogs(mainView);
+    QtDialogs dialogs(mainView, *form.Canvas);
     QtPictures pictures(form.Canvas->surface());
     Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form2, form3, form4, form6);
     schemlet = &form1;

@@ -23,7 +23,7 @@ struct Program {
         return made;
     }();
     QtWindow window{view, [this](const Event& event) { deliver(form1, event); }};
-    QtDialogs dialogs{view};
+    QtDialogs dialogs{view, *form.Canvas};
     QtPictures pictures{form.Canvas->surface()};
     QuietWindow others;
     Form1 form1{form.Canvas->surface(), window, dialogs, pictures, others, others, others, others};

@@ -107,8 +107,22 @@ void nameColorFields(QColorDialog& dialog)
     }
 }
 
-/// Empty if the user cancels.
-QString chooseFile(QFileDialog& dialog)
+} // namespace
+
+QWidget* QtDialogs::front() const
+{
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr ? active : &m_owner;
+}
+
+int QtDialogs::run(QDialog& dialog)
+{
+    const int result = dialog.exec();
+    m_canvas.setFocus();
+    return result;
+}
+
+QString QtDialogs::chooseFile(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
     resizeOnScreen(dialog, {760, 480});                 // room for all columns
@@ -119,18 +133,10 @@ QString chooseFile(QFileDialog& dialog)
     // What is selected once the dialog is over may be something else, or nothing: a key may have come meanwhile.
     QString chosen;
     QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
-    dialog.exec();
+    run(dialog);
     // Some window managers give the keyboard to nobody when the dialog goes right after its own question.
     dialog.parentWidget()->activateWindow();
     return chosen;
-}
-
-} // namespace
-
-QWidget* QtDialogs::front() const
-{
-    QWidget* const active = QApplication::activeWindow();
-    return active != nullptr ? active : &m_owner;
 }
 
 int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
@@ -142,7 +148,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     applyStyle(box, style);
     makeRoomForTitle(box);
     const StrayKeys strayKeys(StrayKeys::Drop::repeatsAndArrows);
-    return answerOf(box.exec());
+    return answerOf(style == Box::okWarning ? box.exec() : run(box));
 }
 
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
@@ -153,7 +159,7 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
     box.setTextValue(toQString(preset));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     // A pasted line end is nothing that anybody typed.
-    return box.exec() == QDialog::Accepted ? box.textValue().remove('\n').remove('\r').toStdString() : std::string();
+    return run(box) == QDialog::Accepted ? box.textValue().remove('\n').remove('\r').toStdString() : std::string();
 }
 
 Color QtDialogs::pickColor()
@@ -165,7 +171,7 @@ Color QtDialogs::pickColor()
     }
     m_colorDialog->setCurrentColor(toQColor(m_color));
     const StrayKeys strayKeys(StrayKeys::Drop::repeats);
-    if (m_colorDialog->exec() == QDialog::Accepted) {
+    if (run(*m_colorDialog) == QDialog::Accepted) {
         m_color = toColor(m_colorDialog->selectedColor());
     }
     return m_color;

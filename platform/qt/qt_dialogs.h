@@ -3,12 +3,16 @@
 #include "platform/dialogs.h"
 
 class QColorDialog;
+class QDialog;
+class QFileDialog;
+class QString;
 class QWidget;
 
-/// Boxes in front of the program's windows.
+/// Boxes in front of the program's windows. After all but warnings the keyboard is the canvas's, whatever had it
+/// before, so that the drawing goes on; a warning may be about what is typed, which can then be mended.
 class QtDialogs final : public Dialogs {
 public:
-    explicit QtDialogs(QWidget& owner) : m_owner(owner) {}
+    QtDialogs(QWidget& owner, QWidget& canvas) : m_owner(owner), m_canvas(canvas) {}
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
@@ -19,8 +23,14 @@ public:
 private:
     /// The window that the user is in: the box belongs to it and gives the keyboard back to it.
     [[nodiscard]] QWidget* front() const;
+    /// Empty if the user cancels.
+    QString chooseFile(QFileDialog& dialog);
+
+    /// Shows it until the user closes it; then the canvas has the keyboard.
+    int run(QDialog& dialog);
 
     QWidget& m_owner;
+    QWidget& m_canvas;
     QColorDialog* m_colorDialog = nullptr; ///< one for the whole run, made when it is first needed
     Color m_color = black;                 ///< picked last
 };

@@ -131,7 +131,8 @@ void QtWindow::report(const Event& event) const
 
 void QtWindow::setCaption(std::string_view title)
 {
-    m_form.setWindowTitle(toQString(title));
+    // The toolkit would leave out a [*], its place for the mark of a changed document.
+    m_form.setWindowTitle(toQString(title).replace("[*]", "[*][*]"));
 }
 
 void QtWindow::showWindow()
@@ -170,7 +171,8 @@ void QtWindow::setHeight(int twips)
 
 void QtWindow::printForm()
 {
-    printPicture(m_canvas != nullptr ? pictureOfCanvas() : m_form.grab().toImage(), m_form.windowTitle());
+    printPicture(m_canvas != nullptr ? pictureOfCanvas() : m_form.grab().toImage(),
+                 m_form.windowTitle().replace("[*][*]", "[*]"));
 }
 
 /// The canvas with what lies on it, but without what only guides the hand.

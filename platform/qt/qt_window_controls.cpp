@@ -62,7 +62,10 @@ bool QtWindow::enabled(Name control) const
 
 void QtWindow::focus(Name control)
 {
-    find<QWidget>(control).setFocus(Qt::TabFocusReason); // for this reason a text box selects its text
+    find<QWidget>(control).setFocus();
+    if (auto* const box = findIf<QLineEdit>(control)) {
+        box->selectAll();
+    }
 }
 
 void QtWindow::setText(Name control, std::string_view text)

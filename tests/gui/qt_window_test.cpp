@@ -5,6 +5,7 @@
 
 #include <QMenu>
 #include <QMouseEvent>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 // What the main window makes of keys and mouse where that takes better timing than a person has.
@@ -106,6 +107,16 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
     QTest::keyClick(main.form.Canvas, Qt::Key_Backtab);
     EXPECT_EQ(edge(), QColor(Qt::white));
     EXPECT_EQ(main.view.focusWidget(), main.form.Image7);
+    main.window->focus(Canvas); // not by Tab
+    EXPECT_EQ(edge(), QColor(Qt::white));
+    main.form.Image7->setFocus();
     QTest::keyClick(main.form.Image7, Qt::Key_Space);
     EXPECT_EQ(main.noted(), "click Image70\n");
+}
+
+TEST(QtWindow, ShowsTheWholeNameOfADrawing)
+{
+    MainWindow main;
+    main.window->setCaption("plan [*] b");
+    EXPECT_EQ(main.view.windowHandle()->title(), "plan [*] b");
 }
