@@ -65,6 +65,13 @@ constexpr auto printerDescription = R"ppd(*PPD-Adobe: "4.3"
 *DefaultResolution: 600dpi
 )ppd";
 
+bool isReady()
+{
+    cups_dest_t* const usual = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+    cupsFreeDests(1, usual);
+    return usual != nullptr;
+}
+
 } // namespace
 
 PrintServer::PrintServer()
@@ -76,7 +83,6 @@ PrintServer::PrintServer()
     m_server.setStandardErrorFile(m_folder.filePath("log"));
     m_server.start(program,
                    {"-f", "-c", m_folder.filePath("root/cupsd.conf"), "-s", m_folder.filePath("root/cups-files.conf")});
-    waitUntil("the print server", [this] { return QFile::exists(m_folder.filePath("state/cupsd.pid")); });
     const QByteArray socket = QFile::encodeName(m_folder.filePath("socket"));
     qputenv("CUPS_SERVER", socket);
     cupsSetServer(socket.constData()); // where the variable has been read before
@@ -85,6 +91,7 @@ PrintServer::PrintServer()
     qputenv("HOME", QFile::encodeName(m_folder.path()));
     qunsetenv("LPDEST");
     qunsetenv("PRINTER");
+    waitUntil("the print server", isReady);
 }
 
 void PrintServer::writeFiles() const
