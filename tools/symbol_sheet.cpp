@@ -103,8 +103,8 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPointF pen)
     Drawing drawing;
     surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
     Hand hand(surface);
-    const CanvasState& state = hand.state();
-    hand.state().heading = heading;
+    CanvasState& state = hand.state();
+    state.heading = heading;
     hand.goTo(qRound(pen.x() * twipsPerPixel), qRound(pen.y() * twipsPerPixel));
     hand.put(entry.draw);
     drawing.image = surface.image();

@@ -53,7 +53,7 @@ private:
 
     double m_ratio = 1;
     QtSurface m_canvas;
-    std::unique_ptr<QtSurface>
-        m_screen;      ///< reaches as far as the window did since the last wipe, as nothing beyond it is seen
+    /// Reaches as far as the window did since the last wipe: nothing beyond it was seen.
+    std::unique_ptr<QtSurface> m_screen;
     QRegion m_changed; ///< by the stroke that is being drawn on both
 };
