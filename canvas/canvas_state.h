@@ -1,11 +1,12 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/event.h"
 #include "platform/pictures.h"
 #include "platform/surface.h"
-#include "platform/window.h"
 
 #include <array>
+#include <deque>
 #include <string>
 
 /// The controls on and around the canvas, by the names they have in the form.
@@ -181,6 +182,8 @@ struct Form1 : CanvasState {
     Window& form3; ///< the about window
     Window& form4; ///< the Output window
     Window& form6; ///< the splash
+
+    std::deque<Event> waiting; ///< the one that is being handled first; empty while the user does nothing
 };
 
 /// The one shape of every command.

@@ -74,9 +74,7 @@ void dispatch(Form1& form, const Event& event)
     }
 }
 
-} // namespace
-
-void deliver(Form1& form, const Event& event)
+void handle(Form1& form, const Event& event)
 {
     try {
         dispatch(form, event);
@@ -88,5 +86,22 @@ void deliver(Form1& form, const Event& event)
         event.kind == Event::Kind::tick || event.kind == Event::Kind::mouseMove || event.kind == Event::Kind::hover;
     if (!quiet) {
         showStatusSoon(form);
+    }
+}
+
+} // namespace
+
+void deliver(Form1& form, const Event& event)
+{
+    if (event.kind == Event::Kind::tick) {
+        return handle(form, event); // the clock goes on while a box waits
+    }
+    form.waiting.push_back(event);
+    if (form.waiting.size() > 1) {
+        return;
+    }
+    while (!form.waiting.empty()) {
+        handle(form, form.waiting.front());
+        form.waiting.pop_front();
     }
 }

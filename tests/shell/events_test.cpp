@@ -37,6 +37,24 @@ TEST(Deliver, RunsMenuItemsByNameThePopupsLikeTheBarsAndTheToolbars)
     }
 }
 
+TEST(Deliver, LetsWhatComesTooEarlyWaitForTheBoxesAnswerButNotTheClock)
+{
+    Bench bench;
+    bench.dialogs.expectInput(" RESISTANCE ", "5");
+    bench.dialogs.meanwhile = [&bench] {
+        bench.press(key::down);
+        bench.mouseUp(button::left, 30, 450);
+        bench.tick(control::statusTimer);
+        EXPECT_EQ(bench.drawn(), "");
+        EXPECT_EQ(bench.form.statusDue, 0);
+    };
+    bench.press(0); // makes the status bar due
+    bench.type('r');
+    EXPECT_EQ(bench.form.resist, 5);
+    EXPECT_EQ(bench.pen(), "2650 1550"); // past the resistor, then down
+    EXPECT_EQ(bench.marker(), "30 150");
+}
+
 TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
 {
     Bench bench;

@@ -67,6 +67,9 @@ ScriptedDialogs::Expected ScriptedDialogs::next(std::string_view prompt, std::st
     Expected next = m_expected.front();
     m_expected.pop_front();
     EXPECT_EQ(title, next.title);
+    if (const auto happens = std::exchange(meanwhile, {})) {
+        happens();
+    }
     return next;
 }
 

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <map>
@@ -67,6 +68,7 @@ public:
     std::string openFile() override;
     std::string saveFile(std::string_view extension, std::string_view filter) override;
 
+    std::function<void()> meanwhile;       ///< happens while a box is open
     Color picked = black;                  ///< what the colour dialog says
     std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
     std::optional<std::string> fileToSave;
