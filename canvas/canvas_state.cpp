@@ -8,6 +8,11 @@ void setTitle(Form1& form, std::string_view file)
     form.controls.setCaption(" - " + std::string(productName) + " " + std::string(file));
 }
 
+void tell(Form1& form, const RuntimeError& error)
+{
+    form.dialogs.messageBox(error.what(), Box::okWarning, productName);
+}
+
 void load(Form1& form)
 {
     setTitle(form, noFile);

@@ -3,6 +3,7 @@
 #include "platform/dialogs.h"
 #include "platform/event.h"
 #include "platform/pictures.h"
+#include "platform/runtime_error.h"
 #include "platform/surface.h"
 
 #include <array>
@@ -97,7 +98,7 @@ struct CanvasState {
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
-    std::string fileTitle; ///< the name of the file saved last, without its folder
+    std::string fileTitle; ///< the name of the file saved last since New, without its folder
     int printAnswer = 0;   ///< the button that closed the question about printing
     int blinkCount = 0;    ///< 0 to 9975: the marker shows at multiples of 50
     int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
@@ -205,6 +206,9 @@ inline constexpr std::string_view noFile = " New File ";
 
 /// Puts a file's name into the main window's title.
 void setTitle(Form1& form, std::string_view file);
+
+/// Tells the user what went wrong.
+void tell(Form1& form, const RuntimeError& error);
 
 /// Moves the marker to a left edge of its own, in twips, and to the pen's height.
 void placeMarker(Form1& form, double left);

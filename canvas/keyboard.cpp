@@ -63,7 +63,7 @@ void arrowKey(Form1& form, const ArrowKey& arrow)
     form.surface.setForeColor(form.wireColor);
     if (wireAhead(form, arrow) && form.autoJumper == 1) {
         form.jumperAnswer =
-            form.dialogs.messageBox(" Do you want to draw a JUMPER ?", Box::yesNoQuestion, "POINT (or) LINE AHEAD...");
+            form.dialogs.messageBox(" Do you want to draw a JUMPER ?", Box::walkQuestion, "POINT (or) LINE AHEAD...");
         if (form.jumperAnswer == answer::yes) {
             jumper(form);
         }

@@ -1,6 +1,7 @@
 #include "circuit/output_window.h"
 
 #include "circuit/numbers.h"
+#include "platform/runtime_error.h"
 
 namespace {
 
@@ -69,7 +70,12 @@ void output(Form1& form)
         form.form4.setVisible(value, true);
     }
     form.form4.showWindow();
-    computeOutput(form);
+    try {
+        computeOutput(form);
+    } catch (const RuntimeError& error) {
+        tell(form, error);
+        form.form4.showWindow(); // it got the keyboard too late for the box to give it back
+    }
 }
 
 void clearOutput(Form1& form)

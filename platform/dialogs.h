@@ -6,7 +6,13 @@
 #include <string_view>
 
 /// Buttons and icon of a message box.
-enum class Box { okOnly, okWarning, yesNoQuestion, yesNoCancelWarning };
+enum class Box {
+    okOnly,
+    okWarning,
+    yesNoQuestion,
+    walkQuestion, ///< looks the same, but ignores the walk's arrow keys: they count only after another key
+    yesNoCancelWarning
+};
 
 /// What a message box answers. The numbers count: the answer about saving becomes the pen's heading.
 namespace answer {
@@ -27,11 +33,12 @@ public:
     virtual std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) = 0;
 
     /// Lets the user pick a colour. On Cancel it is the one picked last, by whatever command; black before the first.
-    virtual Color pickColor() = 0;
+    virtual Color pickColor(std::string_view title) = 0;
 
     /// Asks for a picture file to open; its path, empty on Cancel.
     virtual std::string openFile() = 0;
-    /// Asks for a file to write; its path. A name without an extension gets this one; the filter is what the dialog
-    /// says of the files, a bar, and their pattern. Throws dialogCancelled.
-    virtual std::string saveFile(std::string_view extension, std::string_view filter) = 0;
+    /// Asks for a file to write; its path. Proposes a name, which may be empty, in the folder used last. A name without
+    /// an extension gets this one; the filter is what the dialog says of the files, a bar, and their pattern. Throws
+    /// dialogCancelled.
+    virtual std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) = 0;
 };

@@ -58,9 +58,13 @@ public:
     {
         return typed.empty() ? std::string(preset) : typed;
     }
-    Color pickColor() override { return black; }
+    Color pickColor(std::string_view /*title*/) override { return black; }
     std::string openFile() override { return {}; }
-    std::string saveFile(std::string_view /*extension*/, std::string_view /*filter*/) override { return {}; }
+    std::string saveFile(std::string_view /*name*/, std::string_view /*extension*/,
+                         std::string_view /*filter*/) override
+    {
+        return {};
+    }
 };
 
 /// Knows no files.

@@ -21,7 +21,7 @@ enum class Look {
 struct MenuItem {
     Name name;                   ///< empty for a separator
     std::string_view caption;    ///< & marks the mnemonic; "-" is a separator
-    std::string_view shortcut{}; ///< such as "Ctrl+E"
+    std::string_view shortcut{}; ///< such as "Ctrl+E"; of "Ctrl+X; Ctrl+Q" the menu shows the first
     Look look = Look::plain;
 };
 

@@ -4,12 +4,12 @@
 
 void forec(Form1& form)
 {
-    pickColor<&CanvasState::wireColor>(form);
+    pickColor<colored::wires>(form);
 }
 
 void bc(Form1& form)
 {
-    pickColor<&CanvasState::canvasBackColor>(form);
+    pickColor<colored::canvas>(form);
     if (form.canvasBackColor != black) {
         form.surface.setBackColor(form.canvasBackColor);
         form.controls.setBackColor(control::Frame2, form.canvasBackColor);

@@ -4,10 +4,33 @@
 
 // All colour commands share one dialog. After Cancel they take the colour that was picked last, by whichever of them.
 
-/// Sets one colour variable; the symbols look at it when they are drawn next.
-template <Color CanvasState::*color> void pickColor(Form1& form)
+/// One colour variable, and what the dialog's title says of it.
+struct Colored {
+    Color CanvasState::*color;
+    std::string_view title;
+};
+
+/// What can be coloured; the symbols look at their colour when they are drawn next.
+namespace colored {
+inline constexpr Colored resistances{&CanvasState::resistanceColor, "Color of resistances"};
+inline constexpr Colored inductances{&CanvasState::inductanceColor, "Color of inductances"};
+inline constexpr Colored capacitances{&CanvasState::capacitanceColor, "Color of capacitances"};
+inline constexpr Colored motors{&CanvasState::motorColor, "Color of motors"};
+inline constexpr Colored generators{&CanvasState::generatorColor, "Color of generators"};
+inline constexpr Colored transformers{&CanvasState::transformerColor, "Color of transformers and transistors"};
+inline constexpr Colored armatures{&CanvasState::armatureColor, "Color of armatures"};
+inline constexpr Colored fields{&CanvasState::fieldColor, "Color of fields"};
+inline constexpr Colored gates{&CanvasState::gatesColor, "Color of gates"};
+inline constexpr Colored diodes{&CanvasState::diodesColor, "Color of diodes"};
+inline constexpr Colored buffers{&CanvasState::bufferColor, "Color of buffers"};
+inline constexpr Colored opamps{&CanvasState::opampColor, "Color of op-amplifiers"};
+inline constexpr Colored wires{&CanvasState::wireColor, "Color of wires"};
+inline constexpr Colored canvas{&CanvasState::canvasBackColor, "Canvas color: wipes the drawing, Cancel too"};
+} // namespace colored
+
+template <const Colored& colored> void pickColor(Form1& form)
 {
-    form.*color = form.dialogs.pickColor();
+    form.*colored.color = form.dialogs.pickColor(colored.title);
 }
 
 /// The wires' colour.

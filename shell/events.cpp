@@ -79,7 +79,7 @@ void handle(Form1& form, const Event& event)
     try {
         dispatch(form, event);
     } catch (const RuntimeError& error) {
-        form.dialogs.messageBox(error.what(), Box::okWarning, productName);
+        tell(form, error);
     }
     // Neither a tick nor a move changes what the status bar shows.
     const bool quiet =

@@ -62,7 +62,7 @@ void save(Form1& form)
 {
     form.savedMark = 100; // first of all: a save that fails or is cancelled counts too
     try {
-        const std::string path = form.dialogs.saveFile("JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
+        const std::string path = form.dialogs.saveFile(form.fileTitle, "JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
         form.pictures.saveImage(path);
         form.fileTitle = withoutFolder(path);
         setTitle(form, form.fileTitle);
@@ -97,6 +97,7 @@ void exit_(Form1& form)
 void Command4(Form1& form)
 {
     clearOutput(form);
+    form.fileTitle.clear();
     form.surface.setBackColor(white);
     form.surface.clear();
     form.surface.setDrawWidth(2);

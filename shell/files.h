@@ -20,7 +20,8 @@ void print(Form1& form);
 /// Ends the program after a question.
 void exit_(Form1& form);
 
-/// The reset behind New: an empty white canvas, a pen of normal width, no erase mode, all questions on, totals 0.
+/// The reset behind New: an empty white canvas, a pen of normal width, no erase mode, all questions on, totals 0,
+/// no name to save it by.
 void Command4(Form1& form);
 
 /// Ends the program.

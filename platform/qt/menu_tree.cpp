@@ -13,7 +13,7 @@ QAction& MenuTree::add(int depth, const MenuItem& item)
     const bool separator = item.caption == "-";
     auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
     action->setSeparator(separator);
-    action->setShortcut(QKeySequence::fromString(toQString(item.shortcut), QKeySequence::PortableText));
+    action->setShortcuts(QKeySequence::listFromString(toQString(item.shortcut), QKeySequence::PortableText));
     action->setCheckable(item.look == Look::unchecked || item.look == Look::checked);
     action->setChecked(item.look == Look::checked);
     action->setVisible(item.look != Look::hidden);

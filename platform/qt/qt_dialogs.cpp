@@ -8,12 +8,13 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QImageReader>
 #include <QInputDialog>
-#include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTreeView>
 
 namespace {
@@ -28,41 +29,13 @@ void makeRoomForTitle(QMessageBox& box)
     }
 }
 
-bool isArrow(const QKeyEvent& key)
-{
-    return key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
-}
-
-/// Keys that are not meant for a box that has just opened are dropped until the first one that is: the repeats of a key
-/// held from before, and, where a question comes up in the middle of a walk, the walk's arrow keys, which would move
-/// the focus from Yes to No. (Repeats alone would not do for those: X11 does not always tell them from fresh presses.)
-class StrayKeys final : public QObject {
-public:
-    enum class Drop { repeats, repeatsAndArrows };
-
-    explicit StrayKeys(Drop drop) : m_drop(drop) { QCoreApplication::instance()->installEventFilter(this); }
-
-    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (m_dropping && (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)) {
-            const auto& key = dynamic_cast<const QKeyEvent&>(*event);
-            m_dropping = key.isAutoRepeat() || (m_drop == Drop::repeatsAndArrows && isArrow(key));
-            return m_dropping;
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    Drop m_drop;
-    bool m_dropping = true;
-};
-
 /// The style's buttons and icon.
 void applyStyle(QMessageBox& box, Box style)
 {
     switch (style) {
     case Box::okOnly: break;
     case Box::okWarning: box.setIcon(QMessageBox::Warning); break;
+    case Box::walkQuestion: HeldKeys::ignoreArrows(box); [[fallthrough]];
     case Box::yesNoQuestion:
         box.setIcon(QMessageBox::Question);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -70,6 +43,7 @@ void applyStyle(QMessageBox& box, Box style)
     case Box::yesNoCancelWarning:
         box.setIcon(QMessageBox::Warning);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        box.button(QMessageBox::Cancel)->setText("&Cancel"); // the toolkit gives mnemonics to the others only
         break;
     }
     box.setDefaultButton(QMessageBox::Yes);
@@ -107,6 +81,17 @@ void nameColorFields(QColorDialog& dialog)
     }
 }
 
+/// The labels before these boxes are not tied to them.
+void nameFileFields(const QFileDialog& dialog)
+{
+    for (const auto& [field, name] :
+         {std::pair("lookInCombo", "Look in"), std::pair("fileTypeCombo", "Files of type")}) {
+        if (auto* const box = dialog.findChild<QWidget*>(field)) {
+            box->setAccessibleName(name);
+        }
+    }
+}
+
 } // namespace
 
 QWidget* QtDialogs::front() const
@@ -115,27 +100,40 @@ QWidget* QtDialogs::front() const
     return active != nullptr ? active : &m_owner;
 }
 
-int QtDialogs::run(QDialog& dialog)
+int QtDialogs::runAside(QDialog& dialog)
 {
     const int result = dialog.exec();
+    // A screen without a window manager gives the keyboard to nobody, and so do some managers after two boxes at once.
+    dialog.parentWidget()->activateWindow();
+    return result;
+}
+
+int QtDialogs::run(QDialog& dialog)
+{
+    const int result = runAside(dialog);
     m_canvas.setFocus();
     return result;
 }
 
 QString QtDialogs::chooseFile(QFileDialog& dialog)
 {
-    dialog.setOption(QFileDialog::DontUseNativeDialog); // desktops' own dialogs keep a list of recent files
-    resizeOnScreen(dialog, {760, 480});                 // room for all columns
+    dialog.setOption(QFileDialog::DontUseNativeDialog);   // desktops' own dialogs keep a list of recent files
+    resizeOnScreen(dialog, {760, 480});                   // room for all columns
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // its description of the files says enough
+    if (!m_folder.isEmpty()) {
+        dialog.setDirectory(m_folder);
+    }
+    nameFileFields(dialog);
     if (const auto* const files = dialog.findChild<QTreeView*>()) {
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // the toolkit cuts the dates off
     }
-    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     // What is selected once the dialog is over may be something else, or nothing: a key may have come meanwhile.
     QString chosen;
     QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
     run(dialog);
-    // Some window managers give the keyboard to nobody when the dialog goes right after its own question.
-    dialog.parentWidget()->activateWindow();
+    if (!chosen.isEmpty()) {
+        m_folder = QFileInfo(chosen).path();
+    }
     return chosen;
 }
 
@@ -147,8 +145,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     box.setTextFormat(Qt::PlainText);
     applyStyle(box, style);
     makeRoomForTitle(box);
-    const StrayKeys strayKeys(StrayKeys::Drop::repeatsAndArrows);
-    return answerOf(style == Box::okWarning ? box.exec() : run(box));
+    return answerOf(style == Box::okWarning ? runAside(box) : run(box));
 }
 
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
@@ -157,20 +154,19 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title,
     box.setWindowTitle(toQString(title));
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));
-    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     // A pasted line end is nothing that anybody typed.
     return run(box) == QDialog::Accepted ? box.textValue().remove('\n').remove('\r').toStdString() : std::string();
 }
 
-Color QtDialogs::pickColor()
+Color QtDialogs::pickColor(std::string_view title)
 {
     if (m_colorDialog == nullptr) {
         m_colorDialog = new QColorDialog(&m_owner);
         m_colorDialog->setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
         nameColorFields(*m_colorDialog);
     }
+    m_colorDialog->setWindowTitle(toQString(title));
     m_colorDialog->setCurrentColor(toQColor(m_color));
-    const StrayKeys strayKeys(StrayKeys::Drop::repeats);
     if (run(*m_colorDialog) == QDialog::Accepted) {
         m_color = toColor(m_colorDialog->selectedColor());
     }
@@ -182,17 +178,17 @@ std::string QtDialogs::openFile()
     QFileDialog dialog(front(), "Open");
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(pictureFilters());
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
     return chooseFile(dialog).toStdString();
 }
 
-std::string QtDialogs::saveFile(std::string_view extension, std::string_view filter)
+std::string QtDialogs::saveFile(std::string_view name, std::string_view extension, std::string_view filter)
 {
     const QStringList descriptionAndPattern = toQString(filter).split('|');
     QFileDialog dialog(front(), "Save");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(toQString(extension));
     dialog.setNameFilter(descriptionAndPattern.value(0) + " (" + descriptionAndPattern.value(1) + ")");
+    dialog.selectFile(toQString(name));
     const QString path = chooseFile(dialog);
     if (path.isEmpty()) {
         throw RuntimeError(Fault::dialogCancelled, "Nothing was chosen.");

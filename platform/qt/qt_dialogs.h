@@ -1,11 +1,13 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/qt/held_keys.h"
+
+#include <QString>
 
 class QColorDialog;
 class QDialog;
 class QFileDialog;
-class QString;
 class QWidget;
 
 /// Boxes in front of the program's windows. After all but warnings the keyboard is the canvas's, whatever had it
@@ -16,9 +18,9 @@ public:
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
-    Color pickColor() override;
+    Color pickColor(std::string_view title) override;
     std::string openFile() override;
-    std::string saveFile(std::string_view extension, std::string_view filter) override;
+    std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) override;
 
 private:
     /// The window that the user is in: the box belongs to it and gives the keyboard back to it.
@@ -26,11 +28,15 @@ private:
     /// Empty if the user cancels.
     QString chooseFile(QFileDialog& dialog);
 
-    /// Shows it until the user closes it; then the canvas has the keyboard.
+    /// Shows it until the user closes it; then its parent has the keyboard, as it had it before.
+    static int runAside(QDialog& dialog);
+    /// The same, but the canvas has it then.
     int run(QDialog& dialog);
 
     QWidget& m_owner;
     QWidget& m_canvas;
+    HeldKeys m_heldKeys;
+    QString m_folder;                      ///< that the last chosen file is in
     QColorDialog* m_colorDialog = nullptr; ///< one for the whole run, made when it is first needed
     Color m_color = black;                 ///< picked last
 };

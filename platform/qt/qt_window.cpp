@@ -151,7 +151,11 @@ void QtWindow::showWithoutKeyboard()
 
 void QtWindow::hideWindow()
 {
+    const bool hadKeyboard = m_form.isActiveWindow();
     m_form.hide();
+    if (hadKeyboard && m_form.parentWidget() != nullptr) {
+        m_form.parentWidget()->activateWindow(); // a screen without a window manager gives the keyboard to nobody
+    }
 }
 
 void QtWindow::unload()

@@ -72,7 +72,7 @@ TEST(JumperQuestion, ComesOnlyWithTheSwitchOnAndTheWiresOwnColourAheadAndYesHops
         bench.press(key::up);
         EXPECT_EQ(bench.outcome(), c.outcome);
         EXPECT_EQ(bench.dialogs.lastPrompt, c.answer == 0 ? "" : " Do you want to draw a JUMPER ?");
-        EXPECT_EQ(bench.dialogs.lastStyle, c.answer == 0 ? Box::okOnly : Box::yesNoQuestion);
+        EXPECT_EQ(bench.dialogs.lastStyle, c.answer == 0 ? Box::okOnly : Box::walkQuestion);
     }
 }
 

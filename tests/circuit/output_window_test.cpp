@@ -89,6 +89,6 @@ TEST(OutputWindow, TellsWhatCannotBeComputedAndShowsWhatComesBefore)
         bench.click("output");
         EXPECT_TRUE(bench.dialogs.lastPrompt.starts_with(c.message)) << bench.dialogs.lastPrompt;
         EXPECT_EQ(values(bench), c.shown);
-        EXPECT_EQ(bench.output.timesShown, 1);
+        EXPECT_EQ(bench.output.timesShown, 2); // the message takes the keyboard away from it
     }
 }

@@ -66,7 +66,8 @@ public:
     {
         meanwhile();
         switch (style) {
-        case Box::yesNoQuestion: return m_chance.of(std::array{answer::yes, answer::no});
+        case Box::yesNoQuestion:
+        case Box::walkQuestion: return m_chance.of(std::array{answer::yes, answer::no});
         case Box::yesNoCancelWarning: return m_chance.of(std::array{answer::yes, answer::no, answer::cancel});
         default: return answer::no;
         }
@@ -76,9 +77,10 @@ public:
         meanwhile();
         return m_chance.oneIn(2) ? m_chance.text() : std::string(preset);
     }
-    Color pickColor() override { return m_chance.color(); }
+    Color pickColor(std::string_view /*title*/) override { return m_chance.color(); }
     std::string openFile() override { return m_chance.path(); }
-    std::string saveFile(std::string_view /*extension*/, std::string_view /*filter*/) override
+    std::string saveFile(std::string_view /*name*/, std::string_view /*extension*/,
+                         std::string_view /*filter*/) override
     {
         if (m_chance.oneIn(3)) {
             throw RuntimeError(Fault::dialogCancelled, "");

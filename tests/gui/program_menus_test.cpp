@@ -8,15 +8,17 @@
 
 namespace {
 
+constexpr auto canvasTitle = "Canvas color: wipes the drawing, Cancel too";
+
 /// In the dialog that has been asked for; no colour cancels it.
-void pick(Program& program, const QString& color)
+void pick(Program& program, const char* title, const QString& color)
 {
-    program.waitForWindow("Select Color");
+    program.waitForWindow(title);
     if (!color.isEmpty()) {
         program.keys({"alt+h", "ctrl+a"});
         program.type(color);
     }
-    program.answer("Select Color", color.isEmpty() ? "Escape" : "Return");
+    program.answer(title, color.isEmpty() ? "Escape" : "Return");
 }
 
 QColor ground(const Program& program, const char* panel)
@@ -38,15 +40,16 @@ TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
     };
     const Outcome motor{"This draws a DC MOTOR", "Do you want to Continue ?"};
     const Outcome diac{"This draws a DIAC THYRISTOR"};
-    const Outcome colors{"Select Color"};
+    const Outcome capacitances{"Color of capacitances"};
+    const Outcome wires{"Color of wires"};
     const Way ways[] = {
         {0, "p", {"File", "Print"}, {"Schemlet 2.0", printQuestion}, {"Schemlet 2.0", printQuestion}},
         {1, "Return", {"Edit", "Eraser"}, {nullptr, "Erase mode"}, {nullptr, "Normal mode"}},
         {2, "Up Return", {"View", "Output"}, {"Output"}, {"Output"}},
         {3, "m Down Return", {"Electrical Components", "Motors", "D.C Motor"}, motor, motor},
         {4, "h d", {"Electronic Components", "Thyristors", "DIAC"}, diac, diac},
-        {-5, "Down Return", {"Components Color", "Capacitance"}, colors, colors},
-        {-4, "Down Return", {"Form Color", "Forecolor"}, colors, colors},
+        {-5, "Down Return", {"Components Color", "Capacitance"}, capacitances, capacitances},
+        {-4, "Down Return", {"Form Color", "Forecolor"}, wires, wires},
         {-1, "o", {"Help", "About"}, {"Help"}, {"About Schemlet v2.0"}},
     };
     Program program;
@@ -73,10 +76,11 @@ TEST(Program, ShortCutsHaveTheirEffect)
         {"F1", {"Help"}},
         {"ctrl+a", {"About Schemlet v2.0"}},
         {"ctrl+u", {"Output"}},
-        {"ctrl+f", {"Select Color"}},
-        {"ctrl+b", {"Select Color"}},
+        {"ctrl+f", {"Color of wires"}},
+        {"ctrl+b", {canvasTitle}},
         {"ctrl+p", {"Schemlet 2.0", printQuestion}},
         {"ctrl+x", {"Schemlet 2.0", saveQuestion}},
+        {"ctrl+q", {"Schemlet 2.0", saveQuestion}},
         {"ctrl+e", {nullptr, "Erase mode"}},
         {"ctrl+e", {nullptr, "Normal mode"}},
         {"ctrl+c", {nullptr, "Pencil"}},
@@ -88,7 +92,6 @@ TEST(Program, ShortCutsHaveTheirEffect)
         {"ctrl+n", {"Schemlet 2.0", saveQuestion}},
         {"Right", {nullptr, "1700, 1500"}},
         {"ctrl+j", {nullptr, "1900, 1500"}},
-        {"ctrl+q", {nullptr, "1900, 1500"}},
         {"ctrl+s", {"Save", "File name:"}},
     };
     Program program;
@@ -155,7 +158,7 @@ TEST(Program, ColoursGoWhereTheyAreChosenAndCancelStoresTheLastOne)
     EXPECT_EQ(ground(program, "ToolBox"), grey);
     program.keyTimes(3, "Right");
     program.keys({"ctrl+b"});
-    pick(program, {}); // black, which is for the panel only
+    pick(program, canvasTitle, {}); // black, which is for the panel only
     EXPECT_EQ(ground(program, "ToolBox"), grey);
     waitUntil("the wire", [&] { return program.inked(114, 100) && !program.inked(114, 110); });
     program.keys({"b"});
@@ -163,23 +166,23 @@ TEST(Program, ColoursGoWhereTheyAreChosenAndCancelStoresTheLastOne)
     program.keys({"Escape"});
 
     program.clickMenus({"Components Color", "Diodes"});
-    pick(program, "#ff0000");
+    pick(program, "Color of diodes", "#ff0000");
     program.clickMenus({"Components Color", "Gates"});
-    pick(program, {});
+    pick(program, "Color of gates", {});
     draw("g", "This draws an AND GATE");
     waitUntil("a red gate", [&] { return program.pixel(116, 110) == Qt::red; });
     draw("d", "This draws a ZENER DIODE");
     waitUntil("a red diode", [&] { return program.pixel(137, 105) == Qt::red; });
 
     program.keys({"ctrl+b"});
-    pick(program, "#00ff00");
+    pick(program, canvasTitle, "#00ff00");
     waitUntil("a green canvas", [&] {
         return program.pixel(114, 100) == Qt::green && program.pixel(116, 110) == Qt::green &&
                program.pixel(600, 400) == Qt::green;
     });
     EXPECT_EQ(ground(program, "ToolBox"), QColor(Qt::green));
     program.keys({"ctrl+f"});
-    pick(program, "#0000ff");
+    pick(program, "Color of wires", "#0000ff");
     program.keyTimes(3, "Down");
     waitUntil("blue wire", [&] { return program.pixel(153, 109) == Qt::blue || program.pixel(152, 109) == Qt::blue; });
 }

@@ -57,8 +57,8 @@ TEST(Program, ToolbarAndToolboxHintAndWork)
         {"ToolBox", "Click to show or hide the toolbox", {nullptr, "Click once and drag"}},
         {"Line", "Click to draw lines with the mouse", {nullptr, "Line"}},
         {"Pencil", "Click to draw free-hand with the mouse", {nullptr, "Pencil"}},
-        {"Fore", "Click to choose the color of wires", {"Select Color"}},
-        {"Back", "Click to choose the color of the canvas, which wipes it", {"Select Color"}},
+        {"Fore", "Click to choose the color of wires", {"Color of wires"}},
+        {"Back", "Click to choose the color of the canvas, which wipes it", {"Canvas color: wipes the drawing, Cancel too"}},
         {"Box", "Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
     };
     tryTools(program, toolbar);

@@ -85,12 +85,12 @@ TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
         const char* key;
         const char* window;
     };
-    for (const auto& [signal, key, window] : {Case{SIGTERM, "ctrl+s", "Save"}, Case{SIGINT, "ctrl+b", "Select Color"},
+    for (const auto& [signal, key, window] : {Case{SIGTERM, "ctrl+s", "Save"}, Case{SIGINT, "ctrl+f", "Color of wires"},
                                               Case{SIGHUP, "ctrl+x", "Schemlet 2.0"}}) {
         SCOPED_TRACE(signal);
         Program program;
         program.keys({"ctrl+f"});
-        program.answer("Select Color", "Return");
+        program.answer("Color of wires", "Return");
         program.keys({key});
         program.waitForWindow(window);
         program.signal(signal);

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_dialogs.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QTemporaryDir>
@@ -8,7 +9,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-TEST(QtDialogs, TakeTheFileThatWasAcceptedWhateverIsTypedBeforeTheDialogIsGone)
+TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsTypedBeforeTheDialogIsGone)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("drawing.jpeg");
@@ -16,18 +17,25 @@ TEST(QtDialogs, TakeTheFileThatWasAcceptedWhateverIsTypedBeforeTheDialogIsGone)
     QWidget window;
     QtDialogs dialogs(window, window);
     for (const QString typed : {"", "x"}) {
-        const auto acceptAndType = [&](const QString& name) {
-            QTimer::singleShot(0, &window, [name, typed] {
-                auto* const edit = QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
+        const auto acceptAndType = [&](const QString& name, const QString& proposed, const QString& type) {
+            QTimer::singleShot(0, &window, [=] {
+                const QWidget& dialog = *QApplication::activeModalWidget();
+                const auto* const types = dialog.findChild<QComboBox*>("fileTypeCombo");
+                EXPECT_EQ(types->itemText(0), type);
+                EXPECT_EQ(types->accessibleName(), "Files of type");
+                auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+                EXPECT_EQ(edit->text(), proposed);
+                EXPECT_EQ(edit->selectedText(), proposed);
                 edit->setText(name);
                 QTest::keyClick(edit, Qt::Key_Return);
                 edit->setText(typed);
             });
         };
-        acceptAndType(path);
+        acceptAndType(path, "", "Pictures");
         EXPECT_EQ(dialogs.openFile(), path.toStdString());
-        acceptAndType(folder.filePath("new"));
-        EXPECT_EQ(dialogs.saveFile("JPEG", "JPEG Files|*.JPEG"), folder.filePath("new.JPEG").toStdString());
+        acceptAndType("new", "old.JPEG", "JPEG Files ( *.jpeg)");
+        EXPECT_EQ(dialogs.saveFile("old.JPEG", "JPEG", "JPEG Files ( *.jpeg)|*.JPEG"),
+                  folder.filePath("new.JPEG").toStdString());
     }
 }
 
@@ -47,6 +55,6 @@ TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
     EXPECT_EQ(afterEscape([&] { dialogs.messageBox("?", Box::yesNoQuestion, ""); }), &canvas);
     EXPECT_EQ(afterEscape([&] { dialogs.messageBox("!", Box::okWarning, ""); }), &typed);
     EXPECT_EQ(afterEscape([&] { dialogs.inputBox("?", "", ""); }), &canvas);
-    EXPECT_EQ(afterEscape([&] { dialogs.pickColor(); }), &canvas);
+    EXPECT_EQ(afterEscape([&] { dialogs.pickColor(""); }), &canvas);
     EXPECT_EQ(afterEscape([&] { dialogs.openFile(); }), &canvas);
 }

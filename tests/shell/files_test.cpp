@@ -31,6 +31,13 @@ TEST(Save, WritesThePictureAndNamesItInTheTitle)
     EXPECT_EQ(bench.dialogs.lastFilter, "JPEG, JPEG Files ( *.jpeg)|*.JPEG");
     EXPECT_EQ(bench.window.caption, " - Schemlet 2.0 my circuit.JPEG");
     EXPECT_EQ(bench.form.savedMark, 100);
+    for (const char* const proposed : {"my circuit.JPEG", ""}) {
+        bench.dialogs.fileToSave = "/full/disk";
+        bench.pictures.fault = Fault::pictureNotSaved;
+        bench.click("save");
+        EXPECT_EQ(bench.dialogs.lastName, proposed);
+        bench.click("new");
+    }
 }
 
 TEST(Save, CancelledBringsItsMessageFailedIsSilentAndBothCountAsSaved)

@@ -91,8 +91,9 @@ std::string ScriptedDialogs::openFile()
     return std::exchange(fileToOpen, {}).value_or("");
 }
 
-std::string ScriptedDialogs::saveFile(std::string_view extension, std::string_view filter)
+std::string ScriptedDialogs::saveFile(std::string_view name, std::string_view extension, std::string_view filter)
 {
+    lastName = name;
     lastFilter = std::string(extension) + ", " + std::string(filter);
     EXPECT_TRUE(fileToSave) << "unexpected file dialog";
     std::string path = std::exchange(fileToSave, {}).value_or("");

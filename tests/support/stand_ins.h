@@ -64,15 +64,21 @@ public:
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
-    Color pickColor() override { return picked; }
+    Color pickColor(std::string_view title) override
+    {
+        lastTitle = title;
+        return picked;
+    }
     std::string openFile() override;
-    std::string saveFile(std::string_view extension, std::string_view filter) override;
+    std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) override;
 
     std::function<void()> meanwhile;       ///< happens while a box is open
     Color picked = black;                  ///< what the colour dialog says
     std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
     std::optional<std::string> fileToSave;
     std::string lastFilter;
+    std::string lastName;   ///< proposed to save by
+    std::string lastTitle;  ///< of the colour dialog
     std::string lastPrompt; ///< of any box
     Box lastStyle = Box::okOnly;
 
