@@ -41,6 +41,17 @@ void load(Form1& form)
     refreshOutput(form);
 }
 
+std::string_view headingName(int heading)
+{
+    switch (heading) {
+    case heading::right: return "right";
+    case heading::left: return "left";
+    case heading::up: return "up";
+    case heading::down: return "down";
+    default: return {};
+    }
+}
+
 void placeMarker(Form1& form, double left)
 {
     form.controls.setLeft(control::Picture1, left);

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <deque>
+#include <optional>
 #include <string>
 
 /// The controls on and around the canvas, by the names they have in the form.
@@ -26,7 +27,12 @@ inline constexpr Name sbPen = "sbPen";
 inline constexpr Name sbHeading = "sbHeading";
 inline constexpr Name sbTool = "sbTool";
 inline constexpr Name sbErase = "sbErase";
+inline constexpr Name sbJumpers = "sbJumpers";
+inline constexpr Name sbNotice = "sbNotice";       ///< only there while it says something
+inline constexpr Name sbPointer = "sbPointer";     ///< only there while the mouse is over the canvas
+inline constexpr Name sbOffCanvas = "sbOffCanvas"; ///< only there while the pen is off it
 inline constexpr Name statusTimer = "statusTimer";
+inline constexpr Name noticeTimer = "noticeTimer";
 inline constexpr Name Timer1 = "Timer1"; ///< shows the help window once at start
 inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
 
@@ -57,6 +63,9 @@ inline constexpr int left = 2;
 inline constexpr int up = 3;
 inline constexpr int down = 4;
 } // namespace heading
+
+/// In words, for the user; empty for a number that is no direction.
+[[nodiscard]] std::string_view headingName(int heading);
 
 /// The families that can ask before they draw, in the order of their switches.
 enum Confirm : std::size_t {
@@ -91,6 +100,7 @@ struct CanvasState {
     int pencilTool = 0;
     double mouseUpX = 0; ///< where a mouse button last came up
     double mouseUpY = 0;
+    std::optional<Point> pointer; ///< where the mouse is, while it is over the canvas
 
     int autoJumper = 0;
     int toolboxFollow = 0;    ///< 1 while the toolbox follows the mouse
@@ -102,6 +112,8 @@ struct CanvasState {
     int printAnswer = 0;   ///< the button that closed the question about printing
     int blinkCount = 0;    ///< 0 to 9975: the marker shows at multiples of 50
     int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
+    std::string notice;    ///< what the status bar says for some seconds
+    std::string saveFault; ///< what it says until the next save or New, after a save that failed
 
     int startShown = 0;     ///< 1 once the help window has shown itself at start
     int splashProgress = 0; ///< of the splash's bar, 0 to 100
@@ -109,7 +121,8 @@ struct CanvasState {
     int helpLoaded = 0;     ///< 1 once the help window was shown
 
     Color wireColor = black;
-    Color canvasBackColor = black;
+    Color canvasBackColor = black; ///< the one picked last
+    Color paperColor = white;      ///< the one that the canvas has: never black
 
     // The families' colours, black until the user picks one. Transistors share the transformers'.
     Color resistanceColor = black;

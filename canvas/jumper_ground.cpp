@@ -1,5 +1,7 @@
 #include "canvas/jumper_ground.h"
 
+#include "canvas/notice.h"
+
 #include <algorithm>
 
 namespace {
@@ -31,7 +33,7 @@ void jumper(Form1& form)
 {
     const auto* const hop = std::ranges::find(hops, form.heading, &Hop::heading);
     if (hop == std::end(hops)) {
-        return;
+        return notify(form, noDirection);
     }
     form.x += hop->halfX;
     form.y += hop->halfY;

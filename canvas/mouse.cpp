@@ -53,6 +53,7 @@ void mouseDown(Form1& form, int button, float x, float y)
 
 void mouseMove(Form1& form, int buttons, float x, float y)
 {
+    form.pointer = Point{x, y};
     if (buttons == button::left && form.pencilTool == 1) {
         const Point from = form.surface.current();
         form.surface.line(static_cast<float>(from.x), static_cast<float>(from.y), x, y);

@@ -1,7 +1,10 @@
 #include "circuit/supply_panel.h"
 
+#include "canvas/notice.h"
 #include "circuit/numbers.h"
 #include "symbols/symbol_protocol.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -75,11 +78,16 @@ void hideRestOfPanel(Form1& form)
     followFamilies(form);
 }
 
-/// Whether this kind was chosen and not cancelled, which leaves the choice but disables it. If so, it is drawn next,
-/// and the choice is used up.
+/// And not cancelled, which leaves the choice but disables it.
+bool isChosen(const Form1& form, Name option)
+{
+    return form.controls.value(option) != 0 && form.controls.enabled(option);
+}
+
+/// Whether this kind was chosen. If so, it is drawn next, and the choice is used up.
 bool takes(Form1& form, Name option)
 {
-    if (form.controls.value(option) == 0 || !form.controls.enabled(option)) {
+    if (!isChosen(form, option)) {
         return false;
     }
     hideRestOfPanel(form);
@@ -87,22 +95,24 @@ bool takes(Form1& form, Name option)
     return true;
 }
 
-void drawSource(Form1& form, std::span<const Branch> branches, double value)
+void drawSource(Form1& form, std::span<const Branch> branches, double value, std::string_view otherwise)
 {
     form.surface.setForeColor(black);
-    drawBranch(form, branches, toText(value));
+    if (!drawBranch(form, branches, toText(value))) {
+        notify(form, otherwise);
+    }
 }
 
 void placeBattery(Form1& form, double CanvasState::*battery, std::span<const Branch> branches)
 {
     form.*battery = form.supplyValue;
-    drawSource(form, branches, form.*battery);
+    drawSource(form, branches, form.*battery, noDirection);
 }
 
 void placeSupply(Form1& form, double CanvasState::*sum, std::span<const Branch> branches)
 {
     form.*sum = checked(form.*sum + form.supplyValue);
-    drawSource(form, branches, form.supplyValue);
+    drawSource(form, branches, form.supplyValue, countedOnly);
 }
 
 } // namespace
@@ -162,6 +172,9 @@ void Command3(Form1& form)
     form.controls.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
     form.controls.focus(control::Canvas);
     form.supplyValue = typed;
+    if (std::ranges::none_of(kinds, [&form](Name kind) { return isChosen(form, kind); })) {
+        notify(form, "Nothing drawn: no kind was chosen");
+    }
     if (takes(form, control::Option4)) {
         placeBattery(form, &CanvasState::batteryPositive, positiveBattery);
     }

@@ -1,5 +1,6 @@
 #include "circuit/valued_components.h"
 
+#include "canvas/notice.h"
 #include "circuit/numbers.h"
 #include "symbols/symbol_protocol.h"
 
@@ -99,13 +100,18 @@ void placeValued(Form1& form, const ValuedComponent& component)
     form.surface.setForeColor(form.*component.color);
     std::string& typed = form.*component.typed;
     typed = form.dialogs.inputBox(component.prompt, component.title, "10");
-    if (typed.empty()) {
+    const bool cancelled = typed.empty();
+    if (cancelled) {
         typed.push_back('0');
     }
     const double value = toNumber(typed);
     if (value != 0) {
         form.*component.total = checked(form.*component.total + component.share(value));
-        drawBranch(form, component.branches, typed);
+        if (!drawBranch(form, component.branches, typed)) {
+            notify(form, countedOnly);
+        }
+    } else if (!cancelled) {
+        notify(form, "A value of 0 draws nothing");
     }
     form.surface.setForeColor(black);
     placeMarkerGateForm(form);

@@ -10,7 +10,7 @@ public:
     /// Wipes the canvas and lays a picture at its top left corner, one picture pixel to one canvas pixel; the retained
     /// image grows to hold all of it. Throws invalidPicture, and then leaves everything as it is.
     virtual void loadBackground(std::string_view path) = 0;
-    /// Writes the whole retained image as a BMP file, whatever the name's extension. Throws pictureNotSaved; the file
-    /// that was there before is then untouched.
+    /// Writes the whole retained image as a BMP file, whatever the name's extension. Throws pictureNotSaved,
+    /// with the cause in few words; the file that was there before is then untouched.
     virtual void saveImage(std::string_view path) = 0;
 };

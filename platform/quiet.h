@@ -18,7 +18,8 @@ public:
     [[nodiscard]] int height() const override { return 0; }
     void printForm() override {}
     void endProgram() override {}
-    void addToolButton(Name /*key*/, std::string_view /*tip*/) override {}
+    void addToolButton(Name /*key*/, std::string_view /*tip*/, Look /*look*/) override {}
+    void setSwatch(Name /*key*/, Color /*color*/) override {}
     void setCursor(const Cursor& /*cursor*/) override {}
     void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
     void popUp(Name /*menu*/) override {}
@@ -39,6 +40,7 @@ public:
     void setLeft(Name /*control*/, double /*twips*/) override {}
     void setTop(Name /*control*/, double /*twips*/) override {}
     void placeAwayFrom(Name /*control*/, double /*x*/, double /*y*/) override {}
+    [[nodiscard]] bool isOnCanvas(double /*x*/, double /*y*/) const override { return true; }
     void setInterval(Name /*timer*/, int /*milliseconds*/) override {}
 
 private:

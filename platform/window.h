@@ -55,8 +55,11 @@ public:
     /// Ends the program's main loop, as if nothing were open.
     virtual void endProgram() = 0;
 
-    /// Appends a button to the toolbar, with the picture of this name; an empty key is a separator.
-    virtual void addToolButton(Name key, std::string_view tip) = 0;
+    /// Appends a button to the toolbar, with the picture of this name; an empty key is a separator. One that is
+    /// checkable looks pressed while it is checked, and only setChecked changes that.
+    virtual void addToolButton(Name key, std::string_view tip, Look look) = 0;
+    /// Puts a bar of a colour into a toolbar button's picture.
+    virtual void setSwatch(Name key, Color color) = 0;
     /// The pointer over the canvas.
     virtual void setCursor(const Cursor& cursor) = 0;
 
@@ -91,6 +94,9 @@ public:
     virtual void setTop(Name control, double twips) = 0;
     /// Puts a control into the corner of the canvas that is farthest from a place, in twips.
     virtual void placeAwayFrom(Name control, double x, double y) = 0;
+
+    /// Whether a place, in twips, is on the part of the canvas that the window shows.
+    [[nodiscard]] virtual bool isOnCanvas(double x, double y) const = 0;
 
     /// Starts a timer that ticks every so many milliseconds, 1 or more; 0 stops it.
     virtual void setInterval(Name timer, int milliseconds) = 0;

@@ -1,5 +1,6 @@
 #include "shell/colors.h"
 
+#include "canvas/notice.h"
 #include "circuit/supply_panel.h"
 
 void forec(Form1& form)
@@ -13,6 +14,19 @@ void bc(Form1& form)
     if (form.canvasBackColor != black) {
         form.surface.setBackColor(form.canvasBackColor);
         form.controls.setBackColor(control::Frame2, form.canvasBackColor);
+        form.paperColor = form.canvasBackColor;
+    } else {
+        notify(form, "Black reaches the panel and the eraser only");
     }
     colorPanel(form);
+}
+
+void batterycolor(Form1& form)
+{
+    notify(form, "No effect: batteries are always black");
+}
+
+void Thyristorscolor(Form1& form)
+{
+    notify(form, "No effect: thyristors take the last color");
 }

@@ -38,3 +38,7 @@ void forec(Form1& form);
 
 /// The canvas's colour, which wipes the drawing. Black reaches only the panel of supplies and batteries.
 void bc(Form1& form);
+
+// Menu items that set nothing.
+void batterycolor(Form1& form);
+void Thyristorscolor(Form1& form);

@@ -20,6 +20,7 @@ constexpr NamedHandler timers[] = {
     {mainWindow, control::Timer1, Timer1},
     {mainWindow, control::Timer2, Timer2},
     {mainWindow, control::statusTimer, showStatus},
+    {mainWindow, control::noticeTimer, endNotice},
     {form2::window, form2::control::Timer2, form2::Timer2},
     {form6::window, form6::control::Timer1, form6::Timer1},
     {form6::window, form6::control::Timer2, form6::Timer2},
@@ -81,10 +82,7 @@ void handle(Form1& form, const Event& event)
     } catch (const RuntimeError& error) {
         tell(form, error);
     }
-    // Neither a tick nor a move changes what the status bar shows.
-    const bool quiet =
-        event.kind == Event::Kind::tick || event.kind == Event::Kind::mouseMove || event.kind == Event::Kind::hover;
-    if (!quiet) {
+    if (event.kind != Event::Kind::tick) { // else the blinking marker would keep it busy
         showStatusSoon(form);
     }
 }

@@ -1,5 +1,6 @@
 #include "shell/files.h"
 
+#include "canvas/notice.h"
 #include "circuit/output_window.h"
 #include "platform/runtime_error.h"
 #include "shell/confirmations.h"
@@ -13,6 +14,13 @@ void askToSave(Form1& form)
     form.heading = form.dialogs.messageBox("Do you want to save changes?", Box::yesNoCancelWarning, productName);
 }
 
+/// Also while it is still a notice.
+void forgetSaveFault(Form1& form)
+{
+    form.saveFault.clear();
+    form.notice.clear();
+}
+
 std::string withoutFolder(std::string_view path)
 {
     return std::filesystem::path(path).filename().string();
@@ -24,12 +32,15 @@ void new_(Form1& form)
 {
     form.penMoved = 0;
     if (form.savedMark != 0) {
+        forgetSaveFault(form);
         return Command4(form);
     }
     askToSave(form);
     const int reply = form.heading;
     if (reply == answer::yes) {
-        save(form);
+        save(form); // if it fails, that is said: the drawing is lost
+    } else if (reply == answer::no) {
+        forgetSaveFault(form);
     }
     if (reply == answer::yes || reply == answer::no) {
         Command4(form);
@@ -41,7 +52,7 @@ void open(Form1& form)
 {
     form.pencilTool = 0;
     if (form.penMoved != 1) {
-        return;
+        return notify(form, "Open works after the first arrow key");
     }
     askToSave(form);
     const bool yes = form.heading == answer::yes;
@@ -66,10 +77,14 @@ void save(Form1& form)
         form.pictures.saveImage(path);
         form.fileTitle = withoutFolder(path);
         setTitle(form, form.fileTitle);
+        forgetSaveFault(form);
     } catch (const RuntimeError& error) {
-        // Any other failure is silent; what was on the disk is still there.
+        // Any other failure brings no box; what was on the disk is still there.
         if (error.fault == Fault::dialogCancelled) {
             form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, productName);
+        } else {
+            form.saveFault = "Not saved: " + std::string(error.what());
+            notify(form, form.saveFault);
         }
     }
 }
@@ -99,6 +114,7 @@ void Command4(Form1& form)
     clearOutput(form);
     form.fileTitle.clear();
     form.surface.setBackColor(white);
+    form.paperColor = white;
     form.surface.clear();
     form.surface.setDrawWidth(2);
     form.controls.setVisible(control::Label27, false);

@@ -11,7 +11,8 @@ void new_(Form1& form);
 /// Takes a picture file for the canvas. Only once the pen has moved since start or New. Throws invalidPicture.
 void open(Form1& form);
 
-/// Writes the canvas as a BMP picture. Cancelled or failed, it still counts as saved; only cancelling brings a message.
+/// Writes the canvas as a BMP picture. Cancelled or failed, it still counts as saved; cancelling brings a message,
+/// failing a notice.
 void save(Form1& form);
 
 /// Prints the canvas after a question. Throws printerError.

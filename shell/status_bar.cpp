@@ -1,22 +1,20 @@
 #include "shell/status_bar.h"
 
+#include "shell/toolbox.h"
+
+#include <cmath>
 #include <string>
 
 namespace {
 
-struct HeadingTexts {
-    std::string_view shown;  ///< in the status bar
-    std::string_view spoken; ///< for a screen reader, which makes nothing of an arrow
-};
-
-HeadingTexts headingTexts(int code)
+std::string_view headingText(int code)
 {
     switch (code) {
-    case heading::right: return {"→ Right", ", heading right"};
-    case heading::left: return {"← Left", ", heading left"};
-    case heading::up: return {"↑ Up", ", heading up"};
-    case heading::down: return {"↓ Down", ", heading down"};
-    default: return {};
+    case heading::right: return "→ Right";
+    case heading::left: return "← Left";
+    case heading::up: return "↑ Up";
+    case heading::down: return "↓ Down";
+    default: return "no direction, press an arrow key";
     }
 }
 
@@ -56,14 +54,51 @@ std::string penText(const CanvasState& state)
     return wholeTwips(state.x) + ", " + wholeTwips(state.y);
 }
 
-/// What the status bar shows, for somebody who does not see it.
-std::string spokenStatus(const CanvasState& state)
+/// In the canvas's pixels, for whoever measures.
+std::string pointerText(const CanvasState& state)
 {
-    std::string text = "Pen at " + penText(state) + " twips";
-    text += headingTexts(state.heading).spoken;
-    text += ", tool ";
-    text += toolText(state);
-    return state.eraseMode == 1 ? text + ", erase mode" : text;
+    // Both want the room, and the notice is soon gone.
+    if (!state.pointer || !state.notice.empty()) {
+        return {};
+    }
+    const auto pixel = [](double twips) {
+        return std::to_string(static_cast<long long>(std::floor(twips / twipsPerPixel)));
+    };
+    return pixel(state.pointer->x) + ", " + pixel(state.pointer->y) + " px";
+}
+
+std::string_view offCanvasText(const Form1& form)
+{
+    return form.controls.isOnCanvas(form.x, form.y) ? "" : "off the canvas";
+}
+
+/// What the status bar shows, for somebody who does not see it: an arrow would not be said.
+std::string spokenStatus(const Form1& form)
+{
+    std::string text = form.notice.empty() ? "" : form.notice + ". ";
+    text += "Pen at " + penText(form) + " twips";
+    const auto add = [&text](std::string_view before, std::string_view part) {
+        text.append(part.empty() ? "" : before).append(part);
+    };
+    add(", ", offCanvasText(form));
+    const std::string_view heading = headingName(form.heading);
+    heading.empty() ? add(", ", headingText(form.heading)) : add(", heading ", heading);
+    add(", tool ", toolText(form));
+    add(", ", form.eraseMode == 1 ? "erase mode" : "");
+    add(", ", form.autoJumper == 1 ? "automatic jumpers" : "");
+    return text;
+}
+
+/// Of a panel that is only there while it says something.
+void setOptionalText(Form1& form, Name panel, std::string_view text)
+{
+    form.controls.setText(panel, text);
+    form.controls.setVisible(panel, !text.empty());
+}
+
+void showNotice(Form1& form)
+{
+    setOptionalText(form, control::sbNotice, form.notice.empty() ? form.saveFault : form.notice);
 }
 
 } // namespace
@@ -73,12 +108,24 @@ void showStatus(Form1& form)
     form.statusDue = 0;
     form.controls.setInterval(control::statusTimer, 0);
     form.controls.setText(control::sbPen, penText(form));
-    form.controls.setText(control::sbHeading, headingTexts(form.heading).shown);
+    form.controls.setText(control::sbHeading, headingText(form.heading));
     form.controls.setText(control::sbTool, toolText(form));
+    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
+    form.controls.setText(control::sbJumpers, form.autoJumper == 1 ? "Jumpers" : "");
+    setOptionalText(form, control::sbOffCanvas, offCanvasText(form));
+    setOptionalText(form, control::sbPointer, pointerText(form));
+    showNotice(form);
+    showTools(form);
     form.controls.setCursor(cursorFor(form));
     form.controls.placeAwayFrom(control::panel, form.x, form.y); // the pen may have come near
-    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
     form.controls.setDescription(control::Canvas, spokenStatus(form));
+}
+
+void endNotice(Form1& form)
+{
+    form.notice.clear();
+    form.controls.setInterval(control::noticeTimer, 0);
+    showNotice(form); // alone: without it, the canvas's description is no news
 }
 
 void showStatusSoon(Form1& form)

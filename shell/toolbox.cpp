@@ -35,6 +35,8 @@ struct ToolButton {
     std::string_view tip;
     std::string_view hint; ///< for the status bar
     Handler handler = nullptr;
+    int CanvasState::*pressed = nullptr; ///< the switch that it shows
+    Color CanvasState::*swatch = nullptr;
 };
 
 constexpr ToolButton toolbar[] = {
@@ -47,12 +49,13 @@ constexpr ToolButton toolbar[] = {
     {"Output", "Output (Ctrl+U)", " Click to see the totals and what follows from them ", output},
     {"ToolBox", "ToolBox (Ctrl+T)", " Click to show or hide the toolbox ", toolBoxButton},
     {},
-    {"Line", "Line (Ctrl+L)", " Click to draw lines with the mouse ", linee},
-    {"Pencil", "Pencil (Ctrl+C)", " Click to draw free-hand with the mouse ", pencil1},
-    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the color of wires ", forec},
-    {"Back", "Back Color (Ctrl+B)", " Click to choose the color of the canvas, which wipes it ", bc},
-    {"Eraser", "Eraser (Ctrl+E)", " Click to switch erase mode on or off ", eraser1},
-    {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan},
+    {"Line", "Line (Ctrl+L)", " Click to draw lines with the mouse ", linee, &CanvasState::lineTool},
+    {"Pencil", "Pencil (Ctrl+C)", " Click to draw free-hand with the mouse ", pencil1, &CanvasState::pencilTool},
+    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the color of wires ", forec, nullptr, &CanvasState::wireColor},
+    {"Back", "Back Color (Ctrl+B)", " Click to choose the color of the canvas, which wipes it ", bc, nullptr,
+     &CanvasState::paperColor},
+    {"Eraser", "Eraser (Ctrl+E)", " Click to switch erase mode on or off ", eraser1, &CanvasState::eraseMode},
+    {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan, &CanvasState::rectTool},
 };
 
 /// Draws a symbol for its toolbox picture, the pen at (x, y) twips.
@@ -103,11 +106,23 @@ template <typename Tool> const Tool* find(std::span<const Tool> tools, Name name
 void addTools(Form1& form)
 {
     for (const ToolButton& button : toolbar) {
-        form.controls.addToolButton(button.name, button.tip);
+        form.controls.addToolButton(button.name, button.tip, button.pressed != nullptr ? Look::unchecked : Look::plain);
     }
     for (const ToolPicture& picture : pictures) {
         if (picture.draw != nullptr) {
             form.controls.drawPicture(picture.name, picture.draw);
+        }
+    }
+}
+
+void showTools(Form1& form)
+{
+    for (const ToolButton& button : toolbar) {
+        if (button.pressed != nullptr) {
+            form.controls.setChecked(button.name, form.*button.pressed == 1);
+        }
+        if (button.swatch != nullptr) {
+            form.controls.setSwatch(button.name, form.*button.swatch);
         }
     }
 }
@@ -123,6 +138,10 @@ Handler toolHandler(Name name)
 
 void hover(Form1& form, Name name)
 {
+    form.pointer.reset();
+    if (name.empty()) {
+        return;
+    }
     if (name == control::Frame2) {
         Label1(form);
     } else if (const auto* const button = find<ToolButton>(toolbar, name)) {

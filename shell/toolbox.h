@@ -10,7 +10,11 @@ void addTools(Form1& form);
 /// The command of a toolbar button or a toolbox picture; none for any other name.
 [[nodiscard]] Handler toolHandler(Name name);
 
-/// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself.
+/// Brings the toolbar's buttons up to date: those of the tool in hand and of erase mode are pressed, those of colours
+/// show them.
+void showTools(Form1& form);
+
+/// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself; no name: away from the canvas.
 void hover(Form1& form, Name name);
 
 void lll(Form1& form);     ///< View > ToolBar

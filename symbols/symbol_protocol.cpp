@@ -1,6 +1,10 @@
 #include "symbols/symbol_protocol.h"
 
+#include "canvas/notice.h"
+
 #include <algorithm>
+#include <cctype>
+#include <string>
 
 namespace {
 
@@ -36,14 +40,38 @@ void movePen(CanvasState& state, Offset by)
     state.y += by.dy;
 }
 
+/// What its title calls it: of "This draws an AND GATE" it is "An AND gate".
+std::string nameOf(const Symbol& symbol)
+{
+    std::string name(symbol.title.substr(std::string_view("This draws ").size()));
+    name.front() = 'A';
+    const auto lastWord = name.begin() + static_cast<std::ptrdiff_t>(name.rfind(' ') + 1);
+    std::transform(lastWord, name.end(), lastWord,
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return name;
+}
+
+void sayWhyNotDrawn(Form1& form, const Symbol& symbol)
+{
+    if (headingName(form.heading).empty()) {
+        return notify(form, noDirection);
+    }
+    std::string headings;
+    for (const Branch& branch : symbol.branches) {
+        headings += headings.empty() ? "" : " or ";
+        headings += headingName(branch.heading);
+    }
+    notify(form, nameOf(symbol) + " needs the pen heading " + headings);
+}
+
 } // namespace
 
-void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value)
+bool drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value)
 {
     const auto branch = std::ranges::find_if(
         branches, [&](const Branch& b) { return b.heading == anyHeading || b.heading == form.heading; });
     if (branch == branches.end()) {
-        return;
+        return false;
     }
     const Point start{form.x, form.y};
     movePen(form, branch->before);
@@ -52,6 +80,7 @@ void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view 
         draw(form.surface, stroke, origin, value);
     }
     movePen(form, branch->after);
+    return true;
 }
 
 void placeMarkerGateForm(Form1& form)
@@ -76,7 +105,9 @@ void place(Form1& form, const Symbol& symbol)
     if (symbol.color != nullptr) {
         form.surface.setForeColor(form.*symbol.color);
     }
-    drawBranch(form, symbol.branches);
+    if (!drawBranch(form, symbol.branches)) {
+        sayWhyNotDrawn(form, symbol);
+    }
     if (symbol.colorAfter == ColorAfter::toBlack || (symbol.colorAfter == ColorAfter::toBlackUnlessAsked && !asked)) {
         form.surface.setForeColor(black);
     }

@@ -29,12 +29,12 @@ struct Symbol {
 };
 
 /// Draws a symbol at the pen: question, count, colour, branch, colour after, marker. Any answer but Yes changes
-/// nothing but the answer; a heading without a branch draws nothing and leaves the pen.
+/// nothing but the answer; a heading without a branch draws nothing, leaves the pen and brings a notice.
 void place(Form1& form, const Symbol& symbol);
 
 /// Brings the marker's left edge to the pen and leaves its top where it is.
 void placeMarkerGateForm(Form1& form);
 
-/// The strokes and the pen's way alone: the first branch that fits the heading, if any. Rows of kind value print
-/// the text given here.
-void drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value = {});
+/// The strokes and the pen's way alone: the first branch that fits the heading; false if none does. Rows of kind value
+/// print the text given here.
+[[nodiscard]] bool drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value = {});

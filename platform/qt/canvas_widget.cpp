@@ -144,6 +144,11 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
+void CanvasWidget::leaveEvent(QEvent* /*event*/)
+{
+    report({.kind = Event::Kind::hover});
+}
+
 void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) const
 {
     report({.kind = kind,

@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
+#include <QStorageInfo>
 #include <cerrno>
 #include <unistd.h>
 
@@ -32,10 +33,9 @@ QString nameOf(const QString& path)
                        QStringLiteral("Invalid picture\n\nThe file %1 %2.").arg(nameOf(path), cause).toStdString());
 }
 
-[[noreturn]] void refuseToSave(const QString& path, const QString& cause)
+[[noreturn]] void refuseToSave(const QString& cause)
 {
-    throw RuntimeError(Fault::pictureNotSaved,
-                       QStringLiteral("Picture not saved\n\nThe file %1 %2.").arg(nameOf(path), cause).toStdString());
+    throw RuntimeError(Fault::pictureNotSaved, cause.toStdString());
 }
 
 const QString& unreadable()
@@ -199,16 +199,16 @@ void savePicture(const QImage& image, const QString& path)
 {
     const QFileInfo info(path);
     if (info.isDir()) {
-        refuseToSave(path, QStringLiteral("is a folder"));
+        refuseToSave(QStringLiteral("that is a folder"));
     }
     if (info.exists() && !info.isFile()) { // a device would be replaced by a file
-        refuseToSave(path, QStringLiteral("is no ordinary file"));
+        refuseToSave(QStringLiteral("that is no ordinary file"));
     }
     if (info.exists() && !info.isWritable()) {
-        refuseToSave(path, QStringLiteral("is write-protected"));
+        refuseToSave(QStringLiteral("the file is write-protected"));
     }
     if (!info.dir().exists()) {
-        refuseToSave(path, QStringLiteral("could not be written: its folder does not exist"));
+        refuseToSave(QStringLiteral("no such folder"));
     }
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
@@ -218,10 +218,11 @@ void savePicture(const QImage& image, const QString& path)
         picture.setDotsPerMeterY(dotsPerMetre);
     }
     if (!file.open(QIODevice::WriteOnly)) {
-        refuseToSave(path, QStringLiteral("could not be written: ") + file.errorString());
+        refuseToSave(file.errorString().toLower());
     }
     if (!QImageWriter(&file, "bmp").write(picture) || !isOnDisk(file) || !file.commit()) {
         // Qt has no reason to give for a write that stopped half-way.
-        refuseToSave(path, QStringLiteral("could not be written; the disk may be full"));
+        const bool full = QStorageInfo(info.path()).bytesAvailable() < picture.sizeInBytes();
+        refuseToSave(full ? QStringLiteral("disk full") : QStringLiteral("the disk takes no more"));
     }
 }

@@ -1,9 +1,11 @@
 #include "platform/qt/qt_window.h"
 
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/colors.h"
 #include "platform/qt/form_events.h"
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
+#include "platform/qt/swatch_icon.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -33,6 +35,11 @@ bool liesIn(const QWidget& window, const QObject& object)
     return qobject_cast<const QWidget*>(up)->window() == &window;
 }
 
+QIcon toolPicture(Name key)
+{
+    return QIcon(":/pictures/toolbar/" + toQString(key) + ".svg");
+}
+
 /// What the form says of a control in properties of our own.
 void applyFormProperties(QWidget& control)
 {
@@ -41,6 +48,15 @@ void applyFormProperties(QWidget& control)
     if (control.property("fixedToText").toBool()) {
         control.ensurePolished();
         control.setFixedSize(control.sizeHint());
+    }
+    // The same where a text may ask for more, or where the window may be too narrow.
+    if (control.property("atLeastItsText").toBool()) {
+        control.ensurePolished();
+        control.setMinimumSize(control.sizeHint());
+    }
+    if (control.property("atMostItsText").toBool()) {
+        control.ensurePolished();
+        control.setMaximumSize(control.sizeHint());
     }
     // It lies on the canvas, which gets the mouse all the same.
     if (control.property("mouseGoesThrough").toBool()) {
@@ -203,17 +219,31 @@ void QtWindow::endProgram()
     QCoreApplication::exit();
 }
 
-void QtWindow::addToolButton(Name key, std::string_view tip)
+void QtWindow::addToolButton(Name key, std::string_view tip, Look look)
 {
     auto& bar = *m_form.findChild<QToolBar*>();
     if (key.empty()) {
         bar.widgetForAction(bar.addSeparator())->setProperty("isDecoration", true);
         return;
     }
-    QAction* const button = bar.addAction(QIcon(":/pictures/toolbar/" + toQString(key) + ".svg"), toQString(key));
+    QAction* const button = bar.addAction(toolPicture(key), toQString(key));
+    addNamed(key, *button);
     button->setToolTip(toQString(tip));
-    connect(button, &QAction::triggered, this, [this, key] { report({.kind = Event::Kind::click, .name = key}); });
+    button->setCheckable(look != Look::plain);
+    connect(button, &QAction::triggered, this, [this, key, button](bool checked) {
+        button->setChecked(!checked); // the toolkit has flipped it; the program says what it shows
+        report({.kind = Event::Kind::click, .name = key});
+    });
     connect(button, &QAction::hovered, this, [this, key] { report({.kind = Event::Kind::hover, .name = key}); });
+}
+
+void QtWindow::setSwatch(Name key, Color color)
+{
+    auto& button = find<QAction>(key);
+    if (button.data() != color) {
+        button.setData(color);
+        button.setIcon(swatchIcon(toolPicture(key), toQColor(color)));
+    }
 }
 
 void QtWindow::setCursor(const Cursor& cursor)

@@ -155,6 +155,11 @@ void QtWindow::setTop(Name control, double twips)
     widget.move(widget.x(), toPixels(twips));
 }
 
+bool QtWindow::isOnCanvas(double x, double y) const
+{
+    return x >= 0 && y >= 0 && x < m_canvas->width() * twipsPerPixel && y < m_canvas->height() * twipsPerPixel;
+}
+
 void QtWindow::placeAwayFrom(Name control, double x, double y)
 {
     auto& widget = find<QWidget>(control);

@@ -34,7 +34,7 @@ public:
                 deliver(m_form, event);
             }
         };
-        m_output.addToolButton(form4::control::print, "");
+        m_output.addToolButton(form4::control::print, "", Look::plain);
         form6::load(m_splash);
     }
 

@@ -107,16 +107,51 @@ private:
 };
 
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
-inline constexpr Name formControls[] = {
-    control::Canvas,   control::Picture1,  control::Shape1,   control::Label27,   control::sb,
-    control::sbPen,    control::sbHeading, control::sbTool,   control::sbErase,   control::panel,
-    control::sup,      control::bat,       control::Label11,  control::Label12,   control::Label13,
-    control::Label28,  control::Option1,   control::Option2,  control::Option3,   control::Option4,
-    control::Option5,  control::Text11,    control::Command3, control::Command7,  control::Command8,
-    control::Toolbar1, control::Frame2,    control::Label1,   control::statusBar, "Image1",
-    "Image2",          "Image3",           "Image4",          "Image5",           "Image15",
-    "Image16",         "Image17",          "Image18",         "Image19",          "Image20",
-    "Image7"};
+inline constexpr Name formControls[] = {control::Canvas,
+                                        control::Picture1,
+                                        control::Shape1,
+                                        control::Label27,
+                                        control::sb,
+                                        control::sbPen,
+                                        control::sbHeading,
+                                        control::sbTool,
+                                        control::sbErase,
+                                        control::sbJumpers,
+                                        control::sbNotice,
+                                        control::sbPointer,
+                                        control::sbOffCanvas,
+                                        control::panel,
+                                        control::sup,
+                                        control::bat,
+                                        control::Label11,
+                                        control::Label12,
+                                        control::Label13,
+                                        control::Label28,
+                                        control::Option1,
+                                        control::Option2,
+                                        control::Option3,
+                                        control::Option4,
+                                        control::Option5,
+                                        control::Text11,
+                                        control::Command3,
+                                        control::Command7,
+                                        control::Command8,
+                                        control::Toolbar1,
+                                        control::Frame2,
+                                        control::Label1,
+                                        control::statusBar,
+                                        "Image1",
+                                        "Image2",
+                                        "Image3",
+                                        "Image4",
+                                        "Image5",
+                                        "Image15",
+                                        "Image16",
+                                        "Image17",
+                                        "Image18",
+                                        "Image19",
+                                        "Image20",
+                                        "Image7"};
 
 // The same of the other windows' forms.
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
@@ -154,6 +189,7 @@ public:
     int timesPrinted = 0;
     std::optional<Fault> printFault; ///< thrown by every printForm()
     std::string poppedUp;
+    Point canvas{9000, 6000}; ///< its size
     std::map<std::string, int, std::less<>> intervals;
 
     // A name that the program's windows do not have fails the test.
@@ -172,7 +208,11 @@ public:
     void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { ++timesEnded; }
-    void addToolButton(Name key, std::string_view /*tip*/) override { m_controls.emplace(key, Control{}); }
+    void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override
+    {
+        m_controls.emplace(key, Control{});
+    }
+    void setSwatch(Name key, Color color) override { at(key).backColor = color; }
     void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
     void popUp(Name menu) override { poppedUp = menu; }
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
@@ -196,6 +236,10 @@ public:
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
     void placeAwayFrom(Name control, double x, double y) override { at(control).awayFrom = {x, y}; }
+    [[nodiscard]] bool isOnCanvas(double x, double y) const override
+    {
+        return x >= 0 && y >= 0 && x < canvas.x && y < canvas.y;
+    }
     void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
 
 private:

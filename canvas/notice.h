@@ -1,0 +1,11 @@
+#pragma once
+
+#include "canvas/canvas_state.h"
+
+inline constexpr std::string_view noDirection = "Nothing drawn: no direction";
+/// Of what has a value, which is in the totals all the same.
+inline constexpr std::string_view countedOnly = "Counted but not drawn: no direction";
+
+/// Says in the status bar for some seconds why a command did nothing, or not all of it, where the canvas does not show
+/// it. In a few words: a narrow window has room for about 40 letters.
+void notify(Form1& form, std::string_view text);
