@@ -5,12 +5,51 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusVariant>
 
 namespace {
 
 constexpr auto connectionName = "accessibility";
 constexpr auto itself = "org.a11y.atspi.Accessible";
+
+QDBusPendingCall ask(const Accessible& accessible, const QString& interface, const QString& method,
+                     const QVariantList& words = {})
+{
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(accessible.service, accessible.path.path(), interface, method);
+    question.setArguments(words);
+    return QDBusConnection(connectionName).asyncCall(question);
+}
+
+QDBusPendingCall askProperty(const Accessible& accessible, const QString& interface, const QString& name)
+{
+    return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {interface, name});
+}
+
+/// The first value of the answer; none if what was asked is gone.
+QVariant answer(QDBusPendingCall call)
+{
+    call.waitForFinished();
+    return call.reply().arguments().value(0);
+}
+
+QVariant property(QDBusPendingCall call)
+{
+    return answer(std::move(call)).value<QDBusVariant>().variant();
+}
+
+/// Adds these, each before what is in it.
+void collect(const AccessibilityBus& bus, const std::vector<Accessible>& siblings, bool closedMenus,
+             std::vector<Accessible>& found)
+{
+    for (const Accessible& each : siblings) {
+        found.push_back(each);
+        if (closedMenus || each.showing() || each.role != "popup menu") {
+            collect(bus, bus.childrenOf(each), closedMenus, found);
+        }
+    }
+}
 
 } // namespace
 
@@ -48,71 +87,75 @@ AccessibilityBus::~AccessibilityBus()
 
 std::vector<Accessible> AccessibilityBus::everything() const
 {
+    std::vector<Accessible> found;
+    collect(*this, windows(), true, found);
+    return found;
+}
+
+std::vector<Accessible> AccessibilityBus::inFront() const
+{
+    std::vector<Accessible> open = windows();
+    std::erase_if(open, [](const Accessible& window) { return !window.inFront; });
+    std::vector<Accessible> found;
+    collect(*this, open, false, found);
+    return found;
+}
+
+std::vector<Accessible> AccessibilityBus::windows() const
+{
     const QDBusObjectPath desktop("/org/a11y/atspi/accessible/root");
     std::vector<Accessible> found;
-    std::vector<Accessible> open;
     for (const Accessible& program : childrenOf({"org.a11y.atspi.Registry", desktop})) {
-        const std::vector<Accessible> windows = childrenOf(program);
-        open.insert(open.end(), windows.begin(), windows.end());
-    }
-    while (!open.empty()) {
-        Accessible next = open.back();
-        open.pop_back();
-        next.role = ask(next, itself, "GetRoleName").toString();
-        next.name = property(next, itself, "Name").toString();
-        next.state = qdbus_cast<QList<uint>>(ask(next, itself, "GetState")).value(0);
-        if (next.window.isEmpty()) {
-            next.window = next.name;
-            next.inFront = next.active();
+        for (Accessible window : childrenOf(program)) {
+            window.window = window.name;
+            window.inFront = window.active();
+            found.push_back(window);
         }
-        found.push_back(next);
-        const std::vector<Accessible> children = childrenOf(next);
-        open.insert(open.end(), children.rbegin(), children.rend());
     }
     return found;
 }
 
 QString AccessibilityBus::description(const Accessible& accessible) const
 {
-    return property(accessible, itself, "Description").toString();
+    return property(askProperty(accessible, itself, "Description")).toString();
 }
 
 double AccessibilityBus::value(const Accessible& accessible) const
 {
-    return property(accessible, "org.a11y.atspi.Value", "CurrentValue").toDouble();
+    return property(askProperty(accessible, "org.a11y.atspi.Value", "CurrentValue")).toDouble();
 }
 
 QRect AccessibilityBus::place(const Accessible& accessible) const
 {
     constexpr uint onScreen = 0;
-    return qdbus_cast<QRect>(ask(accessible, "org.a11y.atspi.Component", "GetExtents", {onScreen}));
-}
-
-/// The first value of the answer; none if what was asked is gone.
-QVariant AccessibilityBus::ask(const Accessible& accessible, const QString& interface, const QString& method,
-                               const QVariantList& words) const
-{
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(accessible.service, accessible.path.path(), interface, method);
-    question.setArguments(words);
-    return QDBusConnection(connectionName).call(question).arguments().value(0);
-}
-
-QVariant AccessibilityBus::property(const Accessible& accessible, const QString& interface, const QString& name) const
-{
-    return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {interface, name}).value<QDBusVariant>().variant();
+    return qdbus_cast<QRect>(answer(ask(accessible, "org.a11y.atspi.Component", "GetExtents", {onScreen})));
 }
 
 std::vector<Accessible> AccessibilityBus::childrenOf(const Accessible& parent) const
 {
     using Reference = std::pair<QString, QDBusObjectPath>;
+    struct Child {
+        Accessible accessible;
+        QDBusPendingCall role;
+        QDBusPendingCall name;
+        QDBusPendingCall state;
+    };
+    std::vector<Child> asked; // all at once, which saves most of the way back and forth
+    for (const auto& [service, path] : qdbus_cast<QList<Reference>>(answer(ask(parent, itself, "GetChildren")))) {
+        const Accessible child{.service = service,
+                               .path = path,
+                               .window = parent.window,
+                               .parent = parent.name,
+                               .inFront = parent.inFront};
+        asked.push_back({child, ask(child, itself, "GetRoleName"), askProperty(child, itself, "Name"),
+                         ask(child, itself, "GetState")});
+    }
     std::vector<Accessible> children;
-    for (const auto& [service, path] : qdbus_cast<QList<Reference>>(ask(parent, itself, "GetChildren"))) {
-        children.push_back({.service = service,
-                            .path = path,
-                            .window = parent.window,
-                            .parent = parent.name,
-                            .inFront = parent.inFront});
+    for (auto& [child, role, name, state] : asked) {
+        child.role = answer(role).toString();
+        child.name = property(name).toString();
+        child.state = qdbus_cast<QList<uint>>(answer(state)).value(0);
+        children.push_back(child);
     }
     return children;
 }

@@ -36,6 +36,11 @@ public:
     /// All windows that are open, with everything that is in them and in their menus, shown or not; from the outside
     /// in, what comes first on the screen first.
     [[nodiscard]] std::vector<Accessible> everything() const;
+    /// The same of the window that has the keyboard, without its closed menus: much is asked again and again.
+    [[nodiscard]] std::vector<Accessible> inFront() const;
+    /// All windows, shown or not.
+    [[nodiscard]] std::vector<Accessible> windows() const;
+    [[nodiscard]] std::vector<Accessible> childrenOf(const Accessible& parent) const;
 
     [[nodiscard]] QString description(const Accessible& accessible) const;
     [[nodiscard]] double value(const Accessible& accessible) const;
@@ -43,11 +48,6 @@ public:
     [[nodiscard]] QRect place(const Accessible& accessible) const;
 
 private:
-    [[nodiscard]] QVariant ask(const Accessible& accessible, const QString& interface, const QString& method,
-                               const QVariantList& words = {}) const;
-    [[nodiscard]] QVariant property(const Accessible& accessible, const QString& interface, const QString& name) const;
-    [[nodiscard]] std::vector<Accessible> childrenOf(const Accessible& parent) const;
-
     QTemporaryDir m_folder;
     QProcess m_sessionBus;
     QProcess m_launcher; ///< of the bus for accessibility, whose address it tells on the session's bus

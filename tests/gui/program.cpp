@@ -7,8 +7,11 @@
 #include <QScreen>
 #include <algorithm>
 #include <csignal>
+#include <exception>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -34,14 +37,22 @@ Program::Program(Stage until, const QString& folder, const QStringList& launcher
     m_process.setWorkingDirectory(folder.isEmpty() ? m_home.path() : folder);
     const QStringList command = launcher + QStringList(SCHEMLET_PROGRAM);
     m_process.start(command.first(), command.mid(1));
-    waitForWindow("Schemlet 2.0");
-    if (until != Stage::splash) {
-        waitForHelp();
+    if (until == Stage::splash) {
+        waitForWindow(splashTitle);
+        return;
     }
+    waitUntil("the main window", [this] {
+        const QString title = titleInFront();
+        if (title == splashTitle) {
+            keys({"Escape"});
+        }
+        return title == mainTitle;
+    });
+    waitForHelp();
     if (until == Stage::drawing) {
-        EXPECT_EQ(QProcess::execute("wmctrl", {"-F", "-c", "Help"}), 0);
+        waitUntil("the help window's frame", [] { return QProcess::execute("wmctrl", {"-F", "-c", "Help"}) == 0; });
         waitUntil("the help window's end", [this] { return !isOpen("Help"); });
-        xdotool({"windowmove", idOf(mainTitle), "40", "40"});
+        xdotool({"windowmove", m_window, "40", "40"});
         waitUntil("the main window in its place", [this] {
             findCanvas();
             return m_canvas.left() == 40;
@@ -53,6 +64,7 @@ void Program::waitForHelp()
 {
     waitForMainWindow();
     waitUntil("the help window", [this] { return isOpen("Help"); });
+    m_window = outputOf("xdotool", {"getwindowfocus"});
     findCanvas();
 }
 
@@ -114,7 +126,7 @@ void Program::openPopup(int x, int y)
 
 void Program::resize(int width, int height)
 {
-    xdotool({"windowsize", "--sync", idOf(mainTitle), QString::number(width), QString::number(height)});
+    xdotool({"windowsize", m_window, QString::number(width), QString::number(height)});
     waitUntil("the new size", [&] {
         findCanvas();
         return m_canvas.width() == width;
@@ -123,7 +135,7 @@ void Program::resize(int width, int height)
 
 void Program::activate()
 {
-    xdotool({"windowactivate", idOf(mainTitle)});
+    xdotool({"windowactivate", m_window});
     waitForMainWindow();
 }
 
@@ -140,21 +152,22 @@ QColor Program::pixel(int x, int y) const
 std::optional<Accessible> Program::find(const char* role, const QString& name) const
 {
     const auto wanted = QRegularExpression::fromWildcard(name, Qt::CaseSensitive);
-    const std::vector<Accessible> all = m_bus.everything();
+    const std::vector<Accessible> all = m_bus.inFront();
     const auto found = std::ranges::find_if(all, [&](const Accessible& each) {
-        return each.inFront && each.showing() && each.role == role && wanted.match(each.name.simplified()).hasMatch();
+        return each.showing() && each.role == role && wanted.match(each.name.simplified()).hasMatch();
     });
     return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
 QRect Program::placeOf(const char* role, const QString& name) const
 {
-    std::optional<Accessible> found;
+    QRect place;
     waitUntil(qPrintable(role + (": " + name)), [&] {
-        found = find(role, name);
-        return found.has_value();
+        const std::optional<Accessible> found = find(role, name);
+        const QRect last = std::exchange(place, found ? m_bus.place(*found) : QRect());
+        return !place.isEmpty() && place == last; // it no longer moves
     });
-    return m_bus.place(*found);
+    return place;
 }
 
 void Program::hoverOver(const char* role, const QString& name)
@@ -193,11 +206,16 @@ void Program::waitForMark(const char* menu, const char* item, bool checked) cons
     });
 }
 
+QString Program::titleInFront() const
+{
+    const std::vector<Accessible> windows = m_bus.windows();
+    const auto found = std::ranges::find_if(windows, &Accessible::inFront);
+    return found == windows.end() ? QString() : found->name;
+}
+
 void Program::waitForWindow(const QString& title) const
 {
-    waitUntil(qPrintable(title), [&] {
-        return outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title.trimmed();
-    });
+    waitUntil(qPrintable(title), [&] { return titleInFront().trimmed() == title.trimmed(); });
 }
 
 void Program::answer(const QString& title, const char* key)
@@ -226,14 +244,16 @@ void Program::expect(const Outcome& outcome)
     waitForMainWindow();
 }
 
-QString Program::idOf(const QString& title) const
+bool Program::isOpen(const QString& title) const
 {
-    return outputOf("xdotool", {"search", "--onlyvisible", "--name", "^" + title + "$"});
+    return std::ranges::any_of(m_bus.windows(), [&](const Accessible& window) {
+        return window.showing() && window.name.trimmed() == title.trimmed();
+    });
 }
 
 void Program::closeActiveWindow()
 {
-    EXPECT_EQ(QProcess::execute("wmctrl", {"-c", ":ACTIVE:"}), 0);
+    EXPECT_EQ(QProcess::execute("wmctrl", {"-i", "-c", outputOf("xdotool", {"getwindowfocus"})}), 0);
 }
 
 QStringList Program::filesAtHome() const
@@ -250,4 +270,21 @@ int Program::exitStatus()
 {
     EXPECT_TRUE(m_process.waitForFinished(patience)) << "the program does not end";
     return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+Program::Witness::~Witness()
+{
+    if (std::uncaught_exceptions() == 0) {
+        return;
+    }
+    const QString picture = QCoreApplication::applicationDirPath() + "/" +
+                            testing::UnitTest::GetInstance()->current_test_info()->name() + ".png";
+    QGuiApplication::primaryScreen()->grabWindow().save(picture);
+    std::cout << "The screen is in " << qPrintable(picture) << "; in front is";
+    for (const Accessible& each : program.m_bus.inFront()) {
+        if (each.showing() && !each.name.isEmpty()) {
+            std::cout << " [" << qPrintable(each.role + ": " + each.name.simplified()) << ']';
+        }
+    }
+    std::cout << std::endl;
 }

@@ -30,7 +30,7 @@ public:
     /// Starts it in this folder, or else in a home folder of its own, by way of a command that runs it, and waits until
     /// it has come so far.
     explicit Program(Stage until = Stage::drawing, const QString& folder = {}, const QStringList& launcher = {});
-    ~Program() { end(m_process); }
+    ~Program() = default;
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -75,7 +75,7 @@ public:
     void answer(const QString& title, const char* key);
     void expect(const Outcome& outcome);
 
-    [[nodiscard]] bool isOpen(const QString& title) const { return !idOf(title).isEmpty(); }
+    [[nodiscard]] bool isOpen(const QString& title) const;
 
     /// From the splash on: waits for the main window, and for the help window that opens after it.
     void waitForHelp();
@@ -90,12 +90,25 @@ public:
     [[nodiscard]] const AccessibilityBus& bus() const { return m_bus; }
 
 private:
-    [[nodiscard]] QString idOf(const QString& title) const;
+    [[nodiscard]] QString titleInFront() const;
     void findCanvas();
 
+    /// Ended with this object.
+    struct Process : QProcess {
+        ~Process() override { end(*this); }
+    };
+    /// Says what is on the screen when a test ends because something never came.
+    struct Witness {
+        const Program& program;
+        ~Witness();
+    };
+
+    static constexpr auto splashTitle = "Schemlet 2.0";
     static constexpr auto mainTitle = " - Schemlet 2.0  New File ";
     AccessibilityBus m_bus;
     QTemporaryDir m_home;
-    QProcess m_process;
-    QRect m_canvas; ///< on the screen
+    Process m_process;
+    QString m_window; ///< the main one, by its number on the screen
+    QRect m_canvas;   ///< on the screen
+    Witness m_witness{*this};
 };
