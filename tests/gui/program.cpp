@@ -151,7 +151,7 @@ QColor Program::pixel(int x, int y) const
 
 std::optional<Accessible> Program::find(const char* role, const QString& name) const
 {
-    const auto wanted = QRegularExpression::fromWildcard(name, Qt::CaseSensitive);
+    const auto wanted = QRegularExpression::fromWildcard(name);
     const std::vector<Accessible> all = m_bus.inFront();
     const auto found = std::ranges::find_if(all, [&](const Accessible& each) {
         return each.showing() && each.role == role && wanted.match(each.name.simplified()).hasMatch();

@@ -53,8 +53,8 @@ public:
     [[nodiscard]] QColor pixel(int x, int y) const;
     [[nodiscard]] bool inked(int x, int y) const { return pixel(x, y) != Qt::white; }
 
-    /// What is to be seen in the window that has the keyboard, by its role and its name or, of a label, its text; in
-    /// these * stands for anything.
+    /// What is to be seen in the window that has the keyboard, by its role and its name or, of a label, its text, in
+    /// capitals or not; in these * stands for anything.
     [[nodiscard]] std::optional<Accessible> find(const char* role, const QString& name) const;
     [[nodiscard]] bool shows(const char* role, const QString& name) const { return find(role, name).has_value(); }
     /// Where that is on the screen, once it is there.

