@@ -7,7 +7,7 @@
 // A window and boxes for nobody to see: with them a symbol can be drawn on any surface, for a picture of it.
 
 /// Keeps nothing but the option that is chosen; its text boxes hold the usual value.
-class QuietWindow final : public Window {
+class QuietWindow : public Window {
 public:
     void setCaption(std::string_view /*title*/) override {}
     void showWindow() override {}

@@ -1,13 +1,13 @@
-// Draws every symbol of the library, in each heading that it distinguishes, into one picture: for people to look at,
-// and to notice that a stroke changed.
-//   symbol_sheet FILE            writes the sheet
-//   symbol_sheet --check FILE    compares with it; a differing sheet is written beside the program
+// Draws every symbol of the library, in each heading that it distinguishes, and the program's own pictures into one
+// picture for people to look at:  symbol_sheet FILE
 
 #include "canvas/jumper_ground.h"
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "platform/qt/qt_surface.h"
 #include "shell/hand.h"
+#include "shell/product_picture.h"
+#include "shell/toolbox.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -17,11 +17,8 @@
 #include "symbols/thyristors.h"
 #include "symbols/transformers.h"
 
-#include <QCommandLineParser>
-#include <QCryptographicHash>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QTextStream>
 #include <algorithm>
 #include <span>
 #include <vector>
@@ -119,7 +116,8 @@ struct Cell {
     QRect extent; ///< of the symbol and its pen, on scratch paper with the pen at scratchPen
 };
 
-constexpr const char* digestKey = "Digest"; // of what is written into the sheet's file
+constexpr int columns = 10;
+constexpr int cellWidth = 160;
 constexpr QSize scratchPaper{600, 600};
 constexpr QPoint scratchPen{300, 300};
 
@@ -134,22 +132,6 @@ std::vector<Cell> allCells()
         }
     }
     return cells;
-}
-
-/// Sees strokes of less than a pixel more or less, which the sheet does not show: drawn from a third of a pixel
-/// further, five twips, at least one of their ends comes to lie in another pixel.
-QString digest()
-{
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (const Entry& entry : entries) {
-        for (const int heading : entry.headings) {
-            for (const double aside : {1.0 / 3, 2.0 / 3}) {
-                const QImage image = drawAt(entry, heading, scratchPaper, scratchPen + QPointF(aside, aside)).image;
-                hash.addData(QByteArrayView(image.constBits(), image.sizeInBytes()));
-            }
-        }
-    }
-    return QString::fromLatin1(hash.result().toHex());
 }
 
 QString title(const Cell& cell)
@@ -180,22 +162,14 @@ void paintCell(QPainter& painter, const QRect& place, const Cell& cell)
     painter.drawRect(place);
 }
 
-QImage drawSheet()
+/// Paints all cells; how high that is.
+int paintCells(QPainter& painter)
 {
-    constexpr std::size_t columns = 10;
-    constexpr int cellWidth = 160;
     constexpr int aroundSymbol = 44; // pixels, its title among them
-    constexpr int legendHeight = 24;
     const std::vector<Cell> cells = allCells();
-
-    constexpr int endlessPaper = 2000; // pixels; cut where the sheet ends
-    QImage sheet(static_cast<int>(columns) * cellWidth + 1, endlessPaper, QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    QPainter painter(&sheet);
-    painter.setFont(canvasFont());
     int top = 0;
     for (std::size_t first = 0; first < cells.size(); first += columns) {
-        const auto row = std::span(cells).subspan(first, std::min(columns, cells.size() - first));
+        const auto row = std::span(cells).subspan(first, std::min<std::size_t>(columns, cells.size() - first));
         const auto height = [](const Cell& cell) { return cell.extent.height(); };
         const int rowHeight = height(*std::ranges::max_element(row, {}, height)) + aroundSymbol;
         for (int left = 0; const Cell& cell : row) {
@@ -205,23 +179,66 @@ QImage drawSheet()
         top += rowHeight;
     }
     painter.setPen(Qt::black);
-    painter.drawText(6, top + 17, "Blue circle: where the pen comes in. Red cross: where it goes on.");
-    painter.end();
-    QImage cut = sheet.copy(0, 0, sheet.width(), top + legendHeight);
-    cut.setText(digestKey, digest());
-    return cut;
+    painter.drawText(
+        6, top + 17,
+        "Blue circle: where the pen comes in. Red cross: where it goes on. Below: the pictures of the splash "
+        "and the about window, and those of the toolbox.");
+    return top + 24;
 }
 
-int check(const QImage& sheet, const QString& file)
+/// Keeps the toolbox's sketches.
+class Gallery final : public QuietWindow {
+public:
+    std::vector<void (*)(Surface&)> pictures;
+
+    void drawPicture(Name /*control*/, void (*draw)(Surface&)) override { pictures.push_back(draw); }
+};
+
+void paintPicture(QPainter& painter, const QRect& place, void (*draw)(Surface&))
 {
-    const QImage known = QImage(file).convertToFormat(sheet.format());
-    if (known == sheet && known.text(digestKey) == sheet.text(digestKey)) {
-        return 0;
+    QtSurface surface;
+    surface.growTo(place.size());
+    draw(surface);
+    painter.drawImage(place.topLeft(), surface.image());
+    painter.setPen(QColor(210, 210, 210));
+    painter.drawRect(place);
+}
+
+/// Paints what toolbox, splash and about window show, each in its size there; how high that is.
+int paintPictures(QPainter& painter, int top)
+{
+    constexpr QSize sketch{72, 42};
+    constexpr QSize product{440, 190};
+    constexpr int gap = 8;
+    constexpr int perRow = 5;
+    paintPicture(painter, {{gap, top + gap}, product}, drawProductPicture);
+
+    Gallery gallery;
+    QtSurface surface;
+    QuietDialogs dialogs;
+    QuietPictures files;
+    Form1 form(surface, gallery, dialogs, files, gallery, gallery, gallery, gallery);
+    addTools(form);
+    for (int i = 0; const auto picture : gallery.pictures) {
+        const QPoint place(product.width() + 2 * gap + i % perRow * (sketch.width() + gap),
+                           top + gap + i / perRow * (sketch.height() + gap));
+        paintPicture(painter, {place, sketch}, picture);
+        ++i;
     }
-    const QString differing = QCoreApplication::applicationDirPath() + "/symbol_sheet.png";
-    sheet.save(differing);
-    QTextStream(stderr) << "The symbols are not drawn as in " << file << "; see " << differing << "\n";
-    return 1;
+    return product.height() + 2 * gap;
+}
+
+QImage drawSheet()
+{
+    constexpr QSize endless{columns * cellWidth + 1, 4000}; // cut where the sheet ends
+    QImage sheet(endless, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    painter.setFont(canvasFont());
+    const int cells = paintCells(painter);
+    const int pictures = paintPictures(painter, cells);
+    painter.end();
+    return sheet.copy(0, 0, sheet.width(), cells + pictures);
 }
 
 } // namespace
@@ -230,18 +247,9 @@ int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    QCommandLineParser options;
-    options.addOption({"check", "Compare with the sheet in FILE instead of writing it."});
-    options.addPositionalArgument("FILE", "The sheet, a PNG picture.");
-    options.addHelpOption();
-    options.process(application);
-    if (options.positionalArguments().size() != 1) {
-        options.showHelp(2);
+    if (argc != 2) {
+        qCritical("symbol_sheet FILE");
+        return 2;
     }
-    const QString file = options.positionalArguments().first();
-    const QImage sheet = drawSheet();
-    if (options.isSet("check")) {
-        return check(sheet, file);
-    }
-    return sheet.save(file) ? 0 : 1;
+    return drawSheet().save(argv[1]) ? 0 : 1;
 }

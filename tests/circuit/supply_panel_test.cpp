@@ -1,5 +1,3 @@
-// The strokes are checked by the symbol sheet.
-
 #include "circuit/supply_panel.h"
 
 #include "tests/support/stand_ins.h"
@@ -19,27 +17,6 @@ std::string shown(Bench& bench)
 }
 
 } // namespace
-
-TEST(Sources, PrintTheValueInBlackAndMoveThePenPastTheSymbol)
-{
-    for (const auto& [source, way] :
-         {std::pair{"A 4.70V", 410}, {"V 4.70V", 410}, {"+ 4.70V", 120}, {"- 4.70V", 120}}) {
-        for (const auto& [heading, x, y] : waysPast(way, way)) {
-            SCOPED_TRACE(source + std::to_string(heading));
-            Bench bench;
-            bench.form.heading = heading;
-            bench.surface.setForeColor(0x0000FF);
-            bench.enter(source);
-            const std::string drawn = bench.drawn();
-            EXPECT_EQ(drawn.find(" 4.7\n") == std::string::npos, heading == 7);
-            EXPECT_EQ(drawn.ends_with(" ...\n"), way == 410 && heading != 7); // no new line behind a supply's unit
-            EXPECT_EQ(bench.pen(), std::to_string(x) + " " + std::to_string(y));
-            EXPECT_EQ(bench.marker(), "1600 1200");
-            EXPECT_EQ(bench.surface.foreColor, black);
-            EXPECT_EQ(bench.window.at(control::Text11).text, "");
-        }
-    }
-}
 
 TEST(Sources, SuppliesAreSummedAndBatteriesReplaced)
 {
@@ -71,6 +48,7 @@ TEST(SupplyPanel, ShowsWhatEachStepNeedsAndGivesTheKeyboardBack)
     bench.confirm("5");
     EXPECT_EQ(shown(bench), "");
     EXPECT_EQ(bench.window.focused, control::Canvas);
+    EXPECT_EQ(bench.window.at(control::Text11).text, "");
     for (const Name option : {control::Option2, control::Option3, control::Option4, control::Option5}) {
         EXPECT_EQ(bench.window.at(option).value, 0);
     }

@@ -1,5 +1,3 @@
-// The strokes are checked by the symbol sheet.
-
 #include "circuit/valued_components.h"
 
 #include "tests/support/stand_ins.h"
@@ -11,37 +9,6 @@ namespace {
 constexpr Color red = 0x0000FF;
 
 } // namespace
-
-TEST(ValuedComponents, PrintTheValueAsTypedInTheirColourAndMoveThePenPastTheSymbol)
-{
-    struct Case {
-        const char* entered;
-        const char* prompt;
-        Name color;
-        int level, upright; ///< the pen's ways
-    };
-    for (const Case& c : {Case{"R4.70", " Enter Value of Resistance ", "resistancecolor", 1050, 750},
-                          Case{"I4.70", " Enter Value of Inductance ", "inductancecolor", 900, 900},
-                          Case{"C4.70", " Enter Value of Capacitance ", "capacitancecolor", 160, 160}}) {
-        for (const auto& [heading, x, y] : waysPast(c.level, c.upright)) {
-            SCOPED_TRACE(c.prompt + std::to_string(heading));
-            Bench bench;
-            bench.dialogs.picked = red;
-            bench.click(c.color);
-            bench.form.heading = heading;
-            bench.enter(c.entered);
-            EXPECT_EQ(bench.dialogs.lastPrompt, c.prompt);
-            EXPECT_EQ(bench.surface.firstInkColor.value_or(red), red);
-            EXPECT_EQ(bench.surface.foreColor, black);
-            EXPECT_EQ(bench.drawn().find(" 4.70\n") == std::string::npos, heading == 7);
-            EXPECT_EQ(bench.form.x, x);
-            EXPECT_EQ(bench.form.y, y);
-            EXPECT_EQ(bench.window.at(control::Picture1).left, x);
-            EXPECT_EQ(bench.window.at(control::Picture1).top, 1200);
-            EXPECT_GT(bench.form.resist + bench.form.induc + bench.form.capac, 0);
-        }
-    }
-}
 
 TEST(ValuedComponents, SumInSeriesAndCapacitancesByTheirReciprocals)
 {

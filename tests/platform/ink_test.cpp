@@ -1,42 +1,19 @@
 #include "platform/ink.h"
 
+#include "tests/support/paper.h"
+
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
-// The arcs of the jumpers are checked by the symbol sheet.
 
 namespace {
 
-/// A small image as text, one character a pixel.
-struct Paper {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(index(0, height));
-
-    [[nodiscard]] ink::Image image() { return {pixels.data(), width, height, width}; }
-    [[nodiscard]] std::size_t index(int x, int y) const
-    {
-        return static_cast<std::size_t>(x + y * std::ptrdiff_t{width});
-    }
-    [[nodiscard]] int at(int x, int y) const { return static_cast<int>(pixels[index(x, y)]); }
-    [[nodiscard]] std::string text() const
-    {
-        std::string out;
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                out += at(x, y) != 0 ? '#' : '.';
-            }
-            out += '\n';
-        }
-        return out;
-    }
-    [[nodiscard]] long inked() const { return std::ranges::count(pixels, 1U); }
-};
-
 constexpr ink::Pen thin{1, 2};
 constexpr ink::Pen eraser{1, 10};
+
+long inked(const Paper& paper)
+{
+    return std::ranges::count(paper.pixels, 1U);
+}
 
 } // namespace
 
@@ -45,21 +22,14 @@ TEST(Ink, ZeroLengthLinesLeaveTheSameDotEverywhere)
     for (const double fraction : {0.0, 0.3, 0.49}) {
         Paper paper{4, 4};
         ink::line(paper.image(), thin, {2 + fraction, 2 + fraction}, {2 + fraction, 2 + fraction});
-        EXPECT_EQ(paper.text(), "....\n.##.\n.##.\n....\n") << fraction;
+        EXPECT_EQ(paper.text(), "....\n.11.\n.11.\n....\n") << fraction;
     }
-}
-
-TEST(Ink, CirclesSmallerThanThePenHaveNoHole)
-{
-    Paper paper{5, 5};
-    ink::circle(paper.image(), thin, {2.5, 2.5}, 2.0 / 3);
-    EXPECT_EQ(paper.text(), ".....\n.###.\n.###.\n.###.\n.....\n");
 }
 
 TEST(Ink, DotsTenTwipsApartMergeIntoASolidWireOfEvenWidth)
 {
     std::string wire;
-    for (const char pixel : {'.', '.', '#', '#', '#', '.', '.'}) {
+    for (const char pixel : {'.', '.', '1', '1', '1', '.', '.'}) {
         wire.append(20, pixel).push_back('\n');
     }
     for (const double start : {3.0, 3.3, 3.67}) {
@@ -137,10 +107,10 @@ TEST(Ink, ClipsWhatLiesOutsideHoweverFar)
         ink::circle(paper.image(), thin, {far, 5}, 10);
         ink::arc(paper.image(), thin, {5, far}, 10, 3.5, 0);
     }
-    EXPECT_EQ(paper.inked(), 0);
+    EXPECT_EQ(inked(paper), 0);
 
     ink::line(paper.image(), thin, {-3e9, 5}, {3e9, 5});
-    EXPECT_EQ(paper.inked(), 20);
+    EXPECT_EQ(inked(paper), 20);
     ink::circle(paper.image(), eraser, {5, 5}, 1);
-    EXPECT_GT(paper.inked(), 60);
+    EXPECT_GT(inked(paper), 60);
 }

@@ -81,8 +81,6 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
     EXPECT_EQ(bench.window.intervals.at("statusTimer"), 0);
 }
 
-// The families' own colours and questions: see the test of the symbols.
-
 TEST(Colors, CanvasColourWipesTheDrawingAndReachesToolboxAndPanelBlackOnlyThePanel)
 {
     Bench bench;

@@ -22,19 +22,9 @@ TEST(Toolbox, FollowsTheMouseFromAClickOrAMoveOverItToTheNextOne)
     EXPECT_EQ(placeAfterMove(100, 200), std::pair(100.0, 200.0));
 }
 
-TEST(Toolbox, PicturesSayWhatTheyDrawAndDoSo)
+TEST(Toolbox, EraserSaysHowToComeBack)
 {
     Bench bench;
-    bench.form.confirm.fill(0);
-    for (const auto& [name, hint, pen] : {std::tuple{"Image1", " Click to draw AND Gate ", "1925 1550"},
-                                          {"Image5", " Click to draw NAND Gate ", "2310 1625"}}) {
-        bench.hover(name);
-        EXPECT_EQ(bench.window.at(control::sb).text, hint);
-        bench.click(name);
-        EXPECT_EQ(bench.pen(), pen);
-    }
-    bench.click("Image18");
-    EXPECT_TRUE(bench.window.at(control::sup).visible);
     bench.click("Image20");
     EXPECT_EQ(bench.window.at(control::sb).text, " Press 'E' to return to normal mode ");
     EXPECT_EQ(bench.form.eraseMode, 1);

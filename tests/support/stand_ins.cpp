@@ -2,36 +2,48 @@
 
 #include "shell/main_window.h"
 
-#include <sstream>
+#include <charconv>
 #include <utility>
 
 namespace {
 
+template <typename Number> std::string written(Number number)
+{
+    std::array<char, 32> text{};
+    return {text.begin(), std::to_chars(text.begin(), text.end(), number).ptr};
+}
+
 std::string place(double x, double y)
 {
-    std::ostringstream out;
-    out.precision(10);
-    out << x << ' ' << y;
-    return out.str();
+    return written(x) + " " + written(y);
 }
 
 } // namespace
 
-void RecordingSurface::note(const char* what, std::initializer_list<double> numbers, std::string_view text)
+std::string shortest(float number)
+{
+    return written(number);
+}
+
+std::string shortest(double number)
+{
+    return written(number);
+}
+
+void RecordingSurface::note(const char* what, std::initializer_list<float> numbers, std::string_view text)
 {
     if (!recording) {
         return;
     }
-    std::ostringstream call;
-    call.precision(10);
-    call << what;
-    for (const double number : numbers) {
-        call << ' ' << number;
+    if (notesColors && m_notedColor != foreColor) {
+        m_notedColor = foreColor;
+        ink.push_back("color " + std::to_string(foreColor));
     }
-    ink.push_back(call.str() + std::string(text));
-    if (!firstInkColor) {
-        firstInkColor = foreColor;
+    std::string call = what;
+    for (const float number : numbers) {
+        call += " " + shortest(number);
     }
+    ink.push_back(call + std::string(text));
 }
 
 void RecordingSurface::stroke(const char* what, const std::array<float, 4>& ends)
@@ -47,7 +59,8 @@ void RecordingSurface::arc(float x, float y, float radius, float start, float en
 
 void RecordingSurface::print(std::string_view text, bool endLine)
 {
-    note("print", {m_current.x, m_current.y}, " " + std::string(text) + (endLine ? "" : " ..."));
+    note("print", {static_cast<float>(m_current.x), static_cast<float>(m_current.y)},
+         " " + std::string(text) + (endLine ? "" : " ..."));
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
 }
 
@@ -57,20 +70,27 @@ std::optional<Color> RecordingSurface::point(float x, float y) const
     return underPoint;
 }
 
-ScriptedDialogs::Expected ScriptedDialogs::next(std::string_view prompt, std::string_view title)
+ScriptedDialogs::Reply ScriptedDialogs::expected(std::string_view title)
 {
-    lastPrompt = prompt;
     if (m_expected.empty()) {
         ADD_FAILURE() << "unexpected question: " << title;
         return {};
     }
-    Expected next = m_expected.front();
+    const Expected next = m_expected.front();
     m_expected.pop_front();
     EXPECT_EQ(title, next.title);
+    return next.reply;
+}
+
+ScriptedDialogs::Reply ScriptedDialogs::next(std::string_view prompt, std::string_view title)
+{
+    lastPrompt = prompt;
+    lastTitle = title;
+    const Reply reply = always ? *always : expected(title);
     if (const auto happens = std::exchange(meanwhile, {})) {
         happens();
     }
-    return next;
+    return reply;
 }
 
 int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
@@ -143,8 +163,9 @@ void StandInWindow::printForm()
     }
 }
 
-void StandInWindow::addMenuItem(int /*depth*/, const MenuItem& item)
+void StandInWindow::addMenuItem(int depth, const MenuItem& item)
 {
+    menuRows.emplace_back(depth, item);
     m_controls[std::string(item.name)].checked = item.look == Look::checked;
 }
 
@@ -208,13 +229,4 @@ std::string Bench::marker()
 std::string Bench::outcome()
 {
     return drawn() + "pen " + pen() + ", marker " + marker();
-}
-
-std::array<Way, 5> waysPast(int level, int upright)
-{
-    return {{{heading::right, 1600 + level, 1500},
-             {heading::left, 1600 - level, 1500},
-             {heading::up, 1600, 1500 - upright},
-             {heading::down, 1600, 1500 + upright},
-             {7, 1600, 1500}}};
 }

@@ -25,10 +25,10 @@ class RecordingSurface final : public Surface {
 public:
     std::vector<std::string> ink;
     bool recording = true;           ///< off for long walks: then nothing is kept
+    bool notesColors = false;        ///< before the first thing that is drawn in a colour, a line for that
     std::optional<Color> underPoint; ///< what point() finds, anywhere
     mutable std::string probedAt;    ///< where point() looked last
     Color foreColor = black;
-    std::optional<Color> firstInkColor; ///< of the first thing that was drawn
 
     void line(float x1, float y1, float x2, float y2) override { stroke("line", {x1, y1, x2, y2}); }
     void box(float x1, float y1, float x2, float y2) override { stroke("box", {x1, y1, x2, y2}); }
@@ -37,7 +37,7 @@ public:
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(float x, float y) const override;
     void clear() override { note("clear", {}); }
-    void setBackColor(Color color) override { note("back", {static_cast<double>(color)}); }
+    void setBackColor(Color color) override { note("back", {static_cast<float>(color)}); }
     void setForeColor(Color color) override { foreColor = color; }
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
@@ -45,11 +45,12 @@ public:
     void setCurrent(float x, float y) override { m_current = {x, y}; }
 
 private:
-    void note(const char* what, std::initializer_list<double> numbers, std::string_view text = {});
+    void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
     void stroke(const char* what, const std::array<float, 4>& ends);
 
     int m_drawWidth = 2;
     Point m_current;
+    std::optional<Color> m_notedColor;
 };
 
 /// Gives queued answers; an unexpected question or one left over fails the test.
@@ -58,9 +59,9 @@ public:
     ~ScriptedDialogs() override { EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().title; }
 
     /// The next question must have this title, and is answered so.
-    void expect(const char* title, int answer) { m_expected.push_back({title, answer, {}}); }
+    void expect(const char* title, int answer) { m_expected.push_back({title, {answer, {}}}); }
     /// Before all others an input box must have this title; "" is Cancel.
-    void expectInput(const char* title, const std::string& text) { m_expected.push_front({title, answer::no, text}); }
+    void expectInput(const char* title, const std::string& text) { m_expected.push_front({title, {answer::no, text}}); }
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
@@ -72,23 +73,28 @@ public:
     std::string openFile() override;
     std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) override;
 
-    std::function<void()> meanwhile;       ///< happens while a box is open
+    struct Reply {
+        int answer = answer::no;
+        std::string text;
+    };
+    std::optional<Reply> always;           ///< to every question, whatever its title
+    std::function<void()> meanwhile;       ///< happens while the next box is open
     Color picked = black;                  ///< what the colour dialog says
     std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
     std::optional<std::string> fileToSave;
     std::string lastFilter;
-    std::string lastName;   ///< proposed to save by
-    std::string lastTitle;  ///< of the colour dialog
-    std::string lastPrompt; ///< of any box
+    std::string lastName;  ///< proposed to save by
+    std::string lastTitle; ///< of any box
+    std::string lastPrompt;
     Box lastStyle = Box::okOnly;
 
 private:
     struct Expected {
         std::string title;
-        int answer = answer::no;
-        std::string text;
+        Reply reply;
     };
-    Expected next(std::string_view prompt, std::string_view title);
+    Reply next(std::string_view prompt, std::string_view title);
+    Reply expected(std::string_view title);
 
     std::deque<Expected> m_expected;
 };
@@ -190,6 +196,7 @@ public:
     std::optional<Fault> printFault; ///< thrown by every printForm()
     std::string poppedUp;
     Point canvas{9000, 6000}; ///< its size
+    std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
     std::map<std::string, int, std::less<>> intervals;
 
     // A name that the program's windows do not have fails the test.
@@ -246,6 +253,10 @@ private:
     std::map<std::string, Control, std::less<>> m_controls;
 };
 
+/// The shortest text that no other number has.
+std::string shortest(float number);
+std::string shortest(double number);
+
 /// The program without a toolkit, and what a user and the clock do to it.
 struct Bench {
     enum class Start { atSplash, behindIt };
@@ -292,13 +303,6 @@ struct Bench {
     /// All of that, such as "line 0 0 9 9\npen 1600 1500, marker 1600 1200".
     std::string outcome();
 };
-
-/// Where the pen ends, right after start, past something this long that follows its heading, and for a heading that is
-/// none.
-struct Way {
-    int heading, x, y;
-};
-std::array<Way, 5> waysPast(int level, int upright);
 
 /// What a command leaves that does nothing right after start.
 inline constexpr const char* nothing = "pen 1600 1500, marker 1600 1200";

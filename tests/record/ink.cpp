@@ -1,0 +1,70 @@
+#include "platform/finer_ink.h"
+#include "tests/record/record.h"
+#include "tests/support/paper.h"
+#include "tests/support/stand_ins.h"
+
+namespace {
+
+struct Shape {
+    const char* title;
+    ink::Place from, to{}; ///< or the centre alone
+    double radius = 0;     ///< 0: a line
+    double start = 0, end = 0;
+};
+
+constexpr Shape shapes[] = {
+    {"dot", {6.5, 5.4}, {6.5, 5.4}},
+    {"level line", {-3, 7.2}, {9.7, 7.2}},
+    {"steep line", {12.2, 20}, {6, 4.7}},
+    {"flat line", {4, 11}, {30, 5.5}},
+    {"wire's dot", {7, 6}, {}, 10 / 15.0},
+    {"circle", {8.1, 6.7}, {}, 6.2},
+    {"circle over the edge", {15, 1}, {}, 7},
+    {"level hop", {8, 8}, {}, 100 / 15.0, 3.5, 0},
+    {"upright hop", {8, 8}, {}, 100 / 15.0, 5, 1.5},
+};
+
+ink::Area draw(Paper& paper, const ink::Pen& pen, const Shape& shape, double aside = 0)
+{
+    const ink::Place from{shape.from.x + aside, shape.from.y + aside};
+    if (shape.radius == 0) {
+        return ink::line(paper.image(), pen, from, {shape.to.x + aside, shape.to.y + aside});
+    }
+    return shape.start == shape.end ? ink::circle(paper.image(), pen, from, shape.radius)
+                                    : ink::arc(paper.image(), pen, from, shape.radius, shape.start, shape.end);
+}
+
+/// Over other ink, on a screen of finer pixels that has more of them than the canvas needs; then the same shape a
+/// little aside in another colour.
+std::string shownFiner(const Shape& shape, double penWidth, double scale)
+{
+    Paper canvas{18, 15};
+    Paper finer{static_cast<int>(19 * scale), static_cast<int>(15 * scale) + 1, scale};
+    ink::line(canvas.image(), {2, 5}, {9, 0}, {9, 15});
+    ink::enlarge(canvas.image(), finer.image(), {0, 0, 18, 15});
+    std::string text = "with " + shortest(scale) + " times the pixels\n";
+    for (const auto& [pixel, aside] : {std::pair{1U, 0.0}, {3U, 0.2}}) {
+        for (Paper* const paper : {&canvas, &finer}) {
+            draw(*paper, {pixel, penWidth}, shape, aside);
+        }
+        ink::reconcile(canvas.image(), finer.image(), {0, 0, 18, 15});
+        text += finer.text();
+    }
+    return text;
+}
+
+} // namespace
+
+void recordInk(Record& record)
+{
+    for (const Shape& shape : shapes) {
+        for (const double width : {2.0, 10.0}) {
+            Paper paper{18, 15};
+            const ink::Area area = draw(paper, {1, width}, shape);
+            record.push_back({std::string("Ink, ") + shape.title + ", " + shortest(width) + " pixels wide",
+                              "changes " + std::to_string(area.left) + " " + std::to_string(area.top) + " to " +
+                                  std::to_string(area.right) + " " + std::to_string(area.bottom) + "\n" + paper.text() +
+                                  shownFiner(shape, width, 1.5) + shownFiner(shape, width, 2.25)});
+        }
+    }
+}

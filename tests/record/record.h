@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// All that the program draws, as texts that are compared with golden_record.txt.
+struct Section {
+    std::string title, body;
+};
+
+using Record = std::vector<Section>;
+
+// Each adds its sections.
+void recordDrawing(Record& record); ///< each call that reaches the canvas, and what it leaves there
+void recordInk(Record& record);     ///< the pixels of strokes
