@@ -132,7 +132,7 @@ TEST(Program, OpenAndExitDoAsTheQuestionIsAnswered)
     drawing.waitForTitle(" New File ");
     drawing.waitForWire(true);
 
-    drawing.answer("ctrl+x", "Escape");
+    drawing.answer("ctrl+x", "c");
     drawing.waitForTitle(" New File ");
     drawing.answer("ctrl+x", "y");
     drawing.choose("Save", "third.png");

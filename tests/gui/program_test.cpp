@@ -33,8 +33,8 @@ TEST(Program, StartsWithABlinkingMarkerOnAnEmptyCanvasAndEndsCleanly)
 TEST(Program, ArrowKeysLaySolidWireWithShiftAndOnTheNumberPadTooAndOtherKeysNothing)
 {
     Program program;
-    program.keys({"x", "q", "5", "space", "Tab", "Home", "F7", "ctrl+z", "alt+x", "alt+i", "Shift_L",
-                  "Control_L", "Super_L", "percent", "parenleft"});
+    program.keys({"x", "q", "5", "space", "Tab", "Home", "F7", "ctrl+z", "alt+x", "alt+i", "Shift_L", "Control_L",
+                  "Super_L", "percent", "parenleft"});
     program.click(2, 500, 300);
     program.click(8, 500, 300);
     program.keyTimes(10, "Right");
@@ -178,7 +178,18 @@ TEST(Program, OutputWindowStaysUsableBesideTheMainWindowAndPrintsItselfOnTheDefa
     program.keys({"alt+p"});
     program.waitForWindow("Schemlet 2.0");
     program.keys({"Return"});
-    program.waitForWindow("Output");
+    program.answer("Output", "Escape");
+
+    for (const auto& [key, title, value] : {std::tuple("i", " INDUCTANCE ", "-1"), {"c", " CAPACITANCE ", "4"}}) {
+        program.keys({key});
+        program.waitForWindow(title);
+        program.type(value);
+        program.answer(title, "Return");
+    }
+    program.keys({"ctrl+u"});
+    program.waitForWindow("Schemlet 2.0"); // no resonance
+    program.keys({"Return"});
+    program.answer("Output", "Escape");
 }
 
 TEST(Program, MouseToolsDraw)
