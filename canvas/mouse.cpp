@@ -47,7 +47,7 @@ void mouseDown(Form1& form, int button, float x, float y)
         form.surface.setCurrent(x, y);
     }
     if (button == button::right) {
-        form.controls.popUp(control::rc);
+        form.controls.popUp(control::rc, {x, y});
     }
 }
 
@@ -87,6 +87,11 @@ void mouseUp(Form1& form, int button, float x, float y)
     if (form.rectTool == 1) {
         form.surface.box(static_cast<float>(from.x), static_cast<float>(from.y), x, y);
     }
+}
+
+void popUpAtPen(Form1& form)
+{
+    form.controls.popUp(control::rc, {form.x, form.y});
 }
 
 void linee(Form1& form)

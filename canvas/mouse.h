@@ -11,6 +11,9 @@ void mouseMove(Form1& form, int buttons, float x, float y);
 /// it went down.
 void mouseUp(Form1& form, int button, float x, float y);
 
+/// The popup menu for who has no mouse at hand.
+void popUpAtPen(Form1& form);
+
 // Tool commands. At most one tool is on; once one is chosen, only Open puts one away, the pencil.
 void linee(Form1& form);
 void rectan(Form1& form);

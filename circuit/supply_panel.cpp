@@ -2,6 +2,7 @@
 
 #include "canvas/notice.h"
 #include "circuit/numbers.h"
+#include "platform/runtime_error.h"
 #include "symbols/symbol_protocol.h"
 
 #include <algorithm>
@@ -69,6 +70,17 @@ void askForValue(Form1& form, Name prompt, Name cancel)
     form.controls.show({prompt, control::Command3, cancel, control::Text11});
     form.controls.enable({control::Command3, cancel, control::Text11});
     form.controls.focus(control::Text11);
+}
+
+/// Where the number is too large, the keyboard goes to it.
+double typedValue(Form1& form)
+{
+    try {
+        return leadingNumber(form.controls.text(control::Text11));
+    } catch (const RuntimeError&) {
+        form.controls.focus(control::Text11);
+        throw;
+    }
 }
 
 void hideRestOfPanel(Form1& form)
@@ -166,11 +178,8 @@ void Option5(Form1& form)
 
 void Command3(Form1& form)
 {
-    form.controls.focus(control::Text11);
-    const double typed =
-        leadingNumber(form.controls.text(control::Text11)); // before anything is hidden: it may overflow
+    const double typed = typedValue(form); // before anything is hidden: it may overflow
     form.controls.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
-    form.controls.focus(control::Canvas);
     form.supplyValue = typed;
     if (std::ranges::none_of(kinds, [&form](Name kind) { return isChosen(form, kind); })) {
         notify(form, "Nothing drawn: no kind was chosen");
@@ -198,7 +207,6 @@ void Command7(Form1& form)
     form.controls.hide({control::Option4, control::Option5});
     form.controls.disable({control::Text11});
     form.lastFamily = control::sup; // if that is open too
-    form.controls.focus(control::Canvas);
     followFamilies(form);
 }
 
@@ -210,7 +218,6 @@ void Command8(Form1& form)
     form.controls.hide({control::Option2, control::Option3, control::Label11, control::Label12});
     form.controls.disable({control::Text11});
     form.lastFamily = control::bat;
-    form.controls.focus(control::Canvas);
     followFamilies(form);
 }
 

@@ -22,7 +22,7 @@ public:
     void setSwatch(Name /*key*/, Color /*color*/) override {}
     void setCursor(const Cursor& /*cursor*/) override {}
     void addMenuItem(int /*depth*/, const MenuItem& /*item*/) override {}
-    void popUp(Name /*menu*/) override {}
+    void popUp(Name /*menu*/, Point /*place*/) override {}
     void setChecked(Name /*item*/, bool /*checked*/) override {}
     [[nodiscard]] bool checked(Name /*item*/) const override { return false; }
     void setVisible(Name /*control*/, bool /*visible*/) override {}

@@ -15,7 +15,7 @@ enum class Look {
     plain,
     unchecked, ///< a check item whose mark is off at start
     checked,   ///< a check item whose mark is on at start
-    hidden     ///< a menu that is not on the bar but pops up at the mouse
+    hidden     ///< a menu that is not on the bar: a key that asks for a popup menu reports a click on it
 };
 
 struct MenuItem {
@@ -66,8 +66,8 @@ public:
     /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it. So
     /// a row's depth is at most one more than that of the row before it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;
-    /// Opens a hidden menu at the mouse and returns at once.
-    virtual void popUp(Name menu) = 0;
+    /// Opens a hidden menu at a place on the canvas, or where the canvas comes nearest to it, and returns at once.
+    virtual void popUp(Name menu, Point place) = 0;
     virtual void setChecked(Name item, bool checked) = 0;
     [[nodiscard]] virtual bool checked(Name item) const = 0;
 

@@ -117,7 +117,7 @@ constexpr Command menu[] = {
     {0, {"fc", " Form Color "}},
         {1, {"forec", "Forecolor", "Ctrl+F"}, forec}, {1, {"fd", "-"}},
         {1, {"bc", "Backcolor", "Ctrl+B"}, bc},
-    {0, {control::rc, "&Rightclick", "", Look::hidden}},
+    {0, {control::rc, "&Rightclick", "", Look::hidden}, popUpAtPen},
         {1, {"eras", "&Eraser"}, eraser}, {1, separator},
         {1, {"penc", "&Pencil"}, pencil1},
         {1, {"rectang", "&Rectangle"}, rectan},

@@ -116,8 +116,9 @@ void Command4(Form1& form)
     form.surface.setBackColor(white);
     form.paperColor = white;
     form.surface.clear();
+    form.surface.setForeColor(black);
     form.surface.setDrawWidth(2);
-    form.controls.setVisible(control::Label27, false);
+    form.controls.hide({control::Label27, control::Shape1});
     for (const Name item : confirmItems) {
         form.controls.setChecked(item, true);
     }

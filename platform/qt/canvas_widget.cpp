@@ -1,15 +1,13 @@
 #include "platform/qt/canvas_widget.h"
 
+#include "platform/qt/held_buttons.h"
 #include "platform/qt/keys.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QStyleHints>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -24,7 +22,10 @@ int buttonCode(Qt::MouseButtons buttons)
 
 } // namespace
 
-CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
+CanvasWidget::CanvasWidget(QWidget* parent)
+    : QWidget(parent), m_buttons(new HeldButtons(*this, [this](Qt::MouseButton button, QPointF position) {
+          reportMouse(Event::Kind::mouseUp, buttonCode(button), position);
+      }))
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -36,11 +37,6 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent)
         // On a screen of an odd ratio the edges lie between its pixels.
         update(m_surface.ratio() > 1 ? part.adjusted(-1, -1, 1, 1) : part);
     };
-}
-
-void CanvasWidget::reportRelease(Qt::MouseButton button, QPointF position) const
-{
-    reportMouse(Event::Kind::mouseUp, buttonCode(button), position);
 }
 
 void CanvasWidget::paintEvent(QPaintEvent* event)
@@ -113,35 +109,21 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event)
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event)
 {
-    m_lastPress = event->timestamp();
+    showFocus(false);
+    m_buttons->press(*event);
     reportMouse(Event::Kind::mouseDown, buttonCode(event->button()), event->position());
 }
 
 void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    m_releaseIsStray = isSecondOfAPressElsewhere(*event);
-    if (!m_releaseIsStray) {
+    if (!m_buttons->isSecondOfAPressElsewhere(*event)) {
         mousePressEvent(event);
     }
 }
 
-/// A double click on something that went away at the first one must not reach what lies below.
-bool CanvasWidget::isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const
-{
-    const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    return doubleClick.timestamp() > m_lastPress + interval;
-}
-
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    reportMouse(Event::Kind::mouseMove, buttonCode(event->buttons()), event->position());
-}
-
-void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (!std::exchange(m_releaseIsStray, false)) {
-        reportRelease(event->button(), event->position());
-    }
+    reportMouse(Event::Kind::mouseMove, buttonCode(event->buttons() & m_buttons->held()), event->position());
 }
 
 void CanvasWidget::leaveEvent(QEvent* /*event*/)

@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <functional>
 
+class HeldButtons;
+
 /// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed, and draws
 /// nothing of its own but a frame when Tab has brought the keyboard here.
 class CanvasWidget final : public QWidget {
@@ -18,8 +20,6 @@ public:
     std::function<void(const Event&)> report;
 
     [[nodiscard]] CanvasSurface& surface() { return m_surface; }
-    /// For a release that another widget got although the button went down here; the position is this widget's.
-    void reportRelease(Qt::MouseButton button, QPointF position) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -30,18 +30,15 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] bool isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const;
     void drawInk(const QRegion& region);
     void drawFocus();
     void showFocus(bool shown);
     void reportMouse(Event::Kind kind, int code, QPointF position) const;
 
     CanvasSurface m_surface;
-    quint64 m_lastPress = 0; ///< when, in milliseconds
-    bool m_releaseIsStray = false;
+    HeldButtons* m_buttons; ///< reports their releases
     bool m_showsFocus = false;
 };

@@ -20,6 +20,12 @@ void letTabReachOptions(const QWidget& button)
     }
 }
 
+/// With a button held a widget gets moves beside it too, and those that its children leave alone.
+bool isOver(const QWidget& widget, QPoint place)
+{
+    return widget.rect().contains(place) && widget.childAt(place) == nullptr;
+}
+
 } // namespace
 
 CloseWish::CloseWish(QWidget& window, std::function<void()> wished) : QObject(&window), m_wished(std::move(wished))
@@ -70,12 +76,17 @@ Hovering::Hovering(QWidget& frame, std::function<void(const QWidget&)> hovered)
 bool Hovering::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::MouseMove:
-        if (dynamic_cast<const QMouseEvent&>(*event).buttons() != Qt::NoButton) {
-            break;
+    case QEvent::MouseMove: {
+        const auto& move = dynamic_cast<const QMouseEvent&>(*event);
+        const auto& widget = dynamic_cast<const QWidget&>(*watched);
+        if (isOver(widget, move.position().toPoint())) {
+            m_hovered(widget);
         }
-        m_hovered(dynamic_cast<const QWidget&>(*watched));
-        return true;
+        if (move.buttons() == Qt::NoButton) {
+            return true;
+        }
+        break;
+    }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease: break;

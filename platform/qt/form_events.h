@@ -37,7 +37,7 @@ private:
 };
 
 /// A frame that lies on the canvas and keeps the mouse to itself: tells over which of its widgets, itself included, the
-/// mouse moves with no button down.
+/// mouse moves.
 class Hovering final : public QObject {
     Q_OBJECT
 

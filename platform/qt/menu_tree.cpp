@@ -1,5 +1,6 @@
 #include "platform/qt/menu_tree.h"
 
+#include "platform/qt/menu_keys.h"
 #include "platform/qt/text.h"
 
 #include <QAction>
@@ -25,6 +26,9 @@ QAction& MenuTree::add(int depth, const MenuItem& item)
         }
         m_clicked(name);
     });
+    if (item.look == Look::hidden) {
+        new MenuKeys(m_form, [this, name = item.name] { m_clicked(name); });
+    }
     menuAt(depth).addAction(action);
     m_lastItems.resize(static_cast<std::size_t>(depth));
     m_lastItems.push_back(action);

@@ -11,13 +11,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QTimer>
 #include <QToolBar>
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -263,25 +262,12 @@ void QtWindow::addMenuItem(int depth, const MenuItem& item)
     }
 }
 
-void QtWindow::popUp(Name menu)
+void QtWindow::popUp(Name menu, Point place)
 {
-    QMenu& popup = *find<QAction>(menu).menu();
-    m_owedReleases = QGuiApplication::mouseButtons();
-    popup.installEventFilter(this);
-    popup.popup(QCursor::pos());
-}
-
-bool QtWindow::eventFilter(QObject* watched, QEvent* event)
-{
-    // An open popup menu gets the release of the button that opened it; it is the canvas's all the same.
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const auto& release = dynamic_cast<const QMouseEvent&>(*event);
-        if (m_owedReleases.testFlag(release.button())) {
-            m_owedReleases.setFlag(release.button(), false);
-            m_canvas->reportRelease(release.button(), m_canvas->mapFromGlobal(release.globalPosition()));
-        }
-    }
-    return QObject::eventFilter(watched, event);
+    const QRect canvas = m_canvas->rect();
+    const QPoint inside(std::clamp(toPixels(place.x), canvas.left(), canvas.right()),
+                        std::clamp(toPixels(place.y), canvas.top(), canvas.bottom()));
+    find<QAction>(menu).menu()->popup(m_canvas->mapToGlobal(inside));
 }
 
 void QtWindow::setInterval(Name timer, int milliseconds)

@@ -36,7 +36,7 @@ public:
     void setSwatch(Name key, Color color) override;
     void setCursor(const Cursor& cursor) override;
     void addMenuItem(int depth, const MenuItem& item) override;
-    void popUp(Name menu) override;
+    void popUp(Name menu, Point place) override;
     void setChecked(Name item, bool checked) override;
     [[nodiscard]] bool checked(Name item) const override;
     void setVisible(Name control, bool visible) override;
@@ -57,11 +57,10 @@ public:
     [[nodiscard]] bool isOnCanvas(double x, double y) const override;
     void setInterval(Name timer, int milliseconds) override;
 
-    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     [[nodiscard]] static int toPixels(double twips);
     void connectControls();
+    void takeKeyboardFrom(const QWidget& control);
     void reportHover(const QWidget& widget) const;
     [[nodiscard]] QImage pictureOfCanvas();
     void report(const Event& event) const;
@@ -90,5 +89,4 @@ private:
     MenuTree m_menus;
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
-    Qt::MouseButtons m_owedReleases; ///< of the buttons that were down on the canvas when a popup menu opened
 };

@@ -30,7 +30,21 @@ void QtWindow::setVisible(Name control, bool visible)
     if (auto* const action = findIf<QAction>(control)) {
         action->setVisible(visible);
     } else {
-        find<QWidget>(control).setVisible(visible);
+        auto& widget = find<QWidget>(control);
+        if (!visible) {
+            takeKeyboardFrom(widget);
+        }
+        widget.setVisible(visible);
+    }
+}
+
+/// Before a control goes away that has the keyboard: the toolkit would lead it through the next ones in its order, as
+/// if by Tab, and a screen reader would speak each of them.
+void QtWindow::takeKeyboardFrom(const QWidget& control)
+{
+    const QWidget* const keyboard = m_form.focusWidget();
+    if (m_canvas != nullptr && keyboard != nullptr && (keyboard == &control || control.isAncestorOf(keyboard))) {
+        m_canvas->setFocus();
     }
 }
 
@@ -49,7 +63,11 @@ void QtWindow::setEnabled(Name control, bool enabled)
     if (auto* const action = findIf<QAction>(control)) {
         action->setEnabled(enabled);
     } else {
-        find<QWidget>(control).setEnabled(enabled);
+        auto& widget = find<QWidget>(control);
+        if (!enabled) {
+            takeKeyboardFrom(widget);
+        }
+        widget.setEnabled(enabled);
     }
 }
 

@@ -12,6 +12,7 @@ TEST(Mouse, AnyButtonThatComesUpMarksTheDrawingChanged)
         EXPECT_EQ(bench.form.savedMark, 100);
         bench.mouseUp(held, 1000, 1000);
         EXPECT_EQ(bench.form.savedMark, 0);
+        EXPECT_EQ(bench.window.poppedUp, held == button::right ? "rc 1000 1000" : "");
     }
 }
 

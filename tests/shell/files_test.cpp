@@ -117,16 +117,18 @@ TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
     for (const char* const item : {"gatescolor", "forec", "bc", "linee", "jj", "gg", "eraser", "Label1"}) {
         bench.click(item);
     }
+    bench.mouseMove(button::left, 900, 900);
     bench.drawn();
     bench.clickAndAnswer("new", answer::no);
     EXPECT_EQ(bench.outcome(), "back 16777215\nclear\n" + std::string(nothing));
+    EXPECT_EQ(bench.surface.foreColor, black);
     EXPECT_EQ(bench.surface.drawWidth(), 2);
     EXPECT_EQ(bench.surface.current().x, 1650); // the pen's old place
     EXPECT_EQ(bench.surface.current().y, 1500);
     EXPECT_EQ(state.heading, answer::no); // until the next arrow key
     EXPECT_EQ(bench.window.caption, newFile);
     EXPECT_EQ(state.eraseMode + state.toolboxFollow + state.penMoved, 0);
-    EXPECT_FALSE(bench.window.at(control::Label27).visible);
+    EXPECT_FALSE(bench.window.at(control::Label27).visible || bench.window.at(control::Shape1).visible);
     EXPECT_EQ(state.confirm[gatesConfirm], 1);
     EXPECT_TRUE(bench.window.checked("gg"));
     EXPECT_EQ(bench.output.at(form4::control::Label22).text, "0");

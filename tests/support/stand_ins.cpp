@@ -163,6 +163,11 @@ void StandInWindow::printForm()
     }
 }
 
+void StandInWindow::popUp(Name menu, Point at)
+{
+    poppedUp = std::string(menu) + " " + ::place(at.x, at.y);
+}
+
 void StandInWindow::addMenuItem(int depth, const MenuItem& item)
 {
     menuRows.emplace_back(depth, item);

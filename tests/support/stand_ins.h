@@ -194,7 +194,7 @@ public:
     std::vector<int> heights; ///< in the order in which they were set
     int timesPrinted = 0;
     std::optional<Fault> printFault; ///< thrown by every printForm()
-    std::string poppedUp;
+    std::string poppedUp; ///< the menu and its place, such as "rc 1600 1500"
     Point canvas{9000, 6000}; ///< its size
     std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
     std::map<std::string, int, std::less<>> intervals;
@@ -221,7 +221,7 @@ public:
     }
     void setSwatch(Name key, Color color) override { at(key).backColor = color; }
     void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
-    void popUp(Name menu) override { poppedUp = menu; }
+    void popUp(Name menu, Point place) override;
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
     [[nodiscard]] bool checked(Name item) const override { return at(item).checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }

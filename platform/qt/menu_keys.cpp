@@ -1,0 +1,53 @@
+#include "platform/qt/menu_keys.h"
+
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QMenuBar>
+#include <QProxyStyle>
+#include <QShortcut>
+
+namespace {
+
+/// Keeps the keyboard where it is when Alt is let go or Esc closes a menu. In the bar, where else it would be, arrow
+/// keys draw nothing, and most styles do not even show that it is there.
+class ClosedBarTakesNoKeys final : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override
+    {
+        return hint == SH_MenuBar_AltKeyNavigation ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+} // namespace
+
+MenuKeys::MenuKeys(QWidget& window, std::function<void()> popupWanted)
+    : QObject(&window), m_window(window), m_bar(*window.findChild<QMenuBar*>()), m_popupWanted(std::move(popupWanted))
+{
+    auto* const style = new ClosedBarTakesNoKeys;
+    style->setParent(this);
+    m_bar.setStyle(style);
+    window.installEventFilter(this);
+    new QShortcut(Qt::Key_F10, &window, this, [this] { m_bar.setActiveAction(m_bar.actions().first()); });
+    new QShortcut(Qt::SHIFT | Qt::Key_F10, &window, this, [this] { askForPopup(); });
+}
+
+bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    // It comes here when nothing inside has a menu of its own. The mouse has its own way.
+    if (event->type() == QEvent::ContextMenu &&
+        dynamic_cast<const QContextMenuEvent&>(*event).reason() == QContextMenuEvent::Keyboard) {
+        m_popupWanted();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// The toolkit knows the Menu key alone.
+void MenuKeys::askForPopup()
+{
+    QWidget* const asked = m_window.focusWidget() != nullptr ? m_window.focusWidget() : &m_window;
+    const QPoint place = asked->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, asked->mapToGlobal(place));
+    QCoreApplication::sendEvent(asked, &event);
+}
