@@ -31,12 +31,8 @@ QDBusPendingCall askProperty(const Accessible& accessible, const QString& interf
 QVariant answer(QDBusPendingCall call)
 {
     call.waitForFinished();
-    return call.reply().arguments().value(0);
-}
-
-QVariant property(QDBusPendingCall call)
-{
-    return answer(std::move(call)).value<QDBusVariant>().variant();
+    const QVariant value = call.reply().arguments().value(0);
+    return value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
 }
 
 /// Adds these, each before what is in it.
@@ -117,12 +113,12 @@ std::vector<Accessible> AccessibilityBus::windows() const
 
 QString AccessibilityBus::description(const Accessible& accessible) const
 {
-    return property(askProperty(accessible, itself, "Description")).toString();
+    return answer(askProperty(accessible, itself, "Description")).toString();
 }
 
 double AccessibilityBus::value(const Accessible& accessible) const
 {
-    return property(askProperty(accessible, "org.a11y.atspi.Value", "CurrentValue")).toDouble();
+    return answer(askProperty(accessible, "org.a11y.atspi.Value", "CurrentValue")).toDouble();
 }
 
 QRect AccessibilityBus::place(const Accessible& accessible) const
@@ -134,28 +130,18 @@ QRect AccessibilityBus::place(const Accessible& accessible) const
 std::vector<Accessible> AccessibilityBus::childrenOf(const Accessible& parent) const
 {
     using Reference = std::pair<QString, QDBusObjectPath>;
-    struct Child {
-        Accessible accessible;
-        QDBusPendingCall role;
-        QDBusPendingCall name;
-        QDBusPendingCall state;
-    };
-    std::vector<Child> asked; // all at once, which saves most of the way back and forth
-    for (const auto& [service, path] : qdbus_cast<QList<Reference>>(answer(ask(parent, itself, "GetChildren")))) {
-        const Accessible child{.service = service,
-                               .path = path,
-                               .window = parent.window,
-                               .parent = parent.name,
-                               .inFront = parent.inFront};
-        asked.push_back({child, ask(child, itself, "GetRoleName"), askProperty(child, itself, "Name"),
-                         ask(child, itself, "GetState")});
-    }
     std::vector<Accessible> children;
-    for (auto& [child, role, name, state] : asked) {
-        child.role = answer(role).toString();
-        child.name = property(name).toString();
-        child.state = qdbus_cast<QList<uint>>(answer(state)).value(0);
-        children.push_back(child);
+    std::vector<std::array<QDBusPendingCall, 3>> calls; // all at once, which saves most of the way back and forth
+    for (const auto& [service, path] : qdbus_cast<QList<Reference>>(answer(ask(parent, itself, "GetChildren")))) {
+        const Accessible& child = children.emplace_back(service, path, parent.window, parent.name);
+        calls.push_back(
+            {ask(child, itself, "GetRoleName"), askProperty(child, itself, "Name"), ask(child, itself, "GetState")});
+    }
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        children[i].role = answer(calls[i][0]).toString();
+        children[i].name = answer(calls[i][1]).toString();
+        children[i].state = qdbus_cast<QList<uint>>(answer(calls[i][2])).value(0);
+        children[i].inFront = parent.inFront;
     }
     return children;
 }

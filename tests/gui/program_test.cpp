@@ -192,10 +192,10 @@ TEST(Program, OutputWindowStaysUsableBesideTheMainWindowAndPrintsItselfOnTheDefa
     program.answer("Output", "Escape");
 }
 
-TEST(Program, MouseToolsDraw)
+TEST(Program, MouseToolsDrawWhatOutlivesSmallerAndLargerWindows)
 {
     Program program;
-    program.keys({"ctrl+l"});
+    program.keys({"ctrl+t", "ctrl+l"}); // without the toolbox
     program.drag(300, 300, 400, 300);
     waitUntil("a line", [&] { return program.inked(350, 300); });
 
@@ -212,11 +212,16 @@ TEST(Program, MouseToolsDraw)
     waitUntil("the whole stroke", [&] { return program.inked(350, 419) && program.inked(399, 439); });
 
     const QImage before = program.canvas().copy(0, 300, 800, 300);
+    program.resize(600, 300);
+    program.resize(1100, 800);
     program.openPopup(500, 400);
     program.keys({"Escape"});
-    waitUntil("no menu", [&] { return program.canvas().copy(0, 300, 800, 300) == before; });
+    waitUntil("the same, without a menu, and paper in the part that is new",
+              [&] { return program.canvas().copy(0, 300, 800, 300) == before && !program.inked(1025, 500); });
+    program.keys({"ctrl+l"});
+    program.drag(1000, 400, 1050, 600);
     program.keys({"Right", "Right"}); // the pen went along to the last press of the left button
-    waitUntil("wire from the press", [&] { return program.inked(304, 399); });
+    waitUntil("a line and wire", [&] { return program.inked(1025, 500) && program.inked(1004, 399); });
 }
 
 TEST(Program, EraserWipesOnlyInEraseModeAndTheMouseGoesThroughItsLabel)
@@ -266,23 +271,6 @@ TEST(Program, InksEveryPointOfAFastStroke)
         }
         return inked == 2000;
     });
-}
-
-TEST(Program, InkOutlivesSmallerAndLargerWindows)
-{
-    Program program;
-    program.keys({"ctrl+r"});
-    program.drag(300, 300, 700, 500);
-    waitUntil("a box", [&] { return program.inked(699, 400); });
-    program.resize(600, 300);
-    program.resize(1100, 800);
-    waitUntil("the whole box, and paper in the part that is new", [&] {
-        return program.inked(699, 400) && program.inked(500, 499) && program.inked(300, 400) &&
-               !program.inked(1025, 500);
-    });
-    program.keys({"ctrl+l"});
-    program.drag(1000, 400, 1050, 600);
-    waitUntil("a line", [&] { return program.inked(1025, 500); });
 }
 
 int main(int argc, char* argv[])
