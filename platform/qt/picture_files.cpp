@@ -1,6 +1,6 @@
 #include "platform/qt/picture_files.h"
 
-#include "platform/picture_check.h"
+#include "platform/files/picture_check.h"
 #include "platform/runtime_error.h"
 
 #include <QDir>
@@ -14,11 +14,11 @@
 
 namespace {
 
-/// No picture of mostPixels is larger, save for some with 16 bits a channel.
-constexpr int mostBytes = 4 * mostPixels + 1'000'000;
+/// Qt asks for this much at most before it decodes a picture: four channels of 16 bits, as some PNGs have.
+constexpr int mostMegabytes = 8 * (mostPixels >> 20);
 
-/// What decoding may take for a moment: an 8-bit picture of mostPixels beside the canvas made of it.
-constexpr int mostMemory = 5 * mostPixels;
+/// No picture of mostPixels takes more on the disk, save with megabytes of texts.
+constexpr int mostBytes = 8 * mostPixels + 1'000'000;
 
 constexpr int dotsPerMetre = 3780; // 96 dpi
 
@@ -62,36 +62,39 @@ void open(QFile& file)
     }
 }
 
-void refuseTooLarge(const QString& path, qint64 width, qint64 height, int most = mostPixels)
+void refuseTooLarge(const QString& path, QSize size)
 {
-    if (width > 0 && height > 0 && width > most / height) {
-        refuse(path, QStringLiteral("is too large: %1 x %2 pixels, at most %3 megapixels%4")
-                         .arg(width)
-                         .arg(height)
-                         .arg(most / 1'000'000)
-                         .arg(most < mostPixels ? QStringLiteral(" of this kind") : QString()));
+    if (!size.isEmpty() && size.width() > mostPixels / size.height()) {
+        refuse(path, QStringLiteral("is too large: %1 x %2 pixels, at most %3 megapixels")
+                         .arg(size.width())
+                         .arg(size.height())
+                         .arg(mostPixels / 1'000'000));
     }
 }
 
-/// Refuses what is known to be incomplete. The file is read, not mapped into memory: should it shrink or its disk fail
-/// meanwhile, that would end the program.
+QSize sizeInHeader(QFile& file)
+{
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    file.seek(0);
+    return size;
+}
+
+/// The file is read, not mapped into memory: should it shrink or its disk fail meanwhile, that would end the program.
 void refuseIncomplete(QFile& file)
 {
-    const QByteArray bytes = file.read(qMin<qint64>(file.size(), mostBytes));
-    const picture::Finding finding = picture::check({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    refuseTooLarge(file.fileName(), finding.width, finding.height);
-    refuseTooLarge(file.fileName(), finding.width, finding.height,
-                   qMin(mostPixels, mostMemory / finding.bytesPerPixel));
-    if (finding.state == picture::State::unreadable) {
-        refuse(file.fileName(), unreadable());
-    }
-    if (finding.state != picture::State::complete && file.size() > mostBytes) {
+    if (file.size() > mostBytes) {
         refuse(file.fileName(), QStringLiteral("is too large: %1 megabytes, at most %2 megabytes")
                                     .arg(file.size() / 1'000'000)
                                     .arg(mostBytes / 1'000'000));
     }
-    if (finding.state == picture::State::cutShort) {
-        refuse(file.fileName(), QStringLiteral("is cut short"));
+    const QByteArray bytes = file.readAll();
+    switch (picture::check({bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
+    case picture::State::cutShort: refuse(file.fileName(), QStringLiteral("is cut short"));
+    case picture::State::unreadable: refuse(file.fileName(), unreadable());
+    case picture::State::whole:
+    case picture::State::unknownFormat: break; // the latter is for Qt to judge
     }
     file.seek(0);
 }
@@ -116,61 +119,6 @@ void putOnWhite(QImage& image)
     image.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
-/// Puts rows of a picture that lies on its side, the first of them the picture's row `top`, where they belong in the
-/// upright one. By narrow columns: whole rows would touch all memory of the upright picture again and again.
-void putTurned(QImage& upright, const QImage& part, int top, QImageIOHandler::Transformations turn)
-{
-    constexpr int columns = 16;
-    const bool mirrored = turn.testFlag(QImageIOHandler::TransformationMirror);
-    const bool flipped = turn.testFlag(QImageIOHandler::TransformationFlip);
-    auto* const to = reinterpret_cast<QRgb*>(upright.bits());
-    for (int left = 0; left < part.width(); left += columns) {
-        const int right = qMin(left + columns, part.width());
-        for (int y = 0; y < part.height(); ++y) {
-            const auto* const from = reinterpret_cast<const QRgb*>(part.constScanLine(y));
-            const int column = flipped ? top + y : upright.width() - 1 - top - y;
-            for (int x = left; x < right; ++x) {
-                const int row = mirrored ? part.width() - 1 - x : x;
-                to[row * qsizetype{upright.width()} + column] = from[x];
-            }
-        }
-    }
-}
-
-/// In a few parts: two whole copies of a large picture are too much memory.
-QImage readTurned(QFile& file, QImageIOHandler::Transformations turn, QSize stored)
-{
-    QImage upright(stored.transposed(), QImage::Format_RGB32);
-    const int rows = qMax(1, mostPixels / 4 / stored.width());
-    for (int top = 0; top < stored.height(); top += rows) {
-        file.seek(0);
-        QImageReader reader(&file);
-        reader.setDecideFormatFromContent(true);
-        reader.setClipRect({0, top, stored.width(), qMin(rows, stored.height() - top)});
-        QImage part = reader.read();
-        if (part.isNull()) {
-            return {};
-        }
-        putOnWhite(part);
-        putTurned(upright, part, top, turn);
-    }
-    return upright;
-}
-
-QImage readUpright(QFile& file)
-{
-    QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
-    const QSize stored = reader.size();
-    refuseTooLarge(file.fileName(), stored.width(), stored.height());
-    const auto turn = reader.transformation();
-    if (turn.testFlag(QImageIOHandler::TransformationRotate90) && !stored.isEmpty()) {
-        return readTurned(file, turn, stored);
-    }
-    reader.setAutoTransform(true);
-    return reader.read();
-}
-
 /// Everything that was sent to the file is on the disk; the last chance to hear that it is full.
 bool isOnDisk(QSaveFile& file)
 {
@@ -183,13 +131,18 @@ QImage loadPicture(const QString& path)
 {
     QFile file(path);
     open(file);
+    refuseTooLarge(path, sizeInHeader(file));
     refuseIncomplete(file);
 
-    QImage image = readUpright(file);
+    QImageReader::setAllocationLimit(mostMegabytes);
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    QImage image = reader.read();
     if (image.isNull()) {
         refuse(path, unreadable());
     }
-    refuseTooLarge(path, image.width(), image.height());
+    refuseTooLarge(path, image.size()); // some formats say their size nowhere
     putOnWhite(image);
     image.setDevicePixelRatio(1);
     return image;

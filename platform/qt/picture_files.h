@@ -3,8 +3,9 @@
 #include <QImage>
 #include <QString>
 
-/// What a canvas may become by loading a picture. A picture this large takes 128 MB while it is open.
-inline constexpr int mostPixels = 32'000'000;
+/// What a canvas may become by loading a picture: 8192 x 8192 pixels, or what a camera of 64 megapixels takes, which is
+/// a little more than 64 million. A picture this large takes 256 MB while it is open.
+inline constexpr int mostPixels = 64 << 20;
 
 /// The picture in any file that Qt reads, whatever the file is called: in Format_RGB32, upright, on white where it is
 /// transparent, one pixel of the picture to one of the screen. What cannot be shown whole is refused: throws

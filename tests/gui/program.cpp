@@ -25,7 +25,7 @@ QString outputOf(const QString& program, const QStringList& words)
 
 } // namespace
 
-Program::Program(Stage until, const QString& folder, const QStringList& launcher)
+Program::Program(Stage until, const QString& folder)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -35,8 +35,7 @@ Program::Program(Stage until, const QString& folder, const QStringList& launcher
     }
     m_process.setProcessEnvironment(environment);
     m_process.setWorkingDirectory(folder.isEmpty() ? m_home.path() : folder);
-    const QStringList command = launcher + QStringList(SCHEMLET_PROGRAM);
-    m_process.start(command.first(), command.mid(1));
+    m_process.start(SCHEMLET_PROGRAM, QStringList());
     if (until == Stage::splash) {
         waitForWindow(splashTitle);
         return;

@@ -27,9 +27,8 @@ public:
         drawing, ///< that is closed
     };
 
-    /// Starts it in this folder, or else in a home folder of its own, by way of a command that runs it, and waits until
-    /// it has come so far.
-    explicit Program(Stage until = Stage::drawing, const QString& folder = {}, const QStringList& launcher = {});
+    /// Starts it in this folder, or else in a home folder of its own, and waits until it has come so far.
+    explicit Program(Stage until = Stage::drawing, const QString& folder = {});
     ~Program() = default;
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

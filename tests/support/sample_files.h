@@ -29,13 +29,6 @@ inline QByteArray written(const QImage& image, const char* format, bool progress
     return buffer.data();
 }
 
-/// The same file with another size, as hexadecimal digits, in its header.
-inline QByteArray claiming(QByteArray file, int at, const char* size)
-{
-    const QByteArray number = QByteArray::fromHex(size);
-    return file.replace(at, number.size(), number);
-}
-
 inline QByteArray contents(const QString& path)
 {
     QFile file(path);

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// How platform/picture_check.cpp and its parts read a picture file.
+/// How the check reads a picture file.
 namespace picture {
 
 /// Thrown where the picture goes on and the file does not.

@@ -1,4 +1,4 @@
-#include "platform/bmp_check.h"
+#include "platform/files/bmp_check.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,9 +18,9 @@ struct BmpHeader {
     std::int64_t pixelsAt = 0;
 };
 
-constexpr std::int64_t bmpFileHeader = 14;
-constexpr std::uint32_t bmpCoreHeader = 12;
-constexpr std::uint32_t bmpInfoHeader = 40;
+constexpr std::int64_t fileHeader = 14;
+constexpr std::uint32_t coreHeader = 12; ///< of the first BMPs
+constexpr std::uint32_t infoHeader = 40;
 
 std::int64_t paletteBytes(const BmpHeader& header, std::uint32_t used, int entryBytes)
 {
@@ -31,44 +31,40 @@ std::int64_t paletteBytes(const BmpHeader& header, std::uint32_t used, int entry
     return std::int64_t{used != 0 ? used : 1U << header.bitsPerPixel} * entryBytes;
 }
 
-BmpHeader bmpHeader(const Bytes& file, Finding& finding)
+BmpHeader readHeader(const Bytes& file)
 {
     BmpHeader header;
-    const std::uint32_t infoBytes = file.little32(bmpFileHeader);
-    std::int64_t end = bmpFileHeader + infoBytes;
-    if (infoBytes == bmpCoreHeader) {
+    const std::uint32_t infoBytes = file.little32(fileHeader);
+    std::int64_t end = fileHeader + infoBytes;
+    if (infoBytes == coreHeader) {
         header.width = file.little16(18);
         header.height = file.little16(20);
         header.bitsPerPixel = file.little16(24);
         end += paletteBytes(header, 0, 3);
     } else {
-        require(infoBytes >= bmpInfoHeader && infoBytes <= 124);
+        require(infoBytes >= infoHeader && infoBytes <= 124);
         header.width = static_cast<std::int32_t>(file.little32(18));
         header.height = std::abs(std::int64_t{static_cast<std::int32_t>(file.little32(22))});
         header.bitsPerPixel = file.little16(28);
         header.compression = Compression{file.little32(30)};
         header.dataBytes = file.little32(34);
-        const bool masksBehind = infoBytes == bmpInfoHeader && header.compression == Compression::bitFields;
+        const bool masksBehind = infoBytes == infoHeader && header.compression == Compression::bitFields;
         end += paletteBytes(header, file.little32(46), 4) + (masksBehind ? 12 : 0);
     }
-    finding.width = header.width;
-    finding.height = header.height;
+    require(header.width > 0 && header.height > 0);
     header.pixelsAt = std::max<std::int64_t>(end, file.little32(10));
     file.reach(header.pixelsAt);
     return header;
 }
 
-/// Runs of pixels up to the mark that ends the picture, or all its rows. Steps that draw nothing are legal but of no
-/// use in number; without a bound on them a file could keep a decoder busy for long.
+/// Runs of pixels, up to the mark that ends the picture, or all its rows.
 void walkRuns(const Bytes& file, const BmpHeader& header)
 {
     const bool nibbles = header.compression == Compression::rle4;
-    const std::int64_t steps = (header.width + 1) * (header.height + 1);
     std::int64_t at = header.pixelsAt;
     for (std::int64_t row = 0; row < header.height;) {
-        require((at - header.pixelsAt) / 3 <= steps);
         if (header.dataBytes != 0 && at >= header.pixelsAt + header.dataBytes && at == file.size()) {
-            return; // without the mark, but as long as was said
+            return; // without the mark, but as long as the header says
         }
         const std::uint32_t count = file.u8(at);
         const std::uint32_t value = file.u8(at + 1);
@@ -89,28 +85,29 @@ void walkRuns(const Bytes& file, const BmpHeader& header)
     }
 }
 
+void reachLastRow(const Bytes& file, const BmpHeader& header)
+{
+    const std::int64_t rowBytes = (header.width * header.bitsPerPixel + 31) / 32 * 4;
+    if (header.height > (file.size() - header.pixelsAt) / rowBytes) { // the product may be too large a number
+        throw CutShort{};
+    }
+}
+
 } // namespace
 
-void checkBmp(const Bytes& file, Finding& finding)
+void checkBmp(const Bytes& file)
 {
-    const BmpHeader header = bmpHeader(file, finding);
+    const BmpHeader header = readHeader(file);
     const std::uint32_t bits = header.bitsPerPixel;
-    require(header.width > 0 && header.height > 0);
     switch (header.compression) {
     case Compression::none:
         require(bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32);
-        break;
-    case Compression::bitFields: require(bits == 16 || bits == 32); break;
-    case Compression::rle8:
-    case Compression::rle4:
-        require(bits == (header.compression == Compression::rle8 ? 8U : 4U));
-        walkRuns(file, header);
-        return;
-    default: throw Unreadable{};
+        return reachLastRow(file, header);
+    case Compression::bitFields: require(bits == 16 || bits == 32); return reachLastRow(file, header);
+    case Compression::rle8: require(bits == 8); return walkRuns(file, header);
+    case Compression::rle4: require(bits == 4); return walkRuns(file, header);
     }
-    const std::int64_t rowBytes = (header.width * bits + 31) / 32 * 4;
-    require(header.height <= INT64_MAX / 2 / rowBytes);
-    file.reach(header.pixelsAt + rowBytes * header.height);
+    throw Unreadable{};
 }
 
 } // namespace picture
