@@ -88,7 +88,7 @@ void Program::keys(std::initializer_list<const char*> keys)
 
 void Program::type(const QString& text)
 {
-    xdotool({"type", "--delay", "5", text});
+    xdotool({"type", "--delay", "5", "--", text});
 }
 
 void Program::keyTimes(int times, const char* key)

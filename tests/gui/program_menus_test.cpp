@@ -40,16 +40,14 @@ TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
     };
     const Outcome motor{"This draws a DC MOTOR", "Do you want to Continue ?"};
     const Outcome diac{"This draws a DIAC THYRISTOR"};
-    const Outcome capacitances{"Color of capacitances"};
-    const Outcome wires{"Color of wires"};
     const Way ways[] = {
         {0, "p", {"File", "Print"}, {"Schemlet 2.0", printQuestion}, {"Schemlet 2.0", printQuestion}},
         {1, "Return", {"Edit", "Eraser"}, {nullptr, "Erase mode"}, {nullptr, "Normal mode"}},
         {2, "Up Return", {"View", "Output"}, {"Output"}, {"Output"}},
         {3, "m Down Return", {"Electrical Components", "Motors", "D.C Motor"}, motor, motor},
         {4, "h d", {"Electronic Components", "Thyristors", "DIAC"}, diac, diac},
-        {-5, "Down Return", {"Components Color", "Capacitance"}, capacitances, capacitances},
-        {-4, "Down Return", {"Form Color", "Forecolor"}, wires, wires},
+        {-5, "Down Return", {"Components Color", "Op-Amplifier"}, {"Color of inductances"}, {"Color of op-amplifiers"}},
+        {-4, "Down Return", {"Form Color", "Forecolor"}, {canvasTitle}, {"Color of wires"}},
         {-1, "o", {"Help", "About"}, {"Help"}, {"About Schemlet v2.0"}},
     };
     Program program;
