@@ -27,26 +27,17 @@ QString namesOf(const std::vector<Accessible>& all, const QString& window, const
 
 } // namespace
 
-TEST(Program, TellsWhereThePenIsAndNamesEveryControlOfAllItsWindowsAndMenus)
+TEST(Program, NamesEveryControlOfAllItsWindowsAndMenus)
 {
     Program program;
-    const Accessible canvas = program.find("canvas", "Canvas").value();
-    const auto waitFor = [&](const char* description) {
-        waitUntil(description, [&] { return program.bus().description(canvas) == description; });
-    };
-    waitFor("Pen at 1600, 1500 twips, heading right, tool Pen");
-    program.keys({"Right", "Down", "Down"});
-    waitFor("Pen at 1650, 1600 twips, heading down, tool Pen");
-    program.keys({"ctrl+l", "e", "Left"});
-    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, erase mode");
-
+    const QString main = program.find("canvas", "Canvas")->window;
     for (const auto& [key, title] :
          {std::pair{"ctrl+u", "Output"}, {"F1", "Help"}, {"ctrl+a", "About Schemlet v2.0"}}) {
         program.keys({key});
         program.waitForWindow(title);
         program.activate();
     }
-    program.keys({"e", "r"});
+    program.keys({"r"});
     program.waitForWindow(" RESISTANCE ");
     const std::vector<Accessible> all = program.bus().everything();
 
@@ -59,10 +50,33 @@ TEST(Program, TellsWhereThePenIsAndNamesEveryControlOfAllItsWindowsAndMenus)
         EXPECT_NE(each.name, "Option1");
         EXPECT_NE(each.name, "•");
     }
-    const QString tools = "New Open Save Print Help Output ToolBox Line Pencil Fore Back Eraser Box";
-    EXPECT_TRUE(namesOf(all, canvas.window, "push button").endsWith(tools));
-    EXPECT_EQ(namesOf(all, canvas.window, "radio button"), "Voltage Current Positive Negative");
-    EXPECT_EQ(namesOf(all, canvas.window, "text"), "Value");
+    EXPECT_TRUE(namesOf(all, main, "push button").endsWith("New Open Save Print Help Output ToolBox Fore Back"));
+    EXPECT_EQ(namesOf(all, main, "check box"), "Line Pencil Eraser Box");
+    EXPECT_EQ(namesOf(all, main, "radio button"), "Voltage Current Positive Negative");
+    EXPECT_EQ(namesOf(all, main, "text"), "Value");
     EXPECT_EQ(namesOf(all, " RESISTANCE ", "text"), "Enter Value of Resistance");
     EXPECT_EQ(namesOf(all, "Output", "text"), namesOf(all, "Output", "label"));
+}
+
+TEST(Program, TellsAScreenReaderWhereThePenIs)
+{
+    Program program;
+    const Accessible canvas = *program.find("canvas", "Canvas");
+    const auto waitFor = [&](const char* description) {
+        waitUntil(description, [&] { return program.bus().description(canvas) == description; });
+    };
+    waitFor("Pen at 1600, 1500 twips, heading right, tool Pen");
+    program.keys({"Right", "Down", "Down"});
+    waitFor("Pen at 1650, 1600 twips, heading down, tool Pen");
+    program.keys({"ctrl+l", "e", "Left"});
+    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, erase mode");
+    for (const auto& [tool, pressed] : {std::pair{"Line", true}, {"Pencil", false}, {"Eraser", true}}) {
+        EXPECT_EQ(program.find("check box", tool)->checked(), pressed) << tool;
+    }
+    program.keys({"e", "ctrl+n"});
+    program.waitForText(saveQuestion);
+    program.keys({"n", "ctrl+o"}); // Open is refused
+    waitFor("Open works after the first arrow key. Pen at 1600, 1500 twips, no direction, press an arrow key, tool "
+            "Line");
+    program.waitForText("Open works after the first arrow key");
 }

@@ -1,10 +1,12 @@
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/colors.h"
 #include "tests/gui/shown.h"
 #include "tests/support/stand_ins.h"
 #include "ui_Form1.h"
 
 #include <QMenu>
 #include <QMouseEvent>
+#include <QToolBar>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -112,6 +114,33 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
     main.form.Image7->setFocus();
     QTest::keyClick(main.form.Image7, Qt::Key_Space);
     EXPECT_EQ(main.noted(), "click Image70\n");
+}
+
+TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
+{
+    MainWindow main;
+    main.window->addToolButton("Line", "", Look::unchecked);
+    main.window->addToolButton("Fore", "", Look::plain);
+    auto& bar = *main.view.findChild<QToolBar*>();
+    auto& button = *bar.widgetForAction(bar.actions().front());
+    for (const bool pressed : {false, true}) {
+        main.window->setChecked("Line", pressed);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        EXPECT_EQ(main.window->checked("Line"), pressed);
+        EXPECT_NE(main.noted().find("click Line"), std::string::npos);
+    }
+    for (const QColor color : {QColor(Qt::white), QColor(255, 0, 10), QColor(Qt::black)}) {
+        main.window->setSwatch("Fore", toColor(color));
+        for (const double ratio : {1.0, 1.5, 2.0}) {
+            const QImage icon = bar.actions().back()->icon().pixmap({24, 24}, ratio).toImage();
+            EXPECT_EQ(icon.width(), 24 * ratio);
+            const int left = static_cast<int>(4 * ratio), right = static_cast<int>(20 * ratio);
+            const int y = static_cast<int>(18.5 * ratio);
+            EXPECT_EQ(icon.pixelColor(left, y), color);
+            EXPECT_EQ(icon.pixelColor(right, y), color);
+            EXPECT_NE(icon.pixelColor(left, static_cast<int>(15.5 * ratio)), color); // its outline
+        }
+    }
 }
 
 TEST(QtWindow, ShowsTheWholeNameOfADrawing)

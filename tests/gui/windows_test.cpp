@@ -146,7 +146,7 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
         useDesktop(ground, text);
         const FullWindow main;
         expectControls(main.view, formControls);
-        EXPECT_EQ(expectReadable(main.view), 21);
+        EXPECT_EQ(expectReadable(main.view), 25);
         const Shown<QDialog, Ui::Form2> help;
         help.window->setHeight(form2::collapsed);
         EXPECT_LT(help.form.hints->geometry().bottom(), help.view.height());
@@ -178,6 +178,34 @@ TEST(Windows, AreReadableOnEveryColourOfTheCanvas)
             SCOPED_TRACE(QColor(ground).name().toStdString() + " " + std::to_string(color));
             main.colorCanvas(color);
             expectReadable(main.view);
+        }
+    }
+}
+
+TEST(Windows, StatusBarHasRoomForEveryTextAndOnlyTheHintGivesWay)
+{
+    FullWindow main;
+    const QSize smallest = main.view.minimumSizeHint();
+    using namespace control;
+    for (const auto& [heading, notice, pointer, off] :
+         {std::tuple{"→ Right", "An AND gate needs the pen heading right", "", "off the canvas"},
+          {"→ Right", "", "1234, 1234 px", "off the canvas"},
+          {"no direction, press an arrow key", "Counted but not drawn: no direction", "", ""},
+          {"no direction, press an arrow key", "", "1234, 1234 px", ""}}) {
+        const std::pair<Name, const char*> texts[] = {
+            {sbHeading, heading}, {sbNotice, notice},     {sbPointer, pointer},     {sbOffCanvas, off},
+            {sbTool, "Pencil"},   {sbJumpers, "Jumpers"}, {sbErase, "Normal mode"}, {sbPen, "-888888, 888888"}};
+        for (const auto& [panel, text] : texts) {
+            main.window->setText(panel, text);
+            main.window->setVisible(panel, *text != 0);
+        }
+        EXPECT_EQ(main.view.minimumSizeHint(), smallest);
+        main.view.resize(800, 600);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(main.view.width(), 800);
+        for (const auto& [panel, text] : texts) {
+            const auto& label = *main.view.findChild<QLabel*>(QString::fromLatin1(panel.data()));
+            EXPECT_GE(label.width(), *text == 0 ? 0 : label.fontMetrics().horizontalAdvance(text) + 8) << text;
         }
     }
 }

@@ -40,24 +40,46 @@ TEST(Save, WritesThePictureAndNamesItInTheTitle)
     }
 }
 
-TEST(Save, CancelledBringsItsMessageFailedIsSilentAndBothCountAsSaved)
+TEST(Save, CountsEvenIfCancelledWhichBringsAMessageOrFailedWhichIsSaidUntilTheNextOneOrNew)
 {
     ChangedBench bench;
+    const auto said = [&bench] {
+        bench.tick(control::statusTimer);
+        return bench.window.at(control::sbNotice).text;
+    };
+    const auto fail = [&bench] {
+        bench.dialogs.fileToSave = "/full/disk";
+        bench.pictures.fault = Fault::pictureNotSaved;
+    };
+    const std::string notSaved = "Not saved: Invalid picture"; // the stand-in's cause
+    fail();
+    bench.click("save");
+    EXPECT_EQ(bench.form.savedMark, 100);
+    EXPECT_EQ(bench.window.caption, newFile);
+    EXPECT_EQ(said(), notSaved);
+    bench.click("batterycolor");
+    EXPECT_NE(said(), notSaved);
+    bench.tick(control::noticeTimer);
+    EXPECT_EQ(said(), notSaved);
+    EXPECT_TRUE(bench.window.at(control::Canvas).description.starts_with("Pen")); // it is not spoken with every step
+
+    bench.press(key::right);
     bench.dialogs.fileToSave = "";
     bench.clickAndAnswer("save", 0);
     EXPECT_EQ(bench.dialogs.lastPrompt, "Unkown error while saving file ");
     EXPECT_EQ(bench.dialogs.lastStyle, Box::okOnly);
     EXPECT_EQ(bench.form.savedMark, 100);
-
-    bench.press(key::right);
-    bench.dialogs.fileToSave = "/full/disk";
-    bench.pictures.fault = Fault::pictureNotSaved;
+    EXPECT_EQ(said(), notSaved);
+    bench.dialogs.fileToSave = "/home/a";
     bench.click("save");
-    EXPECT_EQ(bench.form.savedMark, 100);
-    EXPECT_EQ(bench.window.caption, newFile);
+    EXPECT_EQ(said(), "");
 
-    bench.click("new"); // asks nothing
-    EXPECT_EQ(bench.pen(), "1600 1500");
+    bench.press(key::up);
+    fail();
+    bench.clickAndAnswer("new", answer::yes);
+    EXPECT_EQ(said(), notSaved); // the drawing is lost
+    bench.click("new");          // asks nothing
+    EXPECT_EQ(said(), "");
 }
 
 TEST(Open, DoesNothingBeforeThePenHasMovedSinceStartOrNew)
