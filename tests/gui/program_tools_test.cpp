@@ -10,6 +10,7 @@ TEST(Program, ToolbarAndToolboxHintAndWork)
         const char* name = nullptr;
         const char* hint = nullptr;
         Outcome outcome;
+        const char* role = "push button";
     };
     const Tool tools[] = {
         {"AND Gate", "Click to draw AND Gate", {"This draws an AND GATE"}},
@@ -18,9 +19,9 @@ TEST(Program, ToolbarAndToolboxHintAndWork)
         {"Close the ToolBox", "Click to Close the ToolBox", {}},
         {"New", "Click to start a new drawing", {"Schemlet 2.0", saveQuestion}},
         {"Output", "Click to see the totals and what follows from them", {"Output"}},
-        {"Eraser", "Click to switch erase mode on or off", {nullptr, "Normal mode"}},
+        {"Eraser", "Click to switch erase mode on or off", {nullptr, "Normal mode"}, "check box"},
         {"ToolBox", "Click to show or hide the toolbox", {nullptr, "Click once and drag"}},
-        {"Box", "Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
+        {"Box", "Click to draw rectangles with the mouse", {nullptr, "Rectangle"}, "check box"},
     };
     Program program;
     for (const char* const symbol : {"OR Gate", "NOT Gate", "NOR Gate", "NAND Gate", "Resistance", "Inductance",
@@ -29,9 +30,9 @@ TEST(Program, ToolbarAndToolboxHintAndWork)
         program.waitForText(QString("Click to draw ") + symbol);
     }
     program.keys({"Right"}); // New does something only then
-    for (const auto& [name, hint, outcome] : tools) {
+    for (const auto& [name, hint, outcome, role] : tools) {
         SCOPED_TRACE(hint);
-        program.hoverOver("push button", name);
+        program.hoverOver(role, name);
         program.waitForText(hint);
         program.xdotool({"click", "1"});
         program.expect(outcome);
