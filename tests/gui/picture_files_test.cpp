@@ -201,27 +201,32 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
 TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
 {
     const QByteArray old = written(colourful(9, 9), "bmp");
-    const auto expectRefusal = [&](const char* name) {
+    const auto expectRefusal = [&](const char* name, const char* cause) {
         const QStringList before = listing();
-        EXPECT_NE(refusal(Fault::pictureNotSaved, [&] { savePicture(colourful(90, 90), path(name)); }), "") << name;
+        EXPECT_EQ(refusal(Fault::pictureNotSaved, [&] { savePicture(colourful(90, 90), path(name)); }), cause) << name;
         EXPECT_EQ(listing(), before) << name;
     };
     ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
     ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
     store("old.bmp", old);
-    for (const char* const name : {"folder", "pipe", "gone/a.bmp"}) {
-        expectRefusal(name);
-    }
+    expectRefusal("folder", "that is a folder");
+    expectRefusal("pipe", "that is no ordinary file");
+    expectRefusal("gone/a.bmp", "no such folder");
     for (const rlim_t room : {0U, 1U, 54U, 16384U, 24353U}) { // of 24354 bytes
         const FullDisk full(room);
-        expectRefusal("old.bmp");
-        expectRefusal("new.bmp");
+        expectRefusal("old.bmp", "the disk takes no more");
+        expectRefusal("new.bmp", "the disk takes no more");
     }
-    for (const auto& [file, folder] : {std::pair<mode_t, mode_t>{0444, 0777}, {0666, 0555}}) {
+    struct Modes {
+        mode_t file, folder;
+        const char* cause;
+    };
+    for (const auto& [file, folder, cause] :
+         {Modes{0444, 0777, "the file is write-protected"}, Modes{0666, 0555, "permission denied"}}) {
         allow("old.bmp", file);
         allow(".", folder);
         if (const OrdinaryUser user; OrdinaryUser::isOne()) { // root may write anywhere
-            expectRefusal("old.bmp");
+            expectRefusal("old.bmp", cause);
         }
     }
     allow(".", 0700);
