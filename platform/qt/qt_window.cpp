@@ -1,11 +1,9 @@
 #include "platform/qt/qt_window.h"
 
 #include "platform/qt/canvas_widget.h"
-#include "platform/qt/colors.h"
 #include "platform/qt/form_events.h"
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
-#include "platform/qt/swatch_icon.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -15,7 +13,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
-#include <QToolBar>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -32,11 +29,6 @@ bool liesIn(const QWidget& window, const QObject& object)
         up = up->parent();
     }
     return qobject_cast<const QWidget*>(up)->window() == &window;
-}
-
-QIcon toolPicture(Name key)
-{
-    return QIcon(":/pictures/toolbar/" + toQString(key) + ".svg");
 }
 
 /// What the form says of a control in properties of our own.
@@ -216,33 +208,6 @@ QImage QtWindow::pictureOfCanvas()
 void QtWindow::endProgram()
 {
     QCoreApplication::exit();
-}
-
-void QtWindow::addToolButton(Name key, std::string_view tip, Look look)
-{
-    auto& bar = *m_form.findChild<QToolBar*>();
-    if (key.empty()) {
-        bar.widgetForAction(bar.addSeparator())->setProperty("isDecoration", true);
-        return;
-    }
-    QAction* const button = bar.addAction(toolPicture(key), toQString(key));
-    addNamed(key, *button);
-    button->setToolTip(toQString(tip));
-    button->setCheckable(look != Look::plain);
-    connect(button, &QAction::triggered, this, [this, key, button](bool checked) {
-        button->setChecked(!checked); // the toolkit has flipped it; the program says what it shows
-        report({.kind = Event::Kind::click, .name = key});
-    });
-    connect(button, &QAction::hovered, this, [this, key] { report({.kind = Event::Kind::hover, .name = key}); });
-}
-
-void QtWindow::setSwatch(Name key, Color color)
-{
-    auto& button = find<QAction>(key);
-    if (button.data() != color) {
-        button.setData(color);
-        button.setIcon(swatchIcon(toolPicture(key), toQColor(color)));
-    }
 }
 
 void QtWindow::setCursor(const Cursor& cursor)

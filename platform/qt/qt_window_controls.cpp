@@ -1,9 +1,10 @@
-// The controls of a window; qt_window.cpp has the window itself.
+// The controls and the toolbar of a window; qt_window.cpp has the window itself.
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/colors.h"
 #include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_window.h"
+#include "platform/qt/swatch_icon.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -13,6 +14,43 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QToolBar>
+
+namespace {
+
+QIcon toolPicture(Name key)
+{
+    return QIcon(":/pictures/toolbar/" + toQString(key) + ".svg");
+}
+
+} // namespace
+
+void QtWindow::addToolButton(Name key, std::string_view tip, Look look)
+{
+    auto& bar = *m_form.findChild<QToolBar*>();
+    if (key.empty()) {
+        bar.widgetForAction(bar.addSeparator())->setProperty("isDecoration", true);
+        return;
+    }
+    QAction* const button = bar.addAction(toolPicture(key), toQString(key));
+    addNamed(key, *button);
+    button->setToolTip(toQString(tip));
+    button->setCheckable(look != Look::plain);
+    connect(button, &QAction::triggered, this, [this, key, button](bool checked) {
+        button->setChecked(!checked); // the toolkit has flipped it; the program says what it shows
+        report({.kind = Event::Kind::click, .name = key});
+    });
+    connect(button, &QAction::hovered, this, [this, key] { report({.kind = Event::Kind::hover, .name = key}); });
+}
+
+void QtWindow::setSwatch(Name key, Color color)
+{
+    auto& button = find<QAction>(key);
+    if (button.data() != color) {
+        button.setData(color);
+        button.setIcon(swatchIcon(toolPicture(key), toQColor(color)));
+    }
+}
 
 void QtWindow::setChecked(Name item, bool checked)
 {
