@@ -21,6 +21,7 @@ struct Accessible {
 
     [[nodiscard]] bool active() const { return (state >> 1U & 1U) != 0; }
     [[nodiscard]] bool checked() const { return (state >> 4U & 1U) != 0; }
+    [[nodiscard]] bool focused() const { return (state >> 12U & 1U) != 0; }
     [[nodiscard]] bool showing() const { return (state >> 25U & 1U) != 0; }
 };
 

@@ -63,7 +63,7 @@ void Program::waitForHelp()
 {
     waitForMainWindow();
     waitUntil("the help window", [this] { return isOpen("Help"); });
-    m_window = outputOf("xdotool", {"getwindowfocus"});
+    m_window = outputOf("xdotool", {"getactivewindow"});
     findCanvas();
 }
 
@@ -214,7 +214,10 @@ QString Program::titleInFront() const
 
 void Program::waitForWindow(const QString& title) const
 {
-    waitUntil(qPrintable(title), [&] { return titleInFront().trimmed() == title.trimmed(); });
+    waitUntil(qPrintable(title), [&] { // until the program and the window manager agree
+        return titleInFront().trimmed() == title.trimmed() &&
+               outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title.trimmed();
+    });
 }
 
 void Program::answer(const QString& title, const char* key)
@@ -252,7 +255,7 @@ bool Program::isOpen(const QString& title) const
 
 void Program::closeActiveWindow()
 {
-    EXPECT_EQ(QProcess::execute("wmctrl", {"-i", "-c", outputOf("xdotool", {"getwindowfocus"})}), 0);
+    EXPECT_EQ(QProcess::execute("wmctrl", {"-c", ":ACTIVE:"}), 0);
 }
 
 QStringList Program::filesAtHome() const
@@ -282,7 +285,8 @@ Program::Witness::~Witness()
     std::cout << "The screen is in " << qPrintable(picture) << "; in front is";
     for (const Accessible& each : program.m_bus.inFront()) {
         if (each.showing() && !each.name.isEmpty()) {
-            std::cout << " [" << qPrintable(each.role + ": " + each.name.simplified()) << ']';
+            std::cout << " [" << qPrintable(each.role + ": " + each.name.simplified()) << ']'
+                      << (each.focused() ? " with the focus" : "");
         }
     }
     std::cout << std::endl;

@@ -208,6 +208,7 @@ TEST(Program, MouseToolsDrawWhatOutlivesSmallerAndLargerWindows)
 
     program.openPopup(500, 500); // eraser, a separator, pencil
     program.keys({"Down", "Down", "Return"});
+    program.waitForText("Pencil"); // the menu no longer holds the mouse
     program.drag(300, 400, 400, 440);
     waitUntil("the whole stroke", [&] { return program.inked(350, 419) && program.inked(399, 439); });
 
