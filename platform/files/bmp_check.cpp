@@ -53,7 +53,6 @@ BmpHeader readHeader(const Bytes& file)
     }
     require(header.width > 0 && header.height > 0);
     header.pixelsAt = std::max<std::int64_t>(end, file.little32(10));
-    file.reach(header.pixelsAt);
     return header;
 }
 

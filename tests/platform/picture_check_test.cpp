@@ -77,7 +77,7 @@ std::string jpeg()
     };
     const std::string end = bytes({0xFF, 0xD9});
     std::string out = bytes({0xFF, 0xD8}) + segment(0xE1, bytes({0xFF, 0xD8}) + filler(5) + end) + bytes({0xFF, 0xFF}) +
-                      segment(0xC2, filler(15));
+                      segment(0xC2, filler(15)) + segment(0xFE, "");
     for (int scan = 0; scan < 3; ++scan) {
         out += segment(0xDA, filler(6)) + filler(4) + bytes({0xFF, 0x00, 0x12, 0xFF, 0x01, 0xFF, 0xD3}) + filler(3);
     }
@@ -86,8 +86,8 @@ std::string jpeg()
 
 std::string gif(int firstBlock = '!')
 {
-    return "GIF89a" + filler(4) + bytes({0x80, 0, 0}) + filler(6) + bytes({firstBlock, 0xFE, 2, 1, 1, 0}) + "," +
-           filler(8) + bytes({0x81}) + filler(12) + bytes({2, 2, 0x4C, 1, 0});
+    return "GIF89a" + filler(4) + bytes({0x77, 0, 0, firstBlock, 0xFE, 2, 1, 1, 0}) + "," + filler(8) + bytes({0x81}) +
+           filler(12) + bytes({2, 2, 0x4C, 1, 0});
 }
 
 /// Each needs its last byte.
@@ -100,11 +100,17 @@ std::vector<std::string> wholePictures()
         out.push_back(bmp({9, 7, bits, 0, 0, 0, 12}, filler(rowBytes * 7LL)));
     }
     out.push_back(bmp({9, 7, 8, 0, 0, 3}, filler(84)));
-    out.push_back(bmp({9, 7, 32, 3}, filler(252)));
-    const std::string absolute = bytes({0, 5}) + filler(6) + bytes({0, 2, 0, 1, 4, 0x11});
+    out.push_back(bmp({9, 7, 16, 3}, filler(140)));
+    out.push_back(bmp({1, 1, 32, 3}, filler(4)));
+    const std::string absolute = bytes({0, 5, 9, 9, 9, 9, 0, 1, 0, 6, 9, 9, 9, 9, 0, 1, 0, 2, 0, 1});
     out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 0, 0, 1})));
-    out.push_back(bmp({9, 7, 4, 2}, bytes({9, 1, 0, 2, 0, 2, 0, 0, 0, 5, 1, 2, 3, 0, 0, 1})));
-    out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 2, 9, 6}))); // no mark, but its rows are done
+    out.push_back(bmp({9, 7, 4, 2}, bytes({9, 1, 0, 2, 0, 2, 0, 0, 0, 5, 9, 9, 0, 1, 0, 1})));
+    out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 2, 9, 5, 0, 0}))); // no mark, but its rows are done
+    for (std::size_t i = out.size(); i-- > 0;) {
+        if (out[i].starts_with("BM")) { // whose header may not say where the pixels are
+            out.push_back(std::string(out[i]).replace(10, 4, little(0, 4)));
+        }
+    }
     return out;
 }
 
