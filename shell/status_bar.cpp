@@ -72,7 +72,8 @@ std::string_view offCanvasText(const Form1& form)
     return form.controls.isOnCanvas(form.x, form.y) ? "" : "off the canvas";
 }
 
-/// What the status bar shows, for somebody who does not see it: an arrow would not be said.
+/// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still on
+/// the canvas then.
 std::string spokenStatus(const Form1& form)
 {
     std::string text = form.notice.empty() ? "" : form.notice + ". ";
@@ -86,6 +87,8 @@ std::string spokenStatus(const Form1& form)
     add(", tool ", toolText(form));
     add(", ", form.eraseMode == 1 ? "erase mode" : "");
     add(", ", form.autoJumper == 1 ? "automatic jumpers" : "");
+    add(", ", form.controls.visible(control::sup) ? "supply: Alt+V voltage, Alt+C current" : "");
+    add(", ", form.controls.visible(control::bat) ? "battery: Alt+P positive, Alt+N negative" : "");
     return text;
 }
 

@@ -13,6 +13,8 @@ TEST(Mouse, AnyButtonThatComesUpMarksTheDrawingChanged)
         bench.mouseUp(held, 1000, 1000);
         EXPECT_EQ(bench.form.savedMark, 0);
         EXPECT_EQ(bench.window.poppedUp, held == button::right ? "rc 1000 1000" : "");
+        bench.click(control::rc); // by a key
+        EXPECT_EQ(bench.window.poppedUp, "rc " + bench.pen());
     }
 }
 

@@ -58,7 +58,7 @@ TEST(Program, NamesEveryControlOfAllItsWindowsAndMenus)
     EXPECT_EQ(namesOf(all, "Output", "text"), namesOf(all, "Output", "label"));
 }
 
-TEST(Program, TellsAScreenReaderWhereThePenIs)
+TEST(Program, TellsAScreenReaderWhereThePenIsAndWhatThePanelOffers)
 {
     Program program;
     const Accessible canvas = *program.find("canvas", "Canvas");
@@ -73,7 +73,11 @@ TEST(Program, TellsAScreenReaderWhereThePenIs)
     for (const auto& [tool, pressed] : {std::pair{"Line", true}, {"Pencil", false}, {"Eraser", true}}) {
         EXPECT_EQ(program.find("check box", tool)->checked(), pressed) << tool;
     }
-    program.keys({"e", "ctrl+n"});
+    program.keys({"e", "s"});
+    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, supply: Alt+V voltage, Alt+C current");
+    program.keys({"Escape", "b"});
+    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, battery: Alt+P positive, Alt+N negative");
+    program.keys({"Escape", "ctrl+n"});
     program.waitForText(saveQuestion);
     program.keys({"n"});
     program.waitForMainWindow();

@@ -63,9 +63,16 @@ TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
     program.openPopup(300, 300);
     program.clickMenus({"Line"});
     program.waitForText("Line");
-    program.openPopup(300, 300);
-    program.keys({"h"});
-    program.expect({"Help"});
+    program.click(1, 300, 300);
+    for (const char* const key : {"Menu", "shift+F10"}) {
+        program.keys({key});
+        const QRect item = program.onCanvas(program.placeOf("menu item", "Eraser"));
+        EXPECT_TRUE(QRect(300, 300, 10, 10).contains(item.topLeft())); // at the pen
+        program.keys({"h"});
+        program.expect({"Help"});
+    }
+    program.keys({"F10", "p"});
+    program.expect({"Schemlet 2.0", printQuestion});
 }
 
 TEST(Program, ShortCutsHaveTheirEffect)

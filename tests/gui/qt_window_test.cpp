@@ -4,6 +4,8 @@
 #include "tests/support/stand_ins.h"
 #include "ui_Form1.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QToolBar>
@@ -16,44 +18,121 @@ namespace {
 
 using MainWindow = Shown<QMainWindow, Ui::Form1>;
 
-} // namespace
-
-TEST(QtWindow, ReportsTheSecondPressOfADoubleClickUnlessTheFirstOneWasOnSomethingThatWentAway)
+QMenu& addPopup(MainWindow& main)
 {
-    MainWindow main;
-    QTest::mouseDClick(main.form.Canvas, Qt::LeftButton, {}, {100, 200});
-    EXPECT_EQ(main.events.back().x, 1500);
-    EXPECT_EQ(main.events.back().y, 3000);
-    EXPECT_EQ(main.noted(), "mouseDown 1\n");
-    QTest::mouseRelease(main.form.Canvas, Qt::LeftButton);
-    EXPECT_EQ(main.noted(), "mouseUp 1\n");
-
-    QMouseEvent stray(QEvent::MouseButtonDblClick, QPointF(10, 10), QPointF(10, 10), Qt::LeftButton, Qt::LeftButton,
-                      {});
-    stray.setTimestamp(100'000'000);
-    QCoreApplication::sendEvent(main.form.Canvas, &stray);
-    QTest::mouseRelease(main.form.Canvas, Qt::LeftButton);
-    EXPECT_EQ(main.noted(), "");
-    QTest::mouseClick(main.form.Canvas, Qt::LeftButton);
-    EXPECT_EQ(main.noted(), "mouseDown 1\nmouseUp 1\n");
-}
-
-TEST(QtWindow, ReportsTheReleaseThatThePopupMenuSwallowsAndNoOther)
-{
-    MainWindow main;
     main.window->addMenuItem(0, {"rc", "&Rightclick", "", Look::hidden});
     main.window->addMenuItem(1, {"eras", "&Eraser"});
-    QTest::mousePress(main.form.Canvas, Qt::RightButton, {}, {100, 200});
-    main.window->popUp("rc");
-    QMenu& menu = *main.view.findChild<QMenu*>("rcMenu");
+    return *main.view.findChild<QMenu*>("rcMenu");
+}
+
+} // namespace
+
+TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
+{
+    MainWindow main;
+    QWindow* const window = main.view.windowHandle();
+    const QPoint place = main.form.Canvas->mapTo(&main.view, QPoint(100, 200));
+    QTest::mouseMove(window, place);
+    main.events.clear();
+    QTest::mouseDClick(window, Qt::LeftButton, {}, place);
+    EXPECT_EQ(main.events.back().x, 1500);
+    EXPECT_EQ(main.events.back().y, 3000);
+    EXPECT_EQ(main.noted(), "mouseDown 1\nmouseUp 1\nmouseDown 1\nmouseUp 1\n");
+
+    QMenu& menu = addPopup(main);
+    QTest::mousePress(window, Qt::LeftButton, {}, place);
+    QTest::mousePress(window, Qt::RightButton, {}, place);
+    main.window->popUp("rc", {1500, 3000});
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
-    EXPECT_EQ(main.noted(), "mouseDown 2\n");
-    const QPoint outside = menu.mapFromGlobal(main.view.frameGeometry().bottomRight() + QPoint(50, 50));
-    for (const auto& [button, reported] :
-         {std::pair{Qt::LeftButton, ""}, {Qt::RightButton, "mouseUp 2\n"}, {Qt::RightButton, ""}}) {
-        QTest::mouseRelease(&menu, button, {}, outside);
-        EXPECT_EQ(main.noted(), reported);
+    EXPECT_EQ(main.noted(), "mouseDown 1\nmouseDown 2\n");
+    QTest::mouseRelease(menu.windowHandle(), Qt::RightButton, {}, {20, 20});
+    menu.close();
+    QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+    EXPECT_EQ(main.noted(), "mouseUp 2\nclick eras0\nmouseUp 1\n");
+
+    QTest::mousePress(window, Qt::LeftButton, {}, place);
+    QDialog box(&main.view);
+    box.open();
+    QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+    EXPECT_EQ(main.noted(), "mouseDown 1\n");
+    box.close();
+    EXPECT_EQ(main.noted(), "mouseUp 1\n");
+}
+
+TEST(QtWindow, KeepsADoubleClickFromTheCanvasWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
+{
+    MainWindow main;
+    const auto send = [&main](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, quint64 when) {
+        QWidget* const popup = QApplication::activePopupWidget();
+        QWidget& target = popup != nullptr ? *popup : *main.form.Canvas;
+        const QPointF place = main.form.Canvas->mapToGlobal(QPointF(10, 10));
+        QMouseEvent event(type, target.mapFromGlobal(place), place, button, held, {});
+        event.setTimestamp(when);
+        QCoreApplication::sendEvent(&target, &event);
+    };
+    const auto doubleClick = [&](quint64 when) {
+        send(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton, when);
+        send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, when);
+        send(QEvent::MouseButtonRelease, Qt::LeftButton, {}, when);
+    };
+    doubleClick(100'000'000);
+    EXPECT_EQ(main.noted(), "mouseMove 0\n");
+
+    addPopup(main);
+    main.window->popUp("rc", {1500, 3000});
+    send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, 200'000'000);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    doubleClick(200'000'100);
+    EXPECT_TRUE(main.noted().starts_with("mouseDown 1\nmouseUp 1\n"));
+}
+
+TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
+{
+    MainWindow main;
+    main.window->addMenuItem(0, {"file", "&File"});
+    main.window->addMenuItem(1, {"new", "&New"});
+    QMenu& menu = addPopup(main);
+    for (const auto& [x, y, place] :
+         {std::tuple{1500, 3000, QPoint(100, 200)}, {-9000, 3000, {0, 200}}, {1500, -15, {100, 0}}}) {
+        main.window->popUp("rc", {static_cast<double>(x), static_cast<double>(y)});
+        EXPECT_EQ(main.form.Canvas->mapFromGlobal(menu.pos()), place);
+        menu.close();
     }
+    main.view.activateWindow(); // without a window manager a menu does not give the keyboard back
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main.view));
+    main.window->show({control::Frame2, control::panel, control::sup, control::Text11});
+    for (QWidget* const focus :
+         std::initializer_list<QWidget*>{main.form.Canvas, main.form.Image1, main.form.Option2}) {
+        focus->setFocus();
+        QTest::keyClick(main.view.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+        EXPECT_EQ(main.noted(), "click rc0\n");
+    }
+    main.form.Text11->setFocus();
+    QTest::keyClick(main.view.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text's own
+    QApplication::activePopupWidget()->close();
+    QTest::keyClick(main.view.windowHandle(), Qt::Key_F10);
+    EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "fileMenu");
+    QTest::keyClick(main.view.windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), main.form.Text11);
+    EXPECT_EQ(main.noted(), "");
+}
+
+TEST(QtWindow, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
+{
+    MainWindow main;
+    main.window->show({control::Frame2});
+    QWindow* const window = main.view.windowHandle();
+    const auto moveTo = [&](QPoint place) { QTest::mouseMove(window, main.form.Frame2->mapTo(&main.view, place)); };
+    const QPoint edge = main.form.Frame2->rect().bottomLeft() + QPoint(2, -20);
+    moveTo(edge);
+    main.events.clear();
+    QTest::mousePress(window, Qt::LeftButton, {}, main.form.Frame2->mapTo(&main.view, edge));
+    moveTo(edge + QPoint(0, 1));
+    moveTo(edge + QPoint(0, 2));
+    moveTo(main.form.Image1->geometry().center()); // is not over the frame itself
+    moveTo({-50, 0});                              // nor is this
+    EXPECT_EQ(main.noted(), "hover Frame20\nhover Frame20\n");
 }
 
 TEST(QtWindow, PanelFitsIntoTheSmallestWindowInTheCornerFarthestFromThePen)
@@ -114,6 +193,31 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
     main.form.Image7->setFocus();
     QTest::keyClick(main.form.Image7, Qt::Key_Space);
     EXPECT_EQ(main.noted(), "click Image70\n");
+
+    main.form.Canvas->setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(main.form.Canvas, Qt::LeftButton);
+    EXPECT_EQ(edge(), QColor(Qt::white));
+}
+
+TEST(QtWindow, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
+{
+    MainWindow main;
+    using namespace control;
+    main.window->show({Frame2, panel, sup, Text11, Command3});
+    for (const auto& [focus, goes] :
+         {std::pair<QWidget*, void (*)(Window&)>{main.form.Text11, [](Window& window) { window.disable({Text11}); }},
+          {main.form.Command3, [](Window& window) { window.hide({panel}); }},
+          {main.form.Image7, [](Window& window) { window.hide({Frame2}); }}}) {
+        focus->setFocus();
+        QStringList visited;
+        const auto watch =
+            QObject::connect(qApp, &QApplication::focusChanged,
+                             [&](const QWidget* /*old*/, const QWidget* now) { visited << now->objectName(); });
+        goes(*main.window);
+        QObject::disconnect(watch);
+        EXPECT_EQ(visited.join(' ').toStdString(), "Canvas");
+        EXPECT_EQ(main.form.Canvas->grab().toImage().pixelColor(0, 300), QColor(Qt::white));
+    }
 }
 
 TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
