@@ -238,7 +238,8 @@ TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen
         for (const double ratio : {1.0, 1.5, 2.0}) {
             const QImage icon = bar.actions().back()->icon().pixmap({24, 24}, ratio).toImage();
             EXPECT_EQ(icon.width(), 24 * ratio);
-            const int left = static_cast<int>(4 * ratio), right = static_cast<int>(20 * ratio);
+            const int left = static_cast<int>(4 * ratio);
+            const int right = static_cast<int>(20 * ratio);
             const int y = static_cast<int>(18.5 * ratio);
             EXPECT_EQ(icon.pixelColor(left, y), color);
             EXPECT_EQ(icon.pixelColor(right, y), color);
