@@ -28,8 +28,8 @@ bool HeldButtons::isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) cons
 bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
 {
     if (m_held != Qt::NoButton) {
-        // The first sign that a button is up, be it a release or not. There is none while a box is open and the mouse
-        // not over it.
+        // Whatever tells first that a button is up, release or not. While a box is open and the mouse beside it, that
+        // is the end of the box.
         if (const auto* const pointing = dynamic_cast<const QSinglePointEvent*>(event)) {
             release(pointing->globalPosition());
         } else if (event->type() == QEvent::WindowUnblocked) {
@@ -51,7 +51,7 @@ void HeldButtons::release(QPointF place)
     }
 }
 
-/// A press on the canvas beside an open menu. The menu gets it, but the next one soon after is no stray one.
+/// A press on the canvas beside an open menu. The menu takes it, but a second press soon after is meant for the canvas.
 bool HeldButtons::onlyClosesAMenu(const QObject& watched, const QEvent& event) const
 {
     return (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick) &&

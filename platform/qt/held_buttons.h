@@ -7,13 +7,13 @@ class QMouseEvent;
 class QPointF;
 class QWidget;
 
-/// The mouse buttons that went down on a canvas and are not up again, wherever that happens: an open menu gets the
-/// release of a button, and while a box is open the canvas gets none.
+/// The mouse buttons that went down on a canvas and are still held. The canvas learns of every release, though an open
+/// menu takes those that come while it shows, and a box lets none through.
 class HeldButtons final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the canvas. The function is told of every release, with the place on the canvas.
+    /// Belongs to the canvas. The function gets every release and its place on the canvas.
     HeldButtons(QWidget& canvas, std::function<void(Qt::MouseButton, QPointF)> released);
 
     void press(const QMouseEvent& event);

@@ -193,9 +193,9 @@ public:
     int timesUnloaded = 0;
     std::vector<int> heights; ///< in the order in which they were set
     int timesPrinted = 0;
-    std::optional<Fault> printFault; ///< thrown by every printForm()
-    std::string poppedUp; ///< the menu and its place, such as "rc 1600 1500"
-    Point canvas{9000, 6000}; ///< its size
+    std::optional<Fault> printFault;                ///< thrown by every printForm()
+    std::string poppedUp;                           ///< the menu and its place, such as "rc 1600 1500"
+    Point canvas{9000, 6000};                       ///< its size
     std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
     std::map<std::string, int, std::less<>> intervals;
 
