@@ -35,16 +35,19 @@ QVariant answer(QDBusPendingCall call)
     return value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
 }
 
-/// Adds these, each before what is in it.
-void collect(const AccessibilityBus& bus, const std::vector<Accessible>& siblings, bool closedMenus,
-             std::vector<Accessible>& found)
+/// These with all that is in them, the last one first, but each before what is in it.
+std::vector<Accessible> contents(const AccessibilityBus& bus, std::vector<Accessible> open, bool closedMenus)
 {
-    for (const Accessible& each : siblings) {
-        found.push_back(each);
-        if (closedMenus || each.showing() || each.role != "popup menu") {
-            collect(bus, bus.childrenOf(each), closedMenus, found);
+    std::vector<Accessible> found;
+    while (!open.empty()) {
+        const Accessible next = found.emplace_back(open.back());
+        open.pop_back();
+        if (closedMenus || next.showing() || next.role != "popup menu") {
+            const std::vector<Accessible> children = bus.childrenOf(next);
+            open.insert(open.end(), children.rbegin(), children.rend());
         }
     }
+    return found;
 }
 
 } // namespace
@@ -83,18 +86,14 @@ AccessibilityBus::~AccessibilityBus()
 
 std::vector<Accessible> AccessibilityBus::everything() const
 {
-    std::vector<Accessible> found;
-    collect(*this, windows(), true, found);
-    return found;
+    return contents(*this, windows(), true);
 }
 
 std::vector<Accessible> AccessibilityBus::inFront() const
 {
     std::vector<Accessible> open = windows();
     std::erase_if(open, [](const Accessible& window) { return !window.inFront; });
-    std::vector<Accessible> found;
-    collect(*this, open, false, found);
-    return found;
+    return contents(*this, open, false);
 }
 
 std::vector<Accessible> AccessibilityBus::windows() const
@@ -133,7 +132,8 @@ std::vector<Accessible> AccessibilityBus::childrenOf(const Accessible& parent) c
     std::vector<Accessible> children;
     std::vector<std::array<QDBusPendingCall, 3>> calls; // all at once, which saves most of the way back and forth
     for (const auto& [service, path] : qdbus_cast<QList<Reference>>(answer(ask(parent, itself, "GetChildren")))) {
-        const Accessible& child = children.emplace_back(service, path, parent.window, parent.name);
+        children.push_back({.service = service, .path = path, .window = parent.window, .parent = parent.name});
+        const Accessible& child = children.back();
         calls.push_back(
             {ask(child, itself, "GetRoleName"), askProperty(child, itself, "Name"), ask(child, itself, "GetState")});
     }

@@ -210,7 +210,10 @@ TEST(Program, MouseToolsDrawWhatOutlivesSmallerAndLargerWindows)
     program.keys({"Down", "Down", "Return"});
     program.waitForText("Pencil"); // the menu no longer holds the mouse
     program.drag(300, 400, 400, 440);
-    waitUntil("the whole stroke", [&] { return program.inked(350, 419) && program.inked(399, 439); });
+    waitUntil("the whole stroke, and the marker at its end", [&] {
+        return program.inked(350, 419) && program.inked(399, 439) &&
+               inkedPixels(program.canvas().copy(402, 420, 8, 16)) > 0;
+    });
 
     const QImage before = program.canvas().copy(0, 300, 800, 300);
     program.resize(600, 300);
