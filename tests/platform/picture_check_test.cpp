@@ -32,7 +32,9 @@ std::string bytes(std::initializer_list<int> list)
 
 std::string filler(std::int64_t count)
 {
-    return std::string(static_cast<std::size_t>(count), '\x55');
+    std::string out;
+    out.resize(static_cast<std::size_t>(count), '\x55');
+    return out;
 }
 
 struct Bmp {
@@ -155,7 +157,8 @@ TEST(PictureCheck, BelievesNoHeader)
         {bmp({5, 5, 8, 2}, some), State::unreadable},
         {bmp({5, 5, 24, 3}, some), State::unreadable},
         {bmp({5, 5, 8, 0, 0, 257}, some), State::unreadable},
-        {"BM" + filler(12) + little(-1, 4) + some, State::unreadable},
+        {bmp({5, 5, 24, 0, 0, 0, 125}, some), State::unreadable},
+        {"BM" + filler(12) + little(39, 4) + filler(50000), State::unreadable},
         {png(big(0xFFFFFFFF, 4) + "IDAT"), State::unreadable},
         {png(big(INT_MAX, 4) + "IDAT"), State::cutShort},
         {bytes({0xFF, 0xD8, 0xFF, 0xE0, 0, 1}) + some, State::unreadable},
