@@ -48,7 +48,6 @@ public:
     /// Where this byte stands next.
     [[nodiscard]] std::int64_t find(char byte, std::int64_t from) const
     {
-        reach(from);
         const std::size_t found = m_bytes.find(byte, static_cast<std::size_t>(from));
         if (found == std::string_view::npos) {
             throw CutShort{};

@@ -81,7 +81,8 @@ std::string jpeg()
     std::string out = bytes({0xFF, 0xD8}) + segment(0xE1, bytes({0xFF, 0xD8}) + filler(5) + end) + bytes({0xFF, 0xFF}) +
                       segment(0xC2, filler(15)) + segment(0xFE, "");
     for (int scan = 0; scan < 3; ++scan) {
-        out += segment(0xDA, filler(6)) + filler(4) + bytes({0xFF, 0x00, 0x12, 0xFF, 0x01, 0xFF, 0xD3}) + filler(3);
+        out += segment(0xDA, filler(6)) + filler(4) + bytes({0xFF, 0x00, 0x12, 0xFF, 0x01, 0xFF, 0xD0, 0xFF, 0xD7}) +
+               filler(3);
     }
     return out + end;
 }
