@@ -57,6 +57,7 @@ std::string difference(const std::string& recorded, const std::string& now)
 TEST(GoldenRecord, EverythingIsDrawnAsRecorded)
 {
     Record now;
+    recordClicks(now);
     recordDrawing(now);
     recordInk(now);
     if (std::getenv("SCHEMLET_WRITE_GOLDEN_RECORD") != nullptr) {

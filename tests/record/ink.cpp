@@ -6,9 +6,9 @@
 namespace {
 
 struct Shape {
-    const char* title;
-    ink::Place from, to{}; ///< or the centre alone
-    double radius = 0;     ///< 0: a line
+    const char* title = "";
+    ink::Place from{}, to{}; ///< or the centre alone
+    double radius = 0;       ///< 0: a line
     double start = 0, end = 0;
 };
 

@@ -12,4 +12,5 @@ using Record = std::vector<Section>;
 
 // Each adds its sections.
 void recordDrawing(Record& record); ///< each call that reaches the canvas, and what it leaves there
+void recordClicks(Record& record);  ///< menus, hints and what follows a click
 void recordInk(Record& record);     ///< the pixels of strokes

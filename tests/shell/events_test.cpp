@@ -4,43 +4,28 @@
 
 #include <gtest/gtest.h>
 
-TEST(Deliver, RunsMenuItemsByNameThePopupsLikeTheBarsAndTheToolbars)
+TEST(Deliver, LeavesWhatHasNoCommand)
 {
     Bench bench;
-    for (const auto& [names, tool, cursor] :
-         {std::tuple{std::array{"pencil1", "penc", "Pencil"}, &CanvasState::pencilTool, "pencil"},
-          {std::array{"rectan", "rectang", "Box"}, &CanvasState::rectTool, "box"},
-          {std::array{"linee", "lineee", "Line"}, &CanvasState::lineTool, "line"}}) {
-        for (const char* const name : names) {
-            bench.form.pencilTool = bench.form.rectTool = bench.form.lineTool = 0;
-            bench.click(name);
-            EXPECT_EQ(bench.form.*tool, 1) << name;
-            bench.tick(control::statusTimer);
-            EXPECT_EQ(bench.window.cursor, cursor);
-            for (const char* const button : {"Pencil", "Box", "Line"}) {
-                EXPECT_EQ(bench.window.checked(button), button == names.back());
-            }
-        }
-    }
-    for (const auto& [name, erasing] : {std::pair{"eraser", 1}, {"eras", 0}, {"Eraser", 1}}) {
-        bench.click(name);
-        EXPECT_EQ(bench.form.eraseMode, erasing) << name;
-    }
-    bench.dialogs.picked = 0x123456;
-    for (const char* const name : {"forec", "foreco", "Fore"}) {
-        bench.form.wireColor = black;
-        bench.click(name);
-        EXPECT_EQ(bench.form.wireColor, 0x123456U) << name;
-    }
-    bench.tick(control::statusTimer);
-    EXPECT_TRUE(bench.window.checked("Eraser"));
-    EXPECT_EQ(bench.window.at("Fore").backColor, 0x123456U);
-    bench.click("Output");
-    EXPECT_EQ(bench.output.timesShown, 1);
-    for (const char* const name : {"gates", "batterycolor", "nothing of this name"}) { // without a command
+    for (const char* const name : {"gates", "batterycolor", "nothing of this name"}) {
         bench.click(name);
         EXPECT_EQ(bench.outcome(), nothing);
     }
+}
+
+TEST(StatusBar, ShowsTheToolInHandEraseModeAndColoursOnTheToolbarToo)
+{
+    Bench bench;
+    bench.dialogs.picked = 0x123456;
+    for (const char* const tool : {"Fore", "Eraser", "Pencil", "Box", "Line"}) {
+        bench.click(tool);
+        bench.tick(control::statusTimer);
+        for (const char* const button : {"Pencil", "Box", "Line"}) {
+            EXPECT_EQ(bench.window.checked(button), button == std::string_view(tool));
+        }
+    }
+    EXPECT_TRUE(bench.window.checked("Eraser"));
+    EXPECT_EQ(bench.window.at("Fore").backColor, 0x123456U);
 }
 
 TEST(Deliver, LetsWhatComesTooEarlyWaitForTheBoxesAnswerButNotTheClock)

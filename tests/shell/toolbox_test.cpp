@@ -22,14 +22,6 @@ TEST(Toolbox, FollowsTheMouseFromAClickOrAMoveOverItToTheNextOne)
     EXPECT_EQ(placeAfterMove(100, 200), std::pair(100.0, 200.0));
 }
 
-TEST(Toolbox, EraserSaysHowToComeBack)
-{
-    Bench bench;
-    bench.click("Image20");
-    EXPECT_EQ(bench.window.at(control::sb).text, " Press 'E' to return to normal mode ");
-    EXPECT_EQ(bench.form.eraseMode, 1);
-}
-
 TEST(View, EachTogglesItsOwnMark)
 {
     Bench bench;

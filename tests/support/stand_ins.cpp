@@ -86,7 +86,7 @@ ScriptedDialogs::Reply ScriptedDialogs::next(std::string_view prompt, std::strin
 {
     lastPrompt = prompt;
     lastTitle = title;
-    const Reply reply = always ? *always : expected(title);
+    Reply reply = always ? *always : expected(title);
     if (const auto happens = std::exchange(meanwhile, {})) {
         happens();
     }
