@@ -89,8 +89,8 @@ std::string jpeg()
 
 std::string gif(int firstBlock = '!')
 {
-    return "GIF89a" + filler(4) + bytes({0x77, 0, 0, firstBlock, 0xFE, 2, 1, 1, 0}) + "," + filler(8) + bytes({0x81}) +
-           filler(12) + bytes({2, 2, 0x4C, 1, 0});
+    return "GIF89a" + filler(4) + bytes({0x81, 0x77, 0}) + filler(12) + bytes({firstBlock, 0xFE, 3, 9, 9, 9, 0}) + "," +
+           filler(8) + bytes({0x01, 2, 2, 0x4C, 1, 0});
 }
 
 /// Each needs its last byte.
@@ -107,7 +107,7 @@ std::vector<std::string> wholePictures()
     out.push_back(bmp({1, 1, 32, 3}, filler(4)));
     const std::string absolute = bytes({0, 5, 9, 9, 9, 9, 0, 1, 0, 6, 9, 9, 9, 9, 0, 1, 0, 2, 0, 1});
     out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 0, 0, 1})));
-    out.push_back(bmp({9, 7, 4, 2}, bytes({9, 1, 0, 2, 0, 2, 0, 0, 0, 5, 9, 9, 0, 1, 0, 1})));
+    out.push_back(bmp({9, 7, 4, 2}, bytes({9, 1, 0, 2, 0, 2, 0, 0, 0, 4, 9, 9, 0, 5, 9, 9, 0, 1, 0, 1})));
     out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 2, 9, 5, 0, 0}))); // no mark, but its rows are done
     for (std::size_t i = out.size(); i-- > 0;) {
         if (out[i].starts_with("BM")) { // whose header may not say where the pixels are
