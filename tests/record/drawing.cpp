@@ -7,10 +7,10 @@ namespace {
 
 constexpr std::array headings{heading::right, heading::left, heading::up, heading::down, 7};
 
-std::string headingName(int code)
+std::string wayOf(int heading)
 {
-    constexpr std::array names{"right", "left", "up", "down"};
-    return code <= heading::down ? names[static_cast<std::size_t>(code - 1)] : "that is none";
+    const std::string_view name = headingName(heading);
+    return name.empty() ? "that is none" : std::string(name);
 }
 
 /// One section for each run of headings that mean the same.
@@ -21,9 +21,9 @@ template <typename Body> void addByHeading(Record& record, const std::string& ti
         const std::string body = bodyFor(code);
         const auto same = std::ranges::find(sections, body, &Section::body);
         if (same == sections.end()) {
-            sections.push_back({title + ", heading " + headingName(code), body});
+            sections.push_back({title + ", heading " + wayOf(code), body});
         } else {
-            same->title += ", " + headingName(code);
+            same->title += ", " + wayOf(code);
         }
     }
     record.insert(record.end(), sections.begin(), sections.end());
@@ -108,7 +108,7 @@ void addArrowKeys(Record& record)
             std::string body;
             for (int i = 0; i < 2; ++i) {
                 body += bench.after([&](Bench& pressed) { pressed.press(arrow.second); });
-                body += "heading " + headingName(bench.form.heading) + ", looked at " + bench.surface.probedAt + "\n";
+                body += "heading " + wayOf(bench.form.heading) + ", looked at " + bench.surface.probedAt + "\n";
             }
             record.push_back({std::string(arrow.first) + " arrow, " + ahead.title, body});
         }

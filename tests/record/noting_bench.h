@@ -27,6 +27,7 @@ struct NotingBench : Bench {
             click(item.name);
         }
         drawn();
+        dialogs.lastTitle = "";
         dialogs.always = {reply, reply == answer::yes ? "4.70" : ""};
         surface.notesColors = true;
         surface.setForeColor(colorInHand);
@@ -65,7 +66,8 @@ struct NotingBench : Bench {
 
     void noteQuestion()
     {
-        constexpr std::array styles{"OK", "warning, OK", "question, Yes No", "warning, Yes No Cancel"};
+        constexpr std::array styles{"OK", "warning, OK", "question, Yes No", "question of the walk, Yes No",
+                                    "warning, Yes No Cancel"};
         const auto style = static_cast<std::size_t>(std::exchange(dialogs.lastStyle, Box::okOnly));
         surface.ink.push_back("asks |" + dialogs.lastTitle + "|" + dialogs.lastPrompt + "| " + styles.at(style));
     }
