@@ -182,9 +182,22 @@ void QtWindow::setHeight(int twips)
 
 void QtWindow::printForm()
 {
-    printPicture(m_canvas != nullptr ? pictureOfCanvas() : m_form.grab().toImage(),
+    printPicture(m_canvas != nullptr ? pictureOfCanvas() : pictureOfForm(),
                  m_form.windowTitle().replace("[*][*]", "[*]"));
 }
+/// The window as it is without the keyboard: nothing on paper has the focus.
+QImage QtWindow::pictureOfForm()
+{
+    QWidget* const focused = m_form.focusWidget();
+    if (focused == nullptr) {
+        return m_form.grab().toImage();
+    }
+    focused->clearFocus();
+    QImage picture = m_form.grab().toImage();
+    focused->setFocus();
+    return picture;
+}
+
 
 /// The canvas with what lies on it, but without what only guides the hand.
 QImage QtWindow::pictureOfCanvas()

@@ -62,6 +62,7 @@ private:
     void connectControls();
     void takeKeyboardFrom(const QWidget& control);
     void reportHover(const QWidget& widget) const;
+    [[nodiscard]] QImage pictureOfForm();
     [[nodiscard]] QImage pictureOfCanvas();
     void report(const Event& event) const;
     /// The object with this name if it is of this kind, else null.

@@ -171,8 +171,11 @@ TEST(Program, OutputWindowStaysUsableBesideTheMainWindowAndPrintsItselfOnTheDefa
     const QImage printed = printedPicture(server.printedFiles().first());
     const QRect window = program.placeOf("dialog", "Output");
     ASSERT_EQ(printed.size(), window.size());
-    waitUntil("what was printed", // but for a text cursor or a highlight
-              [&] { return differing(printed, program.screen(window)) < 100; });
+    waitUntil("what was printed", // but for what shows where the focus is
+              [&] { return differing(printed, program.screen(window)) < 1000; });
+    program.keys({"Tab", "alt+p"});
+    waitUntil("another page", [&] { return server.printedFiles().size() == 2; });
+    EXPECT_TRUE(printedPicture(server.printedFiles().last()) == printed); // on paper it is nowhere
 
     server.removeQueue();
     program.keys({"alt+p"});
