@@ -61,8 +61,8 @@ constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, 
 void followFamilies(Form1& form)
 {
     const bool open = form.controls.visible(control::sup) || form.controls.visible(control::bat);
-    form.controls.placeAwayFrom(control::panel, form.x, form.y);
     form.controls.setVisible(control::panel, open);
+    keepPanelAside(form);
 }
 
 void askForValue(Form1& form, Name prompt, Name cancel)
@@ -228,6 +228,11 @@ void cancelPanel(Form1& form)
     } else {
         Command8(form);
     }
+}
+
+void keepPanelAside(Form1& form)
+{
+    form.controls.placeAwayFrom(control::panel, form.x, form.y, control::Frame2);
 }
 
 void clearOptions(Form1& form)

@@ -28,6 +28,9 @@ void Command8(Form1& form);
 /// Runs the cancel button of the family that was opened last.
 void cancelPanel(Form1& form);
 
+/// Keeps the panel off the pen and the toolbox.
+void keepPanelAside(Form1& form);
+
 /// Takes back what was chosen.
 void clearOptions(Form1& form);
 

@@ -39,7 +39,7 @@ public:
     void drawPicture(Name /*control*/, void (* /*draw*/)(Surface&)) override {}
     void setLeft(Name /*control*/, double /*twips*/) override {}
     void setTop(Name /*control*/, double /*twips*/) override {}
-    void placeAwayFrom(Name /*control*/, double /*x*/, double /*y*/) override {}
+    void placeAwayFrom(Name /*control*/, double /*x*/, double /*y*/, Name /*other*/) override {}
     [[nodiscard]] bool isOnCanvas(double /*x*/, double /*y*/) const override { return true; }
     void setInterval(Name /*timer*/, int /*milliseconds*/) override {}
 

@@ -92,8 +92,9 @@ public:
     /// Places a control that lies on the canvas; twips, any distance beyond the edges included.
     virtual void setLeft(Name control, double twips) = 0;
     virtual void setTop(Name control, double twips) = 0;
-    /// Puts a control into the corner of the canvas that is farthest from a place, in twips.
-    virtual void placeAwayFrom(Name control, double x, double y) = 0;
+    /// Puts a visible control into a corner of the canvas: if there is one where it covers neither a place, in twips,
+    /// nor another control, and no other window covers it, there. If there are several, the farthest from the place.
+    virtual void placeAwayFrom(Name control, double x, double y, Name other) = 0;
 
     /// Whether a place, in twips, is on the part of the canvas that the window shows.
     [[nodiscard]] virtual bool isOnCanvas(double x, double y) const = 0;

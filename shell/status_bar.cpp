@@ -1,5 +1,6 @@
 #include "shell/status_bar.h"
 
+#include "circuit/supply_panel.h"
 #include "shell/toolbox.h"
 
 #include <cmath>
@@ -72,8 +73,8 @@ std::string_view offCanvasText(const Form1& form)
     return form.controls.isOnCanvas(form.x, form.y) ? "" : "off the canvas";
 }
 
-/// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still on
-/// the canvas then.
+/// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still
+/// on the canvas then.
 std::string spokenStatus(const Form1& form)
 {
     std::string text = form.notice.empty() ? "" : form.notice + ". ";
@@ -120,7 +121,7 @@ void showStatus(Form1& form)
     showNotice(form);
     showTools(form);
     form.controls.setCursor(cursorFor(form));
-    form.controls.placeAwayFrom(control::panel, form.x, form.y); // the pen may have come near
+    keepPanelAside(form); // the pen may have come near
     form.controls.setDescription(control::Canvas, spokenStatus(form));
 }
 

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>
+#include <QResizeEvent>
 #include <algorithm>
 
 namespace {
@@ -95,18 +96,63 @@ bool Hovering::eventFilter(QObject* watched, QEvent* event)
     return watched == &m_frame; // what its controls leave alone goes no further than the frame
 }
 
-StayInside::StayInside(QWidget& control) : QObject(&control), m_control(control)
+Floating::Floating(QWidget& control) : QObject(&control), m_control(control), m_margin(control.y())
 {
     control.installEventFilter(this); // it grows when its layout is done
     control.parentWidget()->installEventFilter(this);
 }
 
-bool StayInside::eventFilter(QObject* watched, QEvent* event)
+bool Floating::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize) {
-        const QSize room = m_control.parentWidget()->size() - m_control.size();
-        const QPoint place = m_control.pos();
-        m_control.move(std::max(0, std::min(place.x(), room.width())), std::max(0, std::min(place.y(), room.height())));
+    const bool isControl = watched == &m_control;
+    if (isControl && event->type() == QEvent::Move && m_control.pos() != m_placed) {
+        m_dropped = m_control.pos();
+        m_roomAtDrop = m_control.parentWidget()->size();
+    } else if (event->type() == QEvent::Resize && !m_dropped) {
+        place(topRight());
+    } else if (!isControl && event->type() == QEvent::Resize && !m_control.isHidden()) {
+        keepInside(m_control.pos(), dynamic_cast<const QResizeEvent&>(*event).oldSize());
+    } else if (isControl && event->type() == QEvent::ShowToParent && m_dropped) {
+        keepInside(*m_dropped, m_roomAtDrop);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QPoint Floating::topRight() const
+{
+    const QSize room = m_control.parentWidget()->size() - m_control.size();
+    return {std::max(0, room.width() - m_margin), std::max(0, std::min(m_margin, room.height()))};
+}
+
+/// A side that has not shrunk leaves it where it is, even beyond the edge.
+void Floating::keepInside(QPoint wanted, QSize roomBefore)
+{
+    const QSize room = m_control.parentWidget()->size();
+    const QSize last = room - m_control.size();
+    if (room.width() < roomBefore.width()) {
+        wanted.setX(std::max(0, std::min(wanted.x(), last.width())));
+    }
+    if (room.height() < roomBefore.height()) {
+        wanted.setY(std::max(0, std::min(wanted.y(), last.height())));
+    }
+    place(wanted);
+}
+
+void Floating::place(QPoint place)
+{
+    m_placed = place;
+    m_control.move(place);
+}
+
+ShowsWith::ShowsWith(QWidget& part, QWidget& frame) : QObject(&part), m_part(part)
+{
+    frame.installEventFilter(this);
+}
+
+bool ShowsWith::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+        m_part.setVisible(event->type() == QEvent::ShowToParent);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
+#include <QSize>
 #include <functional>
+#include <optional>
 
 class QLabel;
 class QWidget;
@@ -52,18 +55,41 @@ private:
     std::function<void(const QWidget&)> m_hovered;
 };
 
-/// Keeps a control within its parent when that shrinks: what the user dropped near an edge can still be picked up.
-class StayInside final : public QObject {
+/// A control that floats over its parent, at the top right until the user drops it elsewhere. A parent that shrinks
+/// pushes it back inside, so that it can be picked up again; shown again it lies where it was dropped.
+class Floating final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the control.
-    explicit StayInside(QWidget& control);
+    /// Belongs to the control, which keeps as far from the right edge as it is from the top now.
+    explicit Floating(QWidget& control);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] QPoint topRight() const;
+    void keepInside(QPoint wanted, QSize roomBefore);
+    void place(QPoint place);
+
     QWidget& m_control;
+    int m_margin;
+    QPoint m_placed; ///< by this: any other place is the user's
+    std::optional<QPoint> m_dropped;
+    QSize m_roomAtDrop;
+};
+
+/// A part of a frame that lies elsewhere: it shows while the frame does.
+class ShowsWith final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the part.
+    ShowsWith(QWidget& part, QWidget& frame);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget& m_part;
 };
 
 /// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc

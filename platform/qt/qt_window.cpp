@@ -110,7 +110,7 @@ void QtWindow::connectControls()
         } else if (object->property("reportsHovering").toBool()) {
             auto& frame = dynamic_cast<QWidget&>(*object);
             new Hovering(frame, [this](const QWidget& widget) { reportHover(widget); });
-            new StayInside(frame);
+            new Floating(frame);
         } else if (object->property("isClickable").toBool()) {
             new LabelClick(dynamic_cast<QLabel&>(*object),
                            [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });

@@ -9,14 +9,24 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRegion>
+#include <QStyle>
 #include <QToolBar>
+#include <algorithm>
+#include <tuple>
 
 namespace {
+
+// Left is left in every language: the canvas is never mirrored.
+constexpr Qt::Alignment corners[] = {
+    Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignBottom, Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignBottom,
+    Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignTop, Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignTop};
 
 QIcon toolPicture(Name key)
 {
@@ -216,15 +226,31 @@ bool QtWindow::isOnCanvas(double x, double y) const
     return x >= 0 && y >= 0 && x < m_canvas->width() * twipsPerPixel && y < m_canvas->height() * twipsPerPixel;
 }
 
-void QtWindow::placeAwayFrom(Name control, double x, double y)
+void QtWindow::placeAwayFrom(Name control, double x, double y, Name other)
 {
     auto& widget = find<QWidget>(control);
-    // Left is left in every language: the canvas is never mirrored.
-    const Qt::Alignment side =
-        Qt::AlignAbsolute | (x / twipsPerPixel < m_canvas->width() / 2.0 ? Qt::AlignRight : Qt::AlignLeft);
-    const Qt::Alignment end = y / twipsPerPixel < m_canvas->height() / 2.0 ? Qt::AlignBottom : Qt::AlignTop;
+    if (widget.isHidden()) {
+        return;
+    }
+    QRegion hidden; // by the other windows
+    for (const auto* const dialog : m_form.findChildren<QDialog*>(Qt::FindDirectChildrenOnly)) {
+        if (dialog->isVisible()) {
+            hidden += dialog->frameGeometry().translated(-m_canvas->mapToGlobal(QPoint()));
+        }
+    }
+    const QPoint place(toPixels(x), toPixels(y));
+    const auto& neighbour = find<QWidget>(other);
+    const QRect taken = neighbour.isHidden() ? QRect() : neighbour.geometry();
+    const QSize size = widget.sizeHint();
+    const auto badness = [&](Qt::Alignment corner) {
+        const QRect there = QStyle::alignedRect(Qt::LeftToRight, corner, size, m_canvas->rect());
+        const QPoint away = there.center() - place;
+        return std::tuple(there.contains(place), hidden.intersects(there), there.intersects(taken),
+                          -QPoint::dotProduct(away, away));
+    };
+    const Qt::Alignment best = *std::ranges::min_element(corners, {}, badness);
     QLayout& layout = *widget.parentWidget()->layout();
-    if (layout.itemAt(layout.indexOf(&widget))->alignment() != (side | end)) {
-        layout.setAlignment(&widget, side | end);
+    if (layout.itemAt(layout.indexOf(&widget))->alignment() != best) {
+        layout.setAlignment(&widget, best);
     }
 }

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QToolBar>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -135,34 +136,73 @@ TEST(QtWindow, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
     EXPECT_EQ(main.noted(), "hover Frame20\nhover Frame20\n");
 }
 
-TEST(QtWindow, PanelFitsIntoTheSmallestWindowInTheCornerFarthestFromThePen)
+TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
 {
     MainWindow main;
     main.window->show({control::panel, control::sup, control::bat, control::Text11});
-    main.view.resize(1, 1);
-    QCoreApplication::processEvents();
-    const QRect canvas = main.form.Canvas->geometry();
-    for (const auto& [x, y, corner] : {std::tuple{1500, 1500, canvas.bottomRight()},
-                                       {90000, 1500, canvas.bottomLeft()},
-                                       {1500, 90000, canvas.topRight()},
-                                       {90000, 90000, canvas.topLeft()}}) {
-        main.window->placeAwayFrom(control::panel, x, y);
+    struct Case {
+        QSize window;
+        QPoint pen;
+        bool toolbox;
+        Qt::Alignment corner;
+    };
+    const Case cases[] = {{{1, 1}, {100, 100}, false, Qt::AlignBottom | Qt::AlignRight},
+                          {{1, 1}, {6000, 100}, false, Qt::AlignBottom | Qt::AlignLeft},
+                          {{1, 1}, {100, 6000}, false, Qt::AlignTop | Qt::AlignRight},
+                          {{1, 1}, {6000, 6000}, false, Qt::AlignTop | Qt::AlignLeft},
+                          {{784, 552}, {106, 100}, true, Qt::AlignBottom | Qt::AlignLeft},
+                          {{784, 552}, {50, 500}, true, Qt::AlignTop | Qt::AlignLeft},
+                          {{1000, 700}, {106, 100}, true, Qt::AlignBottom | Qt::AlignRight}};
+    for (const auto& [size, pen, toolbox, corner] : cases) {
+        SCOPED_TRACE(std::to_string(pen.x()) + ' ' + std::to_string(pen.y()));
+        main.view.resize(size);
+        main.window->setVisible(control::Frame2, toolbox);
+        main.window->placeAwayFrom(control::panel, pen.x() * twipsPerPixel, pen.y() * twipsPerPixel, control::Frame2);
         QCoreApplication::processEvents();
-        EXPECT_TRUE(canvas.contains(main.form.panel->geometry()));
-        EXPECT_TRUE(main.form.panel->geometry().contains(corner)) << x << ' ' << y;
+        const QRect canvas = main.form.Canvas->geometry();
+        const QRect panel = main.form.panel->geometry();
+        EXPECT_EQ(panel, QStyle::alignedRect(Qt::LeftToRight, corner, panel.size(), canvas));
+        EXPECT_TRUE(canvas.contains(panel));
     }
 }
 
-TEST(QtWindow, ToolboxStaysWithinReachWhenTheWindowShrinks)
+TEST(QtWindow, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
 {
     MainWindow main;
     main.window->show({control::Frame2});
-    const QPoint place = main.form.Frame2->pos();
-    for (const auto& [size, moves] : {std::pair{QSize(1000, 700), false}, {QSize(700, 600), true}}) {
-        main.view.resize(size);
+    const auto& toolbox = *main.form.Frame2;
+    const auto place = [&] { return QPoint(main.form.Canvas->width(), 0) - toolbox.geometry().topRight(); };
+    const auto resize = [&](int width, int height) {
+        main.view.resize(width, height);
         QCoreApplication::processEvents();
-        EXPECT_TRUE(main.form.Canvas->rect().contains(main.form.Frame2->geometry()));
-        EXPECT_EQ(main.form.Frame2->pos() != place, moves);
+    };
+    const QPoint atStart = place();
+    for (const int width : {1000, 1200, 700}) {
+        resize(width, 700);
+        EXPECT_EQ(place(), atStart) << width;
+    }
+    const auto drop = [&](QPoint at) {
+        main.window->setLeft(control::Frame2, at.x() * twipsPerPixel);
+        main.window->setTop(control::Frame2, at.y() * twipsPerPixel);
+    };
+    resize(1000, 700);
+    const QPoint beyondTheEdge(900, 20);
+    drop(beyondTheEdge);
+    resize(1050, 750);
+    EXPECT_EQ(toolbox.pos(), beyondTheEdge);
+    main.window->setVisible(control::Frame2, false);
+    for (const int width : {600, 1000}) { // nobody sees it there
+        resize(width, 700);
+    }
+    main.window->setVisible(control::Frame2, true);
+    EXPECT_EQ(toolbox.pos(), beyondTheEdge);
+    for (const bool shown : {true, false}) {
+        resize(1000, 700);
+        drop(beyondTheEdge);
+        main.window->setVisible(control::Frame2, shown);
+        resize(600, 700);
+        main.window->setVisible(control::Frame2, true);
+        EXPECT_TRUE(main.form.Canvas->rect().contains(toolbox.geometry()));
     }
 }
 
@@ -174,7 +214,7 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
     main.window->enable({Text11, Command3, Command7, Command8});
     main.form.Canvas->setFocus();
     for (const QString& next :
-         QString("Option3 Option2 Command8 Option4 Option5 Command7 Text11 Command3 Image1 Image2 Image3 Image4 Image5 "
+         QString("Option3 Option2 Option4 Option5 Text11 Command3 Command8 Command7 Image1 Image2 Image3 Image4 Image5 "
                  "Image15 Image16 Image17 Image18 Image19 Image20 Image7 Canvas")
              .split(' ')) {
         QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);

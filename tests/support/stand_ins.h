@@ -242,7 +242,7 @@ public:
     void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
-    void placeAwayFrom(Name control, double x, double y) override { at(control).awayFrom = {x, y}; }
+    void placeAwayFrom(Name control, double x, double y, Name /*other*/) override { at(control).awayFrom = {x, y}; }
     [[nodiscard]] bool isOnCanvas(double x, double y) const override
     {
         return x >= 0 && y >= 0 && x < canvas.x && y < canvas.y;
