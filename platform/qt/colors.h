@@ -3,11 +3,13 @@
 #include "platform/surface.h"
 
 #include <QColor>
+#include <QPalette>
 
 // The core's colours have red in the lowest byte, Qt's have blue there.
 
 [[nodiscard]] QColor toQColor(Color color);
 [[nodiscard]] Color toColor(const QColor& color);
 
-/// Black or white, whichever has at least 4.5 to 1 on this ground, the style's shading of it included.
-[[nodiscard]] QColor readableOn(const QColor& ground);
+/// All colours of a control that lies on this ground: its texts have at least 4.5 to 1, and its fields and buttons
+/// stand out, whatever the desktop's colours are.
+[[nodiscard]] QPalette paletteOn(const QColor& ground);

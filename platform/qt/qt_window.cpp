@@ -99,6 +99,8 @@ void QtWindow::connectControls()
     for (const auto& [name, object] : m_named) {
         if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
             if (m_canvas != nullptr) {
+        } else if (const QVariant frame = object->property("showsWith"); frame.isValid()) {
+            new ShowsWith(dynamic_cast<QWidget&>(*object), find<QWidget>(frame.toString().toStdString()));
                 new KeyDetour(*button, *m_canvas);
             }
             connect(button, &QAbstractButton::clicked, this,

@@ -181,15 +181,12 @@ int QtWindow::value(Name control) const
 
 void QtWindow::setBackColor(Name control, Color color)
 {
-    const QColor ground = toQColor(color);
     auto& widget = find<QWidget>(control);
-    QPalette palette;
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, readableOn(ground));
-    // The title of a group is painted as what is typed in a box, but on the group's ground. Boxes do not follow, nor do
-    // the marks of buttons: they lie on a ground of their own.
-    const bool isGroup = qobject_cast<const QGroupBox*>(&widget) != nullptr;
-    palette.setColor(QPalette::Text, isGroup ? readableOn(ground) : palette.color(QPalette::Text));
+    QPalette palette = paletteOn(toQColor(color));
+    // The title of a group is painted as what is typed in a box, but on the group's ground.
+    if (qobject_cast<const QGroupBox*>(&widget) != nullptr) {
+        palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+    }
     widget.setPalette(palette);
 }
 

@@ -103,6 +103,7 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
             window->setEnabled(name, true);
         }
         window->setText(Text11, "10");
+        window->setVisible(Label28, false); // the other prompt lies over it
         window->setText(sb, "Press F1 for Help");
         window->setBackColor(Frame2, 0xE0E0E0);
         QCoreApplication::processEvents();
@@ -119,6 +120,31 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
 };
 
 /// A desktop's colours. Its text has no soft edges, so that each pixel of it has the text's colour.
+/// All four sides of a frame stand out from what lies in it.
+void expectBordered(QWidget& frame)
+{
+    const QImage picture = frame.grab().toImage();
+    const QRect edge = picture.rect();
+    const QPoint middle = edge.center();
+    for (const QPoint side : {QPoint(0, middle.y()), QPoint(edge.right(), middle.y()), QPoint(middle.x(), 0),
+                              QPoint(middle.x(), edge.bottom())}) {
+        EXPECT_GE(contrast(picture.pixel(side), picture.pixel(3, 3)), 4.5) << side.x() << ' ' << side.y();
+    }
+}
+
+/// The middle of an option's circle is light, and dark once it is chosen.
+void expectMarkOnlyWhenChosen(QRadioButton& option)
+{
+    const auto middle = [&] { return option.grab().toImage().pixel(QPoint(8, option.height() / 2)); };
+    option.setChecked(true);
+    const QRgb chosen = middle();
+    option.setAutoExclusive(false);
+    option.setChecked(false);
+    EXPECT_GE(luminance(middle()), 0.5);
+    EXPECT_GE(contrast(middle(), chosen), 4.5);
+    option.setAutoExclusive(true);
+}
+
 void useDesktop(const QColor& ground, const QColor& text)
 {
     QPalette palette = QApplication::palette();
@@ -146,7 +172,7 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
         useDesktop(ground, text);
         const FullWindow main;
         expectControls(main.view, formControls);
-        EXPECT_EQ(expectReadable(main.view), 25);
+        EXPECT_EQ(expectReadable(main.view), 24);
         const Shown<QDialog, Ui::Form2> help;
         help.window->setHeight(form2::collapsed);
         EXPECT_LT(help.form.hints->geometry().bottom(), help.view.height());
@@ -165,9 +191,9 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
     }
 }
 
-TEST(Windows, AreReadableOnEveryColourOfTheCanvas)
+TEST(Windows, AreReadableAndBorderedOnEveryColourOfTheCanvas)
 {
-    for (const auto& [ground, text] : {desktops[0], desktops[1]}) {
+    for (const auto& [ground, text] : {desktops[0], desktops[1], desktops[2]}) {
         useDesktop(ground, text);
         FullWindow main;
         std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
@@ -179,6 +205,9 @@ TEST(Windows, AreReadableOnEveryColourOfTheCanvas)
             main.colorCanvas(color);
             expectReadable(main.view);
         }
+            expectBordered(*main.form.panel);
+            expectBordered(*main.form.Frame2);
+            expectMarkOnlyWhenChosen(*main.form.Option3);
     }
 }
 
@@ -207,6 +236,53 @@ TEST(Windows, StatusBarHasRoomForEveryTextAndOnlyTheHintGivesWay)
             const auto& label = *main.view.findChild<QLabel*>(QString::fromLatin1(panel.data()));
             EXPECT_GE(label.width(), *text == 0 ? 0 : label.fontMetrics().horizontalAdvance(text) + 8) << text;
         }
+    }
+}
+
+TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktop)
+{
+    useDesktop(desktops[0].first, desktops[0].second);
+    const QFont before = QApplication::font();
+    for (const int points : {9, 11, 15, 24}) {
+        SCOPED_TRACE(points);
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        const Shown<QDialog, Ui::Form2> help;
+        help.window->setHeight(form2::open);
+        QCoreApplication::processEvents();
+        expectWholeAndReadable(help.view, helpControls, 44);
+        EXPECT_EQ(help.view.height(), 337);
+        EXPECT_LE(help.view.width(), 1264);
+        EXPECT_EQ(QFontInfo(help.form.Label5->font()).pixelSize(), std::min(QFontInfo(font).pixelSize(), 20));
+        Shown<QMainWindow, Ui::Form1> main;
+        main.window->hideWindow();
+        main.window->addMenuItem(0, {"file", "  &File  "});
+        main.window->addMenuItem(0, {"ec", " &Electrical Components "});
+        main.view.resize(1, 1);
+        main.window->showWindow();
+        EXPECT_GE(main.view.width(), main.form.menuBar->sizeHint().width());
+    }
+    QApplication::setFont(before);
+}
+
+TEST(Windows, HelpLiesBesideTheMainOneOrAtTheEndOfItsCanvas)
+{
+    constexpr QSize help(788, 238);
+    struct Case {
+        QSize screen;
+        QRect window;
+        QPoint place;
+    };
+    const Case cases[] = {
+        {{1280, 1024}, {0, 0, 1004, 724}, {0, 724}},        {{1280, 1024}, {0, 300, 1004, 724}, {0, 62}},
+        {{1920, 1080}, {0, 180, 1004, 724}, {1004, 180}},   {{1920, 1080}, {916, 356, 1004, 724}, {128, 356}},
+        {{2560, 1080}, {700, 180, 1004, 724}, {1704, 180}}, {{1366, 768}, {300, 20, 1004, 724}, {300, 482}},
+        {{1024, 768}, {0, 0, 1004, 724}, {0, 462}},         {{800, 600}, {4, 40, 784, 560}, {4, 338}}};
+    for (const auto& [screen, window, place] : cases) {
+        const QRect canvas = window.adjusted(2, 90, -2, -24);
+        const QPoint found = placeBeside(help, window, canvas, QRect({0, 0}, screen));
+        EXPECT_EQ(found, place) << found.x() << ' ' << found.y() << " on " << screen.width() << 'x' << screen.height();
     }
 }
 
