@@ -1,6 +1,5 @@
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
-#include "platform/qt/fit_screen.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
@@ -59,7 +58,6 @@ int main(int argc, char* argv[])
     QMainWindow mainView;
     Ui::Form1 form;
     form.setupUi(&mainView);
-    resizeOnScreen(mainView, mainView.size());
     QDialog helpView(&mainView);
     Ui::Form2().setupUi(&helpView);
     QDialog aboutView(&mainView);

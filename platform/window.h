@@ -41,12 +41,14 @@ public:
     virtual void setCaption(std::string_view title) = 0;
     /// Shows it beside the others, which stay usable, or brings it to the front.
     virtual void showWindow() = 0;
-    /// Shows it in front of the others, but leaves the keyboard with the window that has it.
+    /// Shows it beside the window that owns it, or over the lower part of that one's canvas where the screen is too
+    /// small, and leaves the keyboard with the window that has it.
     virtual void showWithoutKeyboard() = 0;
     virtual void hideWindow() = 0;
     /// Closes it for good and ends its timers.
     virtual void unload() = 0;
-    /// The height inside the frame, in twips: the one last set, whatever the screen's pixels make of it.
+    /// The height inside the frame, in twips: the one last set, whatever the screen's pixels make of it. The width
+    /// becomes what the texts ask for.
     virtual void setHeight(int twips) = 0;
     [[nodiscard]] virtual int height() const = 0;
     /// Prints the window's image on the default printer. Throws printerError.

@@ -1,7 +1,9 @@
 #include "platform/qt/qt_window.h"
 
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/fit_screen.h"
 #include "platform/qt/form_events.h"
+#include "platform/qt/form_properties.h"
 #include "platform/qt/panel_keys.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/text.h"
@@ -11,8 +13,12 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -29,36 +35,6 @@ bool liesIn(const QWidget& window, const QObject& object)
         up = up->parent();
     }
     return qobject_cast<const QWidget*>(up)->window() == &window;
-}
-
-/// What the form says of a control in properties of our own.
-void applyFormProperties(QWidget& control)
-{
-    // A label keeps the size of the widest text it may show, which is its text in the form: a new text then repaints
-    // the label and lays out nothing.
-    if (control.property("fixedToText").toBool()) {
-        control.ensurePolished();
-        control.setFixedSize(control.sizeHint());
-    }
-    // The same where a text may ask for more, or where the window may be too narrow.
-    if (control.property("atLeastItsText").toBool()) {
-        control.ensurePolished();
-        control.setMinimumSize(control.sizeHint());
-    }
-    if (control.property("atMostItsText").toBool()) {
-        control.ensurePolished();
-        control.setMaximumSize(control.sizeHint());
-    }
-    // It lies on the canvas, which gets the mouse all the same.
-    if (control.property("mouseGoesThrough").toBool()) {
-        control.setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-    // The controls around it do not move when it is shown and hidden.
-    if (control.property("keepsItsPlace").toBool()) {
-        QSizePolicy policy = control.sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        control.setSizePolicy(policy);
-    }
 }
 
 } // namespace
@@ -99,8 +75,6 @@ void QtWindow::connectControls()
     for (const auto& [name, object] : m_named) {
         if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
             if (m_canvas != nullptr) {
-        } else if (const QVariant frame = object->property("showsWith"); frame.isValid()) {
-            new ShowsWith(dynamic_cast<QWidget&>(*object), find<QWidget>(frame.toString().toStdString()));
                 new KeyDetour(*button, *m_canvas);
             }
             connect(button, &QAbstractButton::clicked, this,
@@ -116,6 +90,8 @@ void QtWindow::connectControls()
         } else if (object->property("isClickable").toBool()) {
             new LabelClick(dynamic_cast<QLabel&>(*object),
                            [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
+        } else if (const QVariant frame = object->property("showsWith"); frame.isValid()) {
+            new ShowsWith(dynamic_cast<QWidget&>(*object), find<QWidget>(frame.toString().toStdString()));
         } else if (object->property("isPanel").toBool()) {
             new PanelKeys(dynamic_cast<QWidget&>(*object), [this, name = Name(name)] {
                 report({.kind = Event::Kind::keyPress, .name = name, .code = character::escape});
@@ -146,6 +122,9 @@ void QtWindow::setCaption(std::string_view title)
 
 void QtWindow::showWindow()
 {
+    if (const auto* const main = qobject_cast<QMainWindow*>(&m_form); main != nullptr && main->isHidden()) {
+        resizeOnScreen(m_form, m_form.size().expandedTo(main->menuBar()->sizeHint()));
+    }
     m_form.show();
     m_form.raise();
     m_form.activateWindow();
@@ -153,6 +132,15 @@ void QtWindow::showWindow()
 
 void QtWindow::showWithoutKeyboard()
 {
+    const QWidget& owner = *m_form.parentWidget();
+    if (!owner.windowHandle()->isExposed()) {
+        owner.windowHandle()->installEventFilter(this); // the window manager has not placed it yet
+        return;
+    }
+    const auto& canvas = *owner.findChild<CanvasWidget*>();
+    const QSize frame = owner.frameGeometry().size() - owner.size();
+    m_form.move(placeBeside(m_form.size() + frame, owner.frameGeometry(), {canvas.mapToGlobal(QPoint()), canvas.size()},
+                            owner.screen()->availableGeometry()));
     m_form.setAttribute(Qt::WA_ShowWithoutActivating, true);
     m_form.show();
     m_form.setAttribute(Qt::WA_ShowWithoutActivating, false);
@@ -179,7 +167,7 @@ void QtWindow::unload()
 void QtWindow::setHeight(int twips)
 {
     m_height = twips;
-    m_form.setFixedHeight(toPixels(twips));
+    m_form.setFixedSize(m_form.sizeHint().width(), toPixels(twips));
 }
 
 void QtWindow::printForm()
@@ -187,6 +175,7 @@ void QtWindow::printForm()
     printPicture(m_canvas != nullptr ? pictureOfCanvas() : pictureOfForm(),
                  m_form.windowTitle().replace("[*][*]", "[*]"));
 }
+
 /// The window as it is without the keyboard: nothing on paper has the focus.
 QImage QtWindow::pictureOfForm()
 {
@@ -199,7 +188,6 @@ QImage QtWindow::pictureOfForm()
     focused->setFocus();
     return picture;
 }
-
 
 /// The canvas with what lies on it, but without what only guides the hand.
 QImage QtWindow::pictureOfCanvas()
@@ -248,6 +236,15 @@ void QtWindow::popUp(Name menu, Point place)
     const QPoint inside(std::clamp(toPixels(place.x), canvas.left(), canvas.right()),
                         std::clamp(toPixels(place.y), canvas.top(), canvas.bottom()));
     find<QAction>(menu).menu()->popup(m_canvas->mapToGlobal(inside));
+}
+
+bool QtWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Expose) {
+        watched->removeEventFilter(this);
+        showWithoutKeyboard();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void QtWindow::setInterval(Name timer, int milliseconds)

@@ -57,6 +57,8 @@ public:
     [[nodiscard]] bool isOnCanvas(double x, double y) const override;
     void setInterval(Name timer, int milliseconds) override;
 
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     [[nodiscard]] static int toPixels(double twips);
     void connectControls();

@@ -30,6 +30,7 @@ TEST(Program, SplashShowsProgressAndMakesWayForTheMainWindowEvenIfItIsClosed)
 TEST(Program, HelpAtStartLeavesTheKeyboardAndLaterSlidesOpenByKeyAndMouse)
 {
     Program program(Program::Stage::help);
+    const QRect toolbox = program.onCanvas(program.placeOf("panel", "ToolBox"));
     program.keys({"Right", "Right", "Right"});
     waitUntil("wire", [&] { return program.inked(114, 100); });
 
@@ -39,6 +40,8 @@ TEST(Program, HelpAtStartLeavesTheKeyboardAndLaterSlidesOpenByKeyAndMouse)
     program.keys({"F1"});
     program.waitForWindow("Help");
     showsKeys(false);
+    const QRect help = program.onCanvas(program.placeOf("dialog", "Help"));
+    EXPECT_FALSE(help.intersects(toolbox) || help.intersects({106, 60, 600, 80})) << help.x() << ' ' << help.y();
     program.keys({"space"});
     showsKeys(true);
     program.hoverOver("label", "Show Shortcut Keys");

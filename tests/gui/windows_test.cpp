@@ -1,4 +1,5 @@
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/fit_screen.h"
 #include "shell/product_picture.h"
 #include "tests/gui/pixels.h"
 #include "tests/gui/shown.h"
@@ -102,8 +103,8 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
             window->setVisible(name, true);
             window->setEnabled(name, true);
         }
-        window->setText(Text11, "10");
         window->setVisible(Label28, false); // the other prompt lies over it
+        window->setText(Text11, "10");
         window->setText(sb, "Press F1 for Help");
         window->setBackColor(Frame2, 0xE0E0E0);
         QCoreApplication::processEvents();
@@ -119,7 +120,6 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     }
 };
 
-/// A desktop's colours. Its text has no soft edges, so that each pixel of it has the text's colour.
 /// All four sides of a frame stand out from what lies in it.
 void expectBordered(QWidget& frame)
 {
@@ -145,6 +145,7 @@ void expectMarkOnlyWhenChosen(QRadioButton& option)
     option.setAutoExclusive(true);
 }
 
+/// A desktop's colours. Its text has no soft edges, so that each pixel of it has the text's colour.
 void useDesktop(const QColor& ground, const QColor& text)
 {
     QPalette palette = QApplication::palette();
@@ -176,7 +177,7 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
         const Shown<QDialog, Ui::Form2> help;
         help.window->setHeight(form2::collapsed);
         EXPECT_LT(help.form.hints->geometry().bottom(), help.view.height());
-        EXPECT_GE(help.form.Frame2->geometry().top(), help.view.height());
+        EXPECT_GE(help.form.Frame2->mapTo(&help.view, QPoint()).y(), help.view.height());
         help.window->setHeight(form2::open);
         expectWholeAndReadable(help.view, helpControls, 44);
         const Shown<QDialog, Ui::Form3> about;
@@ -204,10 +205,10 @@ TEST(Windows, AreReadableAndBorderedOnEveryColourOfTheCanvas)
             SCOPED_TRACE(QColor(ground).name().toStdString() + " " + std::to_string(color));
             main.colorCanvas(color);
             expectReadable(main.view);
-        }
             expectBordered(*main.form.panel);
             expectBordered(*main.form.Frame2);
             expectMarkOnlyWhenChosen(*main.form.Option3);
+        }
     }
 }
 

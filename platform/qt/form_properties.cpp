@@ -1,0 +1,41 @@
+#include "platform/qt/form_properties.h"
+
+#include <QFontInfo>
+#include <QVariant>
+#include <QWidget>
+
+void applyFormProperties(QWidget& control)
+{
+    // It follows the desktop's font as far as there is room.
+    if (const int pixels = control.property("largestFont").toInt();
+        pixels > 0 && QFontInfo(control.font()).pixelSize() > pixels) {
+        QFont font = control.font();
+        font.setPixelSize(pixels);
+        control.setFont(font);
+    }
+    // A label keeps the size of the widest text it may show, which is its text in the form: a new text then repaints
+    // the label and lays out nothing.
+    if (control.property("fixedToText").toBool()) {
+        control.ensurePolished();
+        control.setFixedSize(control.sizeHint());
+    }
+    // The same where a text may ask for more, or where the window may be too narrow.
+    if (control.property("atLeastItsText").toBool()) {
+        control.ensurePolished();
+        control.setMinimumSize(control.sizeHint());
+    }
+    if (control.property("atMostItsText").toBool()) {
+        control.ensurePolished();
+        control.setMaximumSize(control.sizeHint());
+    }
+    // It lies on the canvas, which gets the mouse all the same.
+    if (control.property("mouseGoesThrough").toBool()) {
+        control.setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    // The controls around it do not move when it is shown and hidden.
+    if (control.property("keepsItsPlace").toBool()) {
+        QSizePolicy policy = control.sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        control.setSizePolicy(policy);
+    }
+}
