@@ -143,7 +143,7 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
     struct Case {
         QSize window;
         QPoint pen;
-        bool toolbox;
+        bool toolbox = false;
         Qt::Alignment corner;
     };
     const Case cases[] = {{{1, 1}, {100, 100}, false, Qt::AlignBottom | Qt::AlignRight},

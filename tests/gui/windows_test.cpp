@@ -135,7 +135,10 @@ void expectBordered(QWidget& frame)
 /// The middle of an option's circle is light, and dark once it is chosen.
 void expectMarkOnlyWhenChosen(QRadioButton& option)
 {
-    const auto middle = [&] { return option.grab().toImage().pixel(QPoint(8, option.height() / 2)); };
+    const auto middle = [&] {
+        const QImage picture = option.grab().toImage();
+        return picture.pixel(QPoint(8 * picture.height() / option.height(), picture.height() / 2));
+    };
     option.setChecked(true);
     const QRgb chosen = middle();
     option.setAutoExclusive(false);
