@@ -21,7 +21,7 @@ void letTabReachOptions(const QWidget& button)
     }
 }
 
-/// With a button held a widget gets moves beside it too, and those that its children leave alone.
+/// With a button held a widget also gets moves outside it, and those that its children ignore.
 bool isOver(const QWidget& widget, QPoint place)
 {
     return widget.rect().contains(place) && widget.childAt(place) == nullptr;

@@ -30,10 +30,10 @@ bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
     if (m_held != Qt::NoButton) {
         // Whatever tells first that a button is up, release or not. While a box is open and the mouse beside it, that
         // is the end of the box.
-        if (const auto* const pointing = dynamic_cast<const QSinglePointEvent*>(event)) {
-            release(pointing->globalPosition());
-        } else if (event->type() == QEvent::WindowUnblocked) {
+        if (event->type() == QEvent::WindowUnblocked) {
             release(QCursor::pos());
+        } else if (const auto* const pointing = dynamic_cast<const QSinglePointEvent*>(event)) {
+            release(pointing->globalPosition());
         }
     }
     if (onlyClosesAMenu(*watched, *event)) {

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Keeps the keyboard where it is when Alt is let go or Esc closes a menu. In the bar, where else it would be, arrow
-/// keys draw nothing, and most styles do not even show that it is there.
+/// Leaves the keyboard alone when Alt is tapped or Esc closes a menu. It would go to the bar, where arrow keys draw
+/// nothing, and most styles do not show that it is there.
 class ClosedBarTakesNoKeys final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

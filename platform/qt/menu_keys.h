@@ -6,8 +6,8 @@
 class QMenuBar;
 class QWidget;
 
-/// The keys that lead to a window's menus: F10 to the menu bar, Menu and Shift+F10 to the popup menu of what has the
-/// keyboard, which is the window's own where that has none.
+/// The keys for a window's menus. F10 opens the first one of the menu bar. Menu and Shift+F10 open the popup menu of
+/// the control that has the keyboard, or ask for the window's own if that control has none.
 class MenuKeys final : public QObject {
     Q_OBJECT
 

@@ -86,8 +86,8 @@ void QtWindow::setVisible(Name control, bool visible)
     }
 }
 
-/// Before a control goes away that has the keyboard: the toolkit would lead it through the next ones in its order, as
-/// if by Tab, and a screen reader would speak each of them.
+/// For a control that is about to go away. The toolkit would pass its focus on to the next controls, as Tab does, and a
+/// screen reader would speak each of them.
 void QtWindow::takeKeyboardFrom(const QWidget& control)
 {
     const QWidget* const keyboard = m_form.focusWidget();

@@ -163,9 +163,9 @@ void StandInWindow::printForm()
     }
 }
 
-void StandInWindow::popUp(Name menu, Point at)
+void StandInWindow::popUp(Name menu, Point where)
 {
-    poppedUp = std::string(menu) + " " + ::place(at.x, at.y);
+    poppedUp = std::string(menu) + " " + place(where.x, where.y);
 }
 
 void StandInWindow::addMenuItem(int depth, const MenuItem& item)

@@ -221,7 +221,7 @@ public:
     }
     void setSwatch(Name key, Color color) override { at(key).backColor = color; }
     void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
-    void popUp(Name menu, Point place) override;
+    void popUp(Name menu, Point where) override;
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
     [[nodiscard]] bool checked(Name item) const override { return at(item).checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
