@@ -5,7 +5,6 @@
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_pictures.h"
 #include "platform/qt/qt_window.h"
-#include "platform/quiet.h"
 #include "shell/events.h"
 #include "shell/main_window.h"
 #include "ui_Form1.h"
@@ -60,13 +59,13 @@ void pencilMotion(benchmark::State& state)
 {
     Program program;
     deliver(program.form1, {.kind = Event::Kind::click, .name = "pencil1"});
-    deliver(program.form1, {.kind = Event::Kind::mouseDown, .code = button::left, .x = 1500, .y = 1500});
+    deliver(program.form1, {.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
     int i = 0;
     for (auto _ : state) {
         ++i;
         const auto x = static_cast<float>(1500 + i % 200 * 45);
         const auto y = static_cast<float>(1500 + i % 2 * 105);
-        deliver(program.form1, {.kind = Event::Kind::mouseMove, .code = button::left, .x = x, .y = y});
+        deliver(program.form1, {.kind = Event::Kind::mouseMove, .code = button::left, .place = {x, y}});
         finish(state);
     }
 }

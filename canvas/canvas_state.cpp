@@ -32,7 +32,7 @@ void load(Form1& form)
     form.toolboxFollow = 0;
     form.controls.setText(control::sb, " Press F1 for Help ");
     // Before the pen gets its place: the first free-hand line starts at (0, 0), and after a reset at the old pen.
-    form.surface.setCurrent(static_cast<float>(form.x), static_cast<float>(form.y));
+    form.surface.setCurrent(pointBeside(form));
     form.x = 1600;
     form.y = 1500;
     form.savedMark = 100;

@@ -85,12 +85,22 @@ enum Confirm : std::size_t {
     confirmCount
 };
 
+/// Where the next wire or symbol starts, in twips, and where it goes.
+struct Pen {
+    double x = 0;
+    double y = 0;
+    int heading = 0; ///< a code of namespace heading, or another number, for which nothing is drawn
+};
+
+/// The place beside a pen that is so many twips to the right and down. Only the result is rounded to single precision.
+inline Point pointBeside(const Pen& pen, double dx = 0, double dy = 0)
+{
+    return {static_cast<float>(pen.x + dx), static_cast<float>(pen.y + dy)};
+}
+
 /// Everything the program knows besides the ink. One plain field per fact, 0 until something sets it; switches are
 /// 1 or 0; lengths are twips.
-struct CanvasState {
-    double x = 0; ///< the pen: where the next wire or symbol starts
-    double y = 0;
-    int heading = 0;
+struct CanvasState : Pen {
     int penMoved = 0; ///< 1 once an arrow key was pressed
 
     int eraseMode = 0;

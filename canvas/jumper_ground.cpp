@@ -29,23 +29,35 @@ constexpr Bar groundBars[] = {{200, 0}, {125, 55}, {75, 100}, {25, 150}};
 
 } // namespace
 
+bool drawJumper(Surface& surface, Pen& pen)
+{
+    const auto* const hop = std::ranges::find(hops, pen.heading, &Hop::heading);
+    if (hop == std::end(hops)) {
+        return false;
+    }
+    pen.x += hop->halfX;
+    pen.y += hop->halfY;
+    surface.arc(pointBeside(pen), hopRadius, hop->start, hop->end);
+    pen.x += hop->halfX;
+    pen.y += hop->halfY;
+    return true;
+}
+
+void drawGround(Surface& surface, const Pen& pen)
+{
+    for (const Bar& bar : groundBars) {
+        surface.line(pointBeside(pen, -bar.halfWidth, bar.below), pointBeside(pen, bar.halfWidth, bar.below));
+    }
+}
+
 void jumper(Form1& form)
 {
-    const auto* const hop = std::ranges::find(hops, form.heading, &Hop::heading);
-    if (hop == std::end(hops)) {
-        return notify(form, noDirection);
+    if (!drawJumper(form.surface, form)) {
+        notify(form, noDirection);
     }
-    form.x += hop->halfX;
-    form.y += hop->halfY;
-    form.surface.arc(static_cast<float>(form.x), static_cast<float>(form.y), hopRadius, hop->start, hop->end);
-    form.x += hop->halfX;
-    form.y += hop->halfY;
 }
 
 void ground(Form1& form)
 {
-    for (const Bar& bar : groundBars) {
-        const auto y = static_cast<float>(form.y + bar.below);
-        form.surface.line(static_cast<float>(form.x - bar.halfWidth), y, static_cast<float>(form.x + bar.halfWidth), y);
-    }
+    drawGround(form.surface, form);
 }

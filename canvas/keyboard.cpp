@@ -35,18 +35,9 @@ constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', s
 constexpr int dotSpacing = 10;
 constexpr float dotRadius = 10;
 
-void layWire(const Form1& form, const ArrowKey& arrow)
-{
-    for (int along = 0; along < stepLength; along += dotSpacing) {
-        form.surface.circle(static_cast<float>(form.x + arrow.dx * along),
-                            static_cast<float>(form.y + arrow.dy * along), dotRadius);
-    }
-}
-
 bool wireAhead(Form1& form, const ArrowKey& arrow)
 {
-    const auto found = form.surface.point(static_cast<float>(form.x + arrow.dx * arrow.probe),
-                                          static_cast<float>(form.y + arrow.dy * arrow.probe));
+    const auto found = form.surface.point(pointBeside(form, arrow.dx * arrow.probe, arrow.dy * arrow.probe));
     if (found) {
         form.probeColor = *found;
     }
@@ -68,13 +59,24 @@ void arrowKey(Form1& form, const ArrowKey& arrow)
             jumper(form);
         }
     }
-    layWire(form, arrow);
-    form.x += arrow.dx * stepLength;
-    form.y += arrow.dy * stepLength;
+    layStep(form.surface, form);
     placeMarker(form, form.x + arrow.markerOffset);
 }
 
 } // namespace
+
+void layStep(Surface& surface, Pen& pen)
+{
+    const auto* const arrow = std::ranges::find(arrowKeys, pen.heading, &ArrowKey::heading);
+    if (arrow == std::end(arrowKeys)) {
+        return;
+    }
+    for (int along = 0; along < stepLength; along += dotSpacing) {
+        surface.circle(pointBeside(pen, arrow->dx * along, arrow->dy * along), dotRadius);
+    }
+    pen.x += arrow->dx * stepLength;
+    pen.y += arrow->dy * stepLength;
+}
 
 void keyDown(Form1& form, int code)
 {

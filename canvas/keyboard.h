@@ -4,6 +4,10 @@
 
 inline constexpr int stepLength = 50; ///< twips of wire for each arrow key
 
+/// Lays a step of wire along the heading, in the foreground colour, and moves the pen to its end. Does nothing for a
+/// heading that is none.
+void layStep(Surface& surface, Pen& pen);
+
 /// A key going down. Any key marks the drawing changed; the arrow keys turn the pen and, outside erase mode, lay
 /// a step of wire. Codes are those of platform/event.h.
 void keyDown(Form1& form, int code);

@@ -14,20 +14,20 @@ constexpr Offset eraserRings[] = {{0, 0},   {-10, 0}, {10, 0},  {0, -10}, {0, 10
                                   {0, -20}, {0, 20},  {-30, 0}, {30, 0},  {0, -30}, {0, 30}};
 constexpr float eraserRingRadius = 100;
 
-void erase(const Form1& form, float x, float y)
+void erase(Form1& form, Point place)
 {
     form.surface.setForeColor(form.canvasBackColor);
     for (const Offset& ring : eraserRings) {
-        form.surface.circle(x + ring.dx, y + ring.dy, eraserRingRadius);
+        form.surface.circle({place.x + ring.dx, place.y + ring.dy}, eraserRingRadius);
     }
 }
 
-void showEraserOutline(const Form1& form, float x, float y)
+void showEraserOutline(Form1& form, Point place)
 {
     form.controls.setVisible(control::Shape1, form.eraseMode == 1);
     if (form.eraseMode == 1) {
-        form.controls.setLeft(control::Shape1, x - 225);
-        form.controls.setTop(control::Shape1, y - 150);
+        form.controls.setLeft(control::Shape1, place.x - 225);
+        form.controls.setTop(control::Shape1, place.y - 150);
     }
 }
 
@@ -39,59 +39,58 @@ void choose(Form1& form, int CanvasState::*tool)
 
 } // namespace
 
-void mouseDown(Form1& form, int button, float x, float y)
+void mouseDown(Form1& form, int button, Point place)
 {
     if (button == button::left) {
-        form.x = x;
-        form.y = y;
-        form.surface.setCurrent(x, y);
+        form.x = place.x;
+        form.y = place.y;
+        form.surface.setCurrent(place);
     }
     if (button == button::right) {
-        form.controls.popUp(control::rc, {x, y});
+        form.controls.popUp(control::rc, place);
     }
 }
 
-void mouseMove(Form1& form, int buttons, float x, float y)
+void mouseMove(Form1& form, int buttons, Point place)
 {
-    form.pointer = Point{x, y};
+    form.pointer = place;
     if (buttons == button::left && form.pencilTool == 1) {
-        const Point from = form.surface.current();
-        form.surface.line(static_cast<float>(from.x), static_cast<float>(from.y), x, y);
+        form.surface.line(form.surface.current(), place);
     }
     form.controls.setText(control::sb,
                           form.eraseHint == 1 ? " Press 'E' to return to normal mode " : " Press F1 for Help ");
-    showEraserOutline(form, x, y);
+    showEraserOutline(form, place);
     if (form.eraseMode == 1 && buttons == button::left) {
-        erase(form, x, y);
+        erase(form, place);
     }
     if (form.toolboxFollow == 1) {
-        form.controls.setLeft(control::Frame2, x);
-        form.controls.setTop(control::Frame2, y);
+        form.controls.setLeft(control::Frame2, place.x);
+        form.controls.setTop(control::Frame2, place.y);
     }
 }
 
-void mouseUp(Form1& form, int button, float x, float y)
+void mouseUp(Form1& form, int button, Point place)
 {
     form.savedMark = 0;
-    form.mouseUpX = x;
-    form.mouseUpY = y;
+    form.mouseUpX = place.x;
+    form.mouseUpY = place.y;
     if (button != button::left) {
         return;
     }
-    form.controls.setLeft(control::Picture1, x);
-    form.controls.setTop(control::Picture1, y - markerRise);
+    form.controls.setLeft(control::Picture1, place.x);
+    form.controls.setTop(control::Picture1, place.y - markerRise);
     const Point from = form.surface.current();
     if (form.lineTool == 1) {
-        form.surface.line(static_cast<float>(from.x), static_cast<float>(from.y), x, y);
+        form.surface.line(from, place);
     }
     if (form.rectTool == 1) {
-        form.surface.box(static_cast<float>(from.x), static_cast<float>(from.y), x, y);
+        form.surface.box(from, place);
     }
 }
 
 void popUpAtPen(Form1& form)
 {
-    form.controls.popUp(control::rc, {form.x, form.y});
+    form.controls.popUp(control::rc, pointBeside(form));
 }
 
 void linee(Form1& form)

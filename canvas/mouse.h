@@ -4,12 +4,12 @@
 
 /// Mouse on the canvas; places in twips, buttons as in platform/event.h. A press of the left button puts the pen, a
 /// press of the right one opens the popup menu.
-void mouseDown(Form1& form, int button, float x, float y);
+void mouseDown(Form1& form, int button, Point place);
 /// With the left button alone held: the pencil draws, erase mode erases, in this order.
-void mouseMove(Form1& form, int buttons, float x, float y);
+void mouseMove(Form1& form, int buttons, Point place);
 /// Any button marks the drawing changed. The left one brings the marker, and draws the line or the rectangle from where
 /// it went down.
-void mouseUp(Form1& form, int button, float x, float y);
+void mouseUp(Form1& form, int button, Point place);
 
 /// The popup menu for who has no mouse at hand.
 void popUpAtPen(Form1& form);

@@ -2,58 +2,12 @@
 
 #include "canvas/notice.h"
 #include "circuit/numbers.h"
+#include "circuit/sources.h"
 #include "platform/runtime_error.h"
-#include "symbols/symbol_protocol.h"
 
 #include <algorithm>
 
 namespace {
-
-// The positive battery has its long plate first, the negative one its short one; their odd reaches are intended.
-constexpr auto positiveRight =
-    strokes(line(0, 0, 0, -150), dot(-70, -400), value(), line(0, -150, 0, 200), line(100, 100, 100, -100));
-constexpr auto positiveLeft =
-    strokes(line(0, 0, 0, -150), line(0, -150, 0, 200), dot(-200, 250), value(), line(-100, 100, -100, -100));
-constexpr auto positiveUp = strokes(line(0, 0, 150, 0), line(200, 0, -200, 0), line(0, -100, 100, -100),
-                                    line(100, -100, -100, -100), dot(-500, -100), value());
-constexpr auto positiveDown = strokes(line(0, 0, 150, 0), line(200, 0, -200, 0), line(0, 100, 100, 100),
-                                      line(100, 100, -100, 100), dot(200, 0), value(), dot(-400, 100));
-constexpr Branch positiveBattery[] = {{.heading = heading::right, .strokes = positiveRight, .after = {120, 0}},
-                                      {.heading = heading::left, .strokes = positiveLeft, .after = {-120, 0}},
-                                      {.heading = heading::up, .strokes = positiveUp, .after = {0, -120}},
-                                      {.heading = heading::down, .strokes = positiveDown, .after = {0, 120}}};
-
-constexpr auto negativeRight =
-    strokes(line(0, 0, 0, -100), line(0, -100, 0, 100), line(100, 150, 100, -200), dot(-100, -450), value());
-constexpr auto negativeLeft =
-    strokes(line(0, 0, 0, -100), line(0, -100, 0, 100), dot(-150, 200), value(), line(-100, 150, -100, -200));
-constexpr auto negativeUp = strokes(line(0, 0, -100, 0), line(-110, 0, 130, 0), line(100, -100, -200, -100),
-                                    dot(-500, -120), value(), line(-200, -100, 200, -100));
-constexpr auto negativeDown = strokes(line(0, 0, -100, 0), line(-110, 0, 130, 0), line(100, 100, -200, 100),
-                                      dot(200, -70), value(), line(-200, 100, 200, 100));
-constexpr Branch negativeBattery[] = {{.heading = heading::right, .strokes = negativeRight, .after = {120, 0}},
-                                      {.heading = heading::left, .strokes = negativeLeft, .after = {-120, 0}},
-                                      {.heading = heading::up, .strokes = negativeUp, .after = {0, -120}},
-                                      {.heading = heading::down, .strokes = negativeDown, .after = {0, 120}}};
-
-// A circle around the moved pen; its text is never turned.
-constexpr auto supplyRows = strokes(circle(0, 0, 200), dot(-200, -50), value(), dot(50, -50));
-constexpr auto voltageRows = join(supplyRows, strokes(sameLine("V")));
-constexpr auto currentRows = join(supplyRows, strokes(sameLine("A")));
-
-using SupplyBranches = std::array<Branch, 4>;
-
-constexpr SupplyBranches supplyBranches(std::span<const Stroke> rows)
-{
-    constexpr auto moved = Origin::movedPen;
-    return {Branch{.heading = heading::right, .strokes = rows, .after = {210, 0}, .before = {200, 0}, .origin = moved},
-            Branch{.heading = heading::left, .strokes = rows, .after = {-210, 0}, .before = {-200, 0}, .origin = moved},
-            Branch{.heading = heading::up, .strokes = rows, .after = {0, -210}, .before = {0, -200}, .origin = moved},
-            Branch{.heading = heading::down, .strokes = rows, .after = {0, 210}, .before = {0, 200}, .origin = moved}};
-}
-
-constexpr SupplyBranches voltageSupply = supplyBranches(voltageRows);
-constexpr SupplyBranches currentSupply = supplyBranches(currentRows);
 
 constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, control::Option5};
 
@@ -105,26 +59,6 @@ bool takes(Form1& form, Name option)
     hideRestOfPanel(form);
     form.controls.setValue(option, 0);
     return true;
-}
-
-void drawSource(Form1& form, std::span<const Branch> branches, double value, std::string_view otherwise)
-{
-    form.surface.setForeColor(black);
-    if (!drawBranch(form, branches, toText(value))) {
-        notify(form, otherwise);
-    }
-}
-
-void placeBattery(Form1& form, double CanvasState::*battery, std::span<const Branch> branches)
-{
-    form.*battery = form.supplyValue;
-    drawSource(form, branches, form.*battery, noDirection);
-}
-
-void placeSupply(Form1& form, double CanvasState::*sum, std::span<const Branch> branches)
-{
-    form.*sum = checked(form.*sum + form.supplyValue);
-    drawSource(form, branches, form.supplyValue, countedOnly);
 }
 
 } // namespace
@@ -185,17 +119,17 @@ void Command3(Form1& form)
         notify(form, "Nothing drawn: no kind was chosen");
     }
     if (takes(form, control::Option4)) {
-        placeBattery(form, &CanvasState::batteryPositive, positiveBattery);
+        place(form, positiveBattery, typed);
     }
     if (takes(form, control::Option5)) {
-        placeBattery(form, &CanvasState::batteryNegative, negativeBattery);
+        place(form, negativeBattery, typed);
     }
     form.controls.setText(control::Text11, "");
     if (takes(form, control::Option3)) {
-        placeSupply(form, &CanvasState::supplyVoltage, voltageSupply);
+        place(form, voltageSupply, typed);
     }
     if (takes(form, control::Option2)) {
-        placeSupply(form, &CanvasState::supplyCurrent, currentSupply);
+        place(form, currentSupply, typed);
     }
 }
 
@@ -232,7 +166,7 @@ void cancelPanel(Form1& form)
 
 void keepPanelAside(Form1& form)
 {
-    form.controls.placeAwayFrom(control::panel, form.x, form.y, control::Frame2);
+    form.controls.placeAwayFrom(control::panel, pointBeside(form), control::Frame2);
 }
 
 void clearOptions(Form1& form)

@@ -2,7 +2,7 @@
 
 #include "canvas/notice.h"
 #include "circuit/numbers.h"
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -53,16 +53,6 @@ constexpr Branch capacitorBranches[] = {{.heading = heading::right, .strokes = c
                                         {.heading = heading::up, .strokes = capacitorUp, .after = {0, -160}},
                                         {.heading = heading::down, .strokes = capacitorDown, .after = {0, 160}}};
 
-struct ValuedComponent {
-    std::string_view prompt;
-    std::string_view title;
-    Color CanvasState::*color;
-    std::string CanvasState::*typed; ///< the text last entered
-    double CanvasState::*total;
-    double (*share)(double value); ///< what a value adds to the total
-    std::span<const Branch> branches;
-};
-
 double itself(double value)
 {
     return value;
@@ -72,6 +62,8 @@ double reciprocal(double value)
 {
     return 1 / value;
 }
+
+} // namespace
 
 constexpr ValuedComponent resistor{" Enter Value of Resistance ",
                                    " RESISTANCE ",
@@ -95,7 +87,7 @@ constexpr ValuedComponent capacitor{" Enter Value of Capacitance ",
                                     reciprocal,
                                     capacitorBranches};
 
-void placeValued(Form1& form, const ValuedComponent& component)
+void place(Form1& form, const ValuedComponent& component)
 {
     form.surface.setForeColor(form.*component.color);
     std::string& typed = form.*component.typed;
@@ -107,7 +99,7 @@ void placeValued(Form1& form, const ValuedComponent& component)
     const double value = toNumber(typed);
     if (value != 0) {
         form.*component.total = checked(form.*component.total + component.share(value));
-        if (!drawBranch(form, component.branches, typed)) {
+        if (!draw(form.surface, form, component.branches, typed)) {
             notify(form, countedOnly);
         }
     } else if (!cancelled) {
@@ -115,21 +107,4 @@ void placeValued(Form1& form, const ValuedComponent& component)
     }
     form.surface.setForeColor(black);
     placeMarkerGateForm(form);
-}
-
-} // namespace
-
-void resistanc(Form1& form)
-{
-    placeValued(form, resistor);
-}
-
-void inductanc(Form1& form)
-{
-    placeValued(form, inductor);
-}
-
-void capacitanc(Form1& form)
-{
-    placeValued(form, capacitor);
 }

@@ -1,15 +1,33 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Components with a value: each asks for it in an input box, adds it to its total, draws the symbol along the heading,
-// prints the value as typed and moves the pen past it. Zero, an empty box or Cancel adds and draws nothing. The
-// foreground is black afterwards, the marker goes with its left edge. Throws if the text is no number or the total
-// grows out of range; total, pen and drawing are then as before, but the foreground is the family's colour.
+/// A component whose value is asked for, added to a total and printed beside it as typed.
+struct ValuedComponent {
+    std::string_view prompt;
+    std::string_view title;
+    Color CanvasState::*color;
+    std::string CanvasState::*typed; ///< the text last entered
+    double CanvasState::*total;
+    double (*share)(double value); ///< what a value adds to the total
+    std::span<const Branch> branches;
+};
 
-/// Adds to the sum of resistances, in ohm.
-void resistanc(Form1& form);
-/// Adds to the sum of inductances, in henry.
-void inductanc(Form1& form);
-/// Adds the reciprocal to the sum of reciprocals, in 1/farad: capacitors stand in series.
-void capacitanc(Form1& form);
+extern const ValuedComponent resistor;  ///< adds to the sum of resistances, in ohm
+extern const ValuedComponent inductor;  ///< adds to the sum of inductances, in henry
+extern const ValuedComponent capacitor; ///< adds to the sum of reciprocals, in 1/farad: capacitors stand in series
+
+/// Asks for the value in an input box, adds it to the total, draws the component along the heading and moves the pen
+/// past it. Zero, an empty box or Cancel adds and draws nothing. The foreground is black afterwards; the marker's left
+/// edge follows the pen. Throws typeMismatch if the text is no number, overflow if the number or the total is out of
+/// range: then total, pen and drawing stay, but the foreground is the family's colour.
+void place(Form1& form, const ValuedComponent& component);
+
+template <const ValuedComponent& component> void place(Form1& form)
+{
+    place(form, component);
+}
+
+inline constexpr Handler resistanc = place<resistor>;
+inline constexpr Handler inductanc = place<inductor>;
+inline constexpr Handler capacitanc = place<capacitor>;

@@ -30,9 +30,8 @@ struct Event {
 
     Kind kind;
     Name window = mainWindow;
-    Name name{};  ///< what was clicked, hovered over (none: the mouse left the canvas) or ticked; of a keyPress, the
-                  ///< control that took it, none for the canvas
-    int code = 0; ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
-    float x = 0;  ///< mouse: the place on the canvas, in twips
-    float y = 0;
+    Name name{};   ///< what was clicked, hovered over (none: the mouse left the canvas) or ticked; of a keyPress, the
+                   ///< control that took it, none for the canvas
+    int code = 0;  ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
+    Point place{}; ///< mouse: where on the canvas
 };

@@ -15,8 +15,8 @@ inline constexpr double twipsPerPixel = 15;
 
 /// A place on the canvas in twips, X to the right, Y downwards, (0, 0) at its top-left corner.
 struct Point {
-    double x = 0;
-    double y = 0;
+    float x = 0;
+    float y = 0;
 };
 
 /// The canvas as the drawing code sees it: ink that stays until it is wiped. Every length is in twips unless it
@@ -27,21 +27,21 @@ public:
     virtual ~Surface() = default;
 
     /// A straight stroke with round ends in the foreground colour; a zero-length one leaves a dot. The current
-    /// point moves to (x2, y2).
-    virtual void line(float x1, float y1, float x2, float y2) = 0;
-    /// The outline of the rectangle with these opposite corners. The current point moves to (x2, y2).
-    virtual void box(float x1, float y1, float x2, float y2) = 0;
+    /// point moves to its end.
+    virtual void line(Point from, Point to) = 0;
+    /// The outline of the rectangle with these opposite corners. The current point moves to the second one.
+    virtual void box(Point from, Point to) = 0;
     /// A full circle outline, radius 0 or more; one smaller than the pen is a disc. The current point stays.
-    virtual void circle(float x, float y, float radius) = 0;
+    virtual void circle(Point centre, float radius) = 0;
     /// A circle's part, radius 0 or more, counter-clockwise on the screen from start to end: angles in radians from +X,
     /// of any size. The current point stays.
-    virtual void arc(float x, float y, float radius, float start, float end) = 0;
+    virtual void arc(Point centre, float radius, float start, float end) = 0;
     /// Prints one line of UTF-8 text with the current point as its top-left corner. endLine moves the current point to
     /// the left edge one text line lower; otherwise it stands behind the text.
-    virtual void print(std::string_view text, bool endLine = true) = 0;
+    virtual void print(std::string_view text, bool endLine) = 0;
 
     /// The colour of the pixel at a place; none outside the retained image.
-    [[nodiscard]] virtual std::optional<Color> point(float x, float y) const = 0;
+    [[nodiscard]] virtual std::optional<Color> point(Point place) const = 0;
 
     /// Wipes ink and background picture and gives the image the window's size again.
     virtual void clear() = 0;
@@ -56,5 +56,5 @@ public:
 
     /// Where the next print() begins, and the free-hand tools' starting point.
     [[nodiscard]] virtual Point current() const = 0;
-    virtual void setCurrent(float x, float y) = 0;
+    virtual void setCurrent(Point place) = 0;
 };

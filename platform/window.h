@@ -96,10 +96,10 @@ public:
     virtual void setTop(Name control, double twips) = 0;
     /// Puts a visible control into a corner of the canvas: if there is one where it covers neither a place, in twips,
     /// nor another control, and no other window covers it, there. If there are several, the farthest from the place.
-    virtual void placeAwayFrom(Name control, double x, double y, Name other) = 0;
+    virtual void placeAwayFrom(Name control, Point place, Name other) = 0;
 
     /// Whether a place, in twips, is on the part of the canvas that the window shows.
-    [[nodiscard]] virtual bool isOnCanvas(double x, double y) const = 0;
+    [[nodiscard]] virtual bool isOnCanvas(Point place) const = 0;
 
     /// Starts a timer that ticks every so many milliseconds, 1 or more; 0 stops it.
     virtual void setInterval(Name timer, int milliseconds) = 0;

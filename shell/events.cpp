@@ -65,9 +65,9 @@ void dispatch(Form1& form, const Event& event)
     case Event::Kind::keyDown: return keyDown(form, event.code);
     case Event::Kind::keyPress:
         return event.name.empty() ? keyPress(form, event.code) : panelKey(form, event.name, event.code);
-    case Event::Kind::mouseDown: return mouseDown(form, event.code, event.x, event.y);
-    case Event::Kind::mouseMove: return mouseMove(form, event.code, event.x, event.y);
-    case Event::Kind::mouseUp: return mouseUp(form, event.code, event.x, event.y);
+    case Event::Kind::mouseDown: return mouseDown(form, event.code, event.place);
+    case Event::Kind::mouseMove: return mouseMove(form, event.code, event.place);
+    case Event::Kind::mouseUp: return mouseUp(form, event.code, event.place);
     case Event::Kind::click: return runCommand(form, event.window, event.name);
     case Event::Kind::hover: return hover(form, event.name);
     case Event::Kind::tick: return tick(form, event.window, event.name);

@@ -1,70 +1,96 @@
 #include "shell/product_picture.h"
 
 #include "canvas/jumper_ground.h"
+#include "canvas/keyboard.h"
+#include "circuit/sources.h"
 #include "circuit/valued_components.h"
-#include "platform/event.h"
-#include "shell/hand.h"
 #include "symbols/bipolar.h"
 #include "symbols/diodes.h"
 #include "symbols/gates.h"
 
 namespace {
 
-void drawSupply(Hand& hand)
+constexpr Color passive = 0x2030A0; // dark red
+constexpr Color active = 0x407000;  // dark green
+constexpr Color logic = 0xA04000;   // dark blue
+
+/// A surface with a pen on it that starts at a place in twips.
+struct Sketch {
+    Surface& surface;
+    Pen pen;
+
+    /// Lays wire in whole steps, at least as far as asked.
+    void wire(int heading, int twips)
+    {
+        pen.heading = heading;
+        surface.setForeColor(black);
+        for (int way = 0; way < twips; way += stepLength) {
+            layStep(surface, pen);
+        }
+    }
+
+    template <typename Component> void put(const Component& component, Color color, std::string_view value = {})
+    {
+        surface.setForeColor(color);
+        draw(surface, pen, component.branches, value);
+    }
+
+    void putGround() const
+    {
+        surface.setForeColor(black);
+        drawGround(surface, pen);
+    }
+};
+
+void drawSupply(Surface& surface)
 {
-    hand.goTo(2780, 1250);
-    hand.wire(key::up, 150);
-    hand.put(resistanc, "330");
-    hand.wire(key::up, 150);
-    hand.wire(key::left, 2300);
-    hand.wire(key::down, 950);
-    hand.putSource(control::Option3);
-    hand.wire(key::down, 950);
-    hand.put(ground);
+    Sketch sketch{surface, {2780, 1250}};
+    sketch.wire(heading::up, 150);
+    sketch.put(resistor, passive, "330");
+    sketch.wire(heading::up, 150);
+    sketch.wire(heading::left, 2300);
+    sketch.wire(heading::down, 950);
+    sketch.put(voltageSupply, black, "10");
+    sketch.wire(heading::down, 950);
+    sketch.putGround();
 }
 
-/// From the ground up.
-void drawSource(Hand& hand, int x)
+/// A source between the ground and a wire that goes up and then to the right.
+Sketch drawSource(Surface& surface, double x, int up, int right)
 {
-    hand.goTo(x, 2510);
-    hand.put(ground);
-    hand.wire(key::up, 350);
-    hand.putSource(control::Option3);
+    Sketch sketch{surface, {x, 2510}};
+    sketch.putGround();
+    sketch.wire(heading::up, 350);
+    sketch.put(voltageSupply, black, "10");
+    sketch.wire(heading::up, up);
+    sketch.wire(heading::right, right);
+    return sketch;
 }
 
-void drawGateAndItsLoad(Hand& hand)
+void drawGateAndItsLoad(Sketch& sketch)
 {
-    hand.wire(key::right, 750);
-    hand.put(nand);
-    hand.wire(key::right, 250);
-    hand.put(diod);
-    hand.wire(key::right, 200);
-    hand.put(resistanc, "47");
-    hand.wire(key::right, 200);
-    hand.wire(key::down, 150);
-    hand.put(inductanc, "22");
-    hand.wire(key::down, 150);
-    hand.put(ground);
+    sketch.wire(heading::right, 750);
+    sketch.put(nandGate, logic);
+    sketch.wire(heading::right, 250);
+    sketch.put(pnDiode, active);
+    sketch.wire(heading::right, 200);
+    sketch.put(resistor, passive, "47");
+    sketch.wire(heading::right, 200);
+    sketch.wire(heading::down, 150);
+    sketch.put(inductor, passive, "22");
+    sketch.wire(heading::down, 150);
+    sketch.putGround();
 }
 
 } // namespace
 
 void drawProductPicture(Surface& surface)
 {
-    Hand hand(surface);
-    CanvasState& colors = hand.state();
-    colors.resistanceColor = colors.inductanceColor = colors.capacitanceColor = 0x2030A0; // dark red
-    colors.transformerColor = colors.diodesColor = 0x407000;                              // dark green
-    colors.gatesColor = 0xA04000;                                                         // dark blue
-    drawSupply(hand);
-    drawSource(hand, 1100);
-    hand.wire(key::up, 300);
-    hand.wire(key::right, 350);
-    hand.put(capacitanc, "4.7");
-    hand.wire(key::right, 750);
-    hand.put(emitter);
-    drawGateAndItsLoad(hand);
-    drawSource(hand, 3140); // for the gate's other input
-    hand.wire(key::up, 350);
-    hand.wire(key::right, 400);
+    drawSupply(surface);
+    Sketch stage = drawSource(surface, 1100, 300, 350);
+    stage.put(capacitor, passive, "4.7");
+    stage.wire(heading::right, 750);
+    stage.put(npnEmitter, active);
+    drawGateAndItsLoad(stage);
+    drawSource(surface, 3140, 350, 400); // for the gate's other input
 }

@@ -70,7 +70,7 @@ std::string pointerText(const CanvasState& state)
 
 std::string_view offCanvasText(const Form1& form)
 {
-    return form.controls.isOnCanvas(form.x, form.y) ? "" : "off the canvas";
+    return form.controls.isOnCanvas(pointBeside(form)) ? "" : "off the canvas";
 }
 
 /// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still

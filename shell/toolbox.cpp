@@ -3,11 +3,11 @@
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
 #include "circuit/output_window.h"
+#include "circuit/sources.h"
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "shell/colors.h"
 #include "shell/files.h"
-#include "shell/hand.h"
 #include "shell/help.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/gates.h"
@@ -58,39 +58,24 @@ constexpr ToolButton toolbar[] = {
     {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan, &CanvasState::rectTool},
 };
 
-/// Draws a symbol for its toolbox picture, the pen at (x, y) twips.
-template <Handler component, int x, int y> void sketch(Surface& surface)
+/// Draws a symbol, a component or a source for its toolbox picture, the pen at (x, y) twips.
+template <const auto& component, int x, int y> void sketch(Surface& surface)
 {
-    Hand hand(surface);
-    hand.goTo(x, y);
-    hand.put(component);
+    Pen pen{x, y, heading::right};
+    draw(surface, pen, component.branches, "10");
 }
-
-template <const Name& option, int x, int y> void sketchSource(Surface& surface)
-{
-    Hand hand(surface);
-    hand.goTo(x, y);
-    hand.putSource(option);
-}
-
-struct ToolPicture {
-    Name name;
-    std::string_view hint;
-    Handler handler;
-    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
-};
 
 constexpr ToolPicture pictures[] = {
-    {"Image1", " Click to draw AND Gate ", and_, sketch<and_, 380, 260>},
-    {"Image2", " Click to draw OR Gate ", or_, sketch<or_, 380, 260>},
-    {"Image3", " Click to draw NOT Gate ", notgate, sketch<notgate, 360, 280>},
-    {"Image4", " Click to draw NOR Gate ", nor, sketch<nor, 380, 260>},
-    {"Image5", " Click to draw NAND Gate ", nand, sketch<nand, 350, 260>},
-    {"Image15", " Click to draw RESISTANCE", resistanc, sketch<resistanc, 20, 150>},
-    {"Image16", " Click to draw INDUCTANCE ", inductanc, sketch<inductanc, 90, 190>},
-    {"Image17", " Click to draw CAPACITANCE ", capacitanc, sketch<capacitanc, 470, 205>},
-    {"Image18", " Click to draw SUPPLY", suppl, sketchSource<control::Option3, 340, 300>},
-    {"Image19", " Click to draw BATTERY", batter, sketchSource<control::Option5, 500, 460>},
+    {"Image1", " Click to draw AND Gate ", and_, sketch<andGate, 380, 260>},
+    {"Image2", " Click to draw OR Gate ", or_, sketch<orGate, 380, 260>},
+    {"Image3", " Click to draw NOT Gate ", notgate, sketch<notGate, 360, 280>},
+    {"Image4", " Click to draw NOR Gate ", nor, sketch<norGate, 380, 260>},
+    {"Image5", " Click to draw NAND Gate ", nand, sketch<nandGate, 350, 260>},
+    {"Image15", " Click to draw RESISTANCE", resistanc, sketch<resistor, 20, 150>},
+    {"Image16", " Click to draw INDUCTANCE ", inductanc, sketch<inductor, 90, 190>},
+    {"Image17", " Click to draw CAPACITANCE ", capacitanc, sketch<capacitor, 470, 205>},
+    {"Image18", " Click to draw SUPPLY", suppl, sketch<voltageSupply, 340, 300>},
+    {"Image19", " Click to draw BATTERY", batter, sketch<negativeBattery, 500, 460>},
     {"Image20", " Click to get ERASER", eraserPicture},
     {"Image7", " Click to Close the ToolBox ", toolbox},
 };
@@ -102,6 +87,11 @@ template <typename Tool> const Tool* find(std::span<const Tool> tools, Name name
 }
 
 } // namespace
+
+std::span<const ToolPicture> toolboxPictures()
+{
+    return pictures;
+}
 
 void addTools(Form1& form)
 {

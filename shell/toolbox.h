@@ -2,7 +2,19 @@
 
 #include "canvas/canvas_state.h"
 
+#include <span>
+
 // Toolbar and toolbox: the tables of their buttons, and how they are shown, hidden and moved.
+
+/// A button of the toolbox, with a picture of what it draws.
+struct ToolPicture {
+    Name name;
+    std::string_view hint; ///< for the status bar
+    Handler handler;
+    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
+};
+
+[[nodiscard]] std::span<const ToolPicture> toolboxPictures();
 
 /// Fills toolbar and toolbox.
 void addTools(Form1& form);

@@ -1,6 +1,6 @@
 #include "symbols/bipolar.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -46,6 +46,8 @@ constexpr Symbol transistor(std::string_view title, Confirm confirm, int CanvasS
             .marker = Marker::gateForm};
 }
 
+} // namespace
+
 constexpr Symbol npnEmitter =
     transistor("This draws an NPN COMMON EMITTER", npnConfirm, &CanvasState::emitterAnswer, emitterBranches);
 constexpr Symbol npnBase =
@@ -58,35 +60,3 @@ constexpr Symbol pnpBase =
     transistor("This draws an PNP COMMON BASE", pnpConfirm, &CanvasState::base1Answer, base1Branches);
 constexpr Symbol pnpCollector =
     transistor("This draws an PNP COMMON COLLECTOR", pnpConfirm, &CanvasState::collector1Answer, collectorBranches);
-
-} // namespace
-
-void emitter(Form1& form)
-{
-    place(form, npnEmitter);
-}
-
-void base(Form1& form)
-{
-    place(form, npnBase);
-}
-
-void collector(Form1& form)
-{
-    place(form, npnCollector);
-}
-
-void emitter1(Form1& form)
-{
-    place(form, pnpEmitter);
-}
-
-void base1(Form1& form)
-{
-    place(form, pnpBase);
-}
-
-void collector1(Form1& form)
-{
-    place(form, pnpCollector);
-}

@@ -1,17 +1,20 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
 // Bipolar transistors with the ground that their circuit ties them to, drawn the same way whatever the heading, in the
-// colour they share with the transformers. The marker goes with its left edge.
+// colour they share with the transformers. The marker's left edge follows the pen.
 
-// NPN
-void emitter(Form1& form);
-void base(Form1& form);
-void collector(Form1& form);
+extern const Symbol npnEmitter;
+extern const Symbol npnBase;
+extern const Symbol npnCollector;
+extern const Symbol pnpEmitter;
+extern const Symbol pnpBase;
+extern const Symbol pnpCollector; ///< has the strokes of npnCollector
 
-// PNP
-void emitter1(Form1& form);
-void base1(Form1& form);
-/// Draws exactly what collector() draws.
-void collector1(Form1& form);
+inline constexpr Handler emitter = place<npnEmitter>;
+inline constexpr Handler base = place<npnBase>;
+inline constexpr Handler collector = place<npnCollector>;
+inline constexpr Handler emitter1 = place<pnpEmitter>;
+inline constexpr Handler base1 = place<pnpBase>;
+inline constexpr Handler collector1 = place<pnpCollector>;

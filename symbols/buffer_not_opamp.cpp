@@ -1,6 +1,6 @@
 #include "symbols/buffer_not_opamp.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -38,37 +38,22 @@ constexpr auto opampRows =
             line(0, -150, -300, -150), label(50, 0, "+"), line(0, 100, -300, 100), line(400, 0, 600, 0));
 constexpr Branch opampBranches[] = {{.strokes = opampRows}};
 
+} // namespace
+
 constexpr Symbol bufferSymbol{.title = "This draws a BUFFER",
                               .confirm = bufferConfirm,
                               .answer = &CanvasState::bufferAnswer,
                               .color = &CanvasState::bufferColor,
                               .branches = bufferBranches,
                               .marker = Marker::gateForm};
-constexpr Symbol notSymbol{.title = "This draws a NOT GATE",
-                           .confirm = gatesConfirm,
-                           .answer = &CanvasState::notAnswer,
-                           .color = &CanvasState::gatesColor,
-                           .branches = notBranches,
-                           .marker = Marker::gateForm};
-constexpr Symbol opampSymbol{.title = "This draws an OP-AMP",
-                             .confirm = opampConfirm,
-                             .answer = &CanvasState::opampAnswer,
-                             .color = &CanvasState::opampColor,
-                             .branches = opampBranches};
-
-} // namespace
-
-void buffer(Form1& form)
-{
-    place(form, bufferSymbol);
-}
-
-void notgate(Form1& form)
-{
-    place(form, notSymbol);
-}
-
-void opamp(Form1& form)
-{
-    place(form, opampSymbol);
-}
+constexpr Symbol notGate{.title = "This draws a NOT GATE",
+                         .confirm = gatesConfirm,
+                         .answer = &CanvasState::notAnswer,
+                         .color = &CanvasState::gatesColor,
+                         .branches = notBranches,
+                         .marker = Marker::gateForm};
+constexpr Symbol opAmp{.title = "This draws an OP-AMP",
+                       .confirm = opampConfirm,
+                       .answer = &CanvasState::opampAnswer,
+                       .color = &CanvasState::opampColor,
+                       .branches = opampBranches};

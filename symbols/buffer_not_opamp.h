@@ -1,11 +1,14 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-/// Triangles with one input, drawn along the heading; nothing is drawn for a heading other than right, left, up or
-/// down. The pen leaves at or a little beyond the output, the marker goes with its left edge.
-void buffer(Form1& form);
-void notgate(Form1& form);
+// Triangles with one input, drawn along the heading. The pen leaves at the output or a little beyond it. The marker's
+// left edge follows the pen.
+extern const Symbol bufferSymbol;
+extern const Symbol notGate;
+/// The operational amplifier always points right. Pen and marker stay at the back of its triangle.
+extern const Symbol opAmp;
 
-/// The operational amplifier, always pointing right. Pen and marker stay at the back of its triangle.
-void opamp(Form1& form);
+inline constexpr Handler buffer = place<bufferSymbol>;
+inline constexpr Handler notgate = place<notGate>;
+inline constexpr Handler opamp = place<opAmp>;

@@ -1,6 +1,6 @@
 #include "symbols/diodes.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -46,6 +46,8 @@ constexpr Symbol diodeSymbol(std::string_view title, int CanvasState::*answer, s
             .count = count};
 }
 
+} // namespace
+
 constexpr Symbol zenerDiode =
     diodeSymbol("This draws a ZENER DIODE", &CanvasState::diodeAnswer, zenerBranches, ColorAfter::toBlack, nullptr);
 constexpr Symbol pnDiode = diodeSymbol("This draws a PN DIODE", &CanvasState::diodAnswer, pnBranches,
@@ -54,25 +56,3 @@ constexpr Symbol npDiode = diodeSymbol("This draws a NP DIODE", &CanvasState::np
                                        ColorAfter::toBlack, &CanvasState::diodeCount);
 constexpr Symbol tunnelDiode = diodeSymbol("This draws a TUNNEL DIODE", &CanvasState::tunneldiodeAnswer, tunnelBranches,
                                            ColorAfter::toBlack, nullptr);
-
-} // namespace
-
-void diode(Form1& form)
-{
-    place(form, zenerDiode);
-}
-
-void diod(Form1& form)
-{
-    place(form, pnDiode);
-}
-
-void npdiode(Form1& form)
-{
-    place(form, npDiode);
-}
-
-void tunneldiode(Form1& form)
-{
-    place(form, tunnelDiode);
-}

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Diodes in the diodes' colour. The foreground is black afterwards, but for a PN diode after an answered question. The
-// marker stays. PN and NP diodes are counted, also when the heading lets them draw nothing.
+// Diodes in the diodes' colour. Afterwards the foreground is black, except after a PN diode whose question was
+// answered. The marker stays. PN and NP diodes are counted even when the heading lets them draw nothing.
 
-/// The Zener diode, always to the right.
-void diode(Form1& form);
-/// The PN diode, along the heading.
-void diod(Form1& form);
-/// The NP diode, along the heading, its bar first.
-void npdiode(Form1& form);
-/// The tunnel diode, always downwards.
-void tunneldiode(Form1& form);
+extern const Symbol zenerDiode;  ///< always to the right
+extern const Symbol pnDiode;     ///< along the heading
+extern const Symbol npDiode;     ///< along the heading, its bar first
+extern const Symbol tunnelDiode; ///< always downwards
+
+inline constexpr Handler diode = place<zenerDiode>;
+inline constexpr Handler diod = place<pnDiode>;
+inline constexpr Handler npdiode = place<npDiode>;
+inline constexpr Handler tunneldiode = place<tunnelDiode>;

@@ -1,6 +1,6 @@
 #include "symbols/gates.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -38,41 +38,11 @@ constexpr Symbol gate(std::string_view title, int CanvasState::*answer, std::spa
             .marker = marker};
 }
 
+} // namespace
+
 constexpr Symbol andGate = gate("This draws an AND GATE", &CanvasState::andAnswer, andBranches, Marker::gateForm);
 constexpr Symbol orGate = gate("This draws an OR GATE", &CanvasState::orAnswer, orBranches, Marker::gateForm);
 constexpr Symbol norGate = gate("This draws a NOR GATE", &CanvasState::norAnswer, norBranches, Marker::gateForm);
 constexpr Symbol nandGate = gate("This draws a NAND GATE", &CanvasState::nandAnswer, nandBranches, Marker::gateForm);
 constexpr Symbol exorGate = gate("This draws an EX-OR GATE", &CanvasState::exorAnswer, exorBranches, Marker::stays);
 constexpr Symbol exnorGate = gate("This draws an EX-NOR GATE", &CanvasState::exnorAnswer, exnorBranches, Marker::stays);
-
-} // namespace
-
-void and_(Form1& form)
-{
-    place(form, andGate);
-}
-
-void or_(Form1& form)
-{
-    place(form, orGate);
-}
-
-void nor(Form1& form)
-{
-    place(form, norGate);
-}
-
-void nand(Form1& form)
-{
-    place(form, nandGate);
-}
-
-void exor(Form1& form)
-{
-    place(form, exorGate);
-}
-
-void exnor(Form1& form)
-{
-    place(form, exnorGate);
-}

@@ -1,13 +1,21 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// The two-input gates: bare outlines in the gates' colour, the pen leaves at the output. AND, OR, NOR and NAND draw
-// to the right only, with a heading other than right nothing; EX-OR and EX-NOR draw to the right whatever the heading
-// and leave the marker behind.
-void and_(Form1& form);
-void or_(Form1& form);
-void nor(Form1& form);
-void nand(Form1& form);
-void exor(Form1& form);
-void exnor(Form1& form);
+// The two-input gates: bare outlines in the gates' colour; the pen leaves at the output.
+
+// These four draw only when the pen heads right. The marker's left edge follows the pen.
+extern const Symbol andGate;
+extern const Symbol orGate;
+extern const Symbol norGate;
+extern const Symbol nandGate;
+// These two draw to the right whatever the heading. The marker stays.
+extern const Symbol exorGate;
+extern const Symbol exnorGate;
+
+inline constexpr Handler and_ = place<andGate>;
+inline constexpr Handler or_ = place<orGate>;
+inline constexpr Handler nor = place<norGate>;
+inline constexpr Handler nand = place<nandGate>;
+inline constexpr Handler exor = place<exorGate>;
+inline constexpr Handler exnor = place<exnorGate>;

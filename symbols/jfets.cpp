@@ -1,6 +1,6 @@
 #include "symbols/jfets.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -14,25 +14,15 @@ constexpr auto pRows = join(rows<1, 7>(nRows), pArrow, rows<10, 13>(nRows));
 constexpr Branch nBranches[] = {{.strokes = nRows, .after = {0, 1610}, .before = {0, 50}}};
 constexpr Branch pBranches[] = {{.strokes = pRows, .after = {0, 1610}, .before = {0, 50}}};
 
-constexpr Symbol nJfet{.title = "This draws an N-CHANNEL JFET",
-                       .confirm = jfetConfirm,
-                       .answer = &CanvasState::nchannelAnswer,
-                       .color = &CanvasState::transformerColor,
-                       .branches = nBranches};
-constexpr Symbol pJfet{.title = "This draws a P-CHANNEL JFET",
-                       .confirm = jfetConfirm,
-                       .answer = &CanvasState::pchannelAnswer,
-                       .color = &CanvasState::transformerColor,
-                       .branches = pBranches};
-
 } // namespace
 
-void nchannel(Form1& form)
-{
-    place(form, nJfet);
-}
-
-void pchannel(Form1& form)
-{
-    place(form, pJfet);
-}
+constexpr Symbol nChannelJfet{.title = "This draws an N-CHANNEL JFET",
+                              .confirm = jfetConfirm,
+                              .answer = &CanvasState::nchannelAnswer,
+                              .color = &CanvasState::transformerColor,
+                              .branches = nBranches};
+constexpr Symbol pChannelJfet{.title = "This draws a P-CHANNEL JFET",
+                              .confirm = jfetConfirm,
+                              .answer = &CanvasState::pchannelAnswer,
+                              .color = &CanvasState::transformerColor,
+                              .branches = pBranches};

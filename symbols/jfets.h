@@ -1,8 +1,12 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Junction field-effect transistors hanging down from the pen, whatever the heading, in the colour of the transistors.
-// The marker stays.
-void nchannel(Form1& form);
-void pchannel(Form1& form);
+// Junction field-effect transistors hang down from the pen whatever the heading, in the transistors' colour. The marker
+// stays.
+
+extern const Symbol nChannelJfet;
+extern const Symbol pChannelJfet;
+
+inline constexpr Handler nchannel = place<nChannelJfet>;
+inline constexpr Handler pchannel = place<pChannelJfet>;

@@ -1,6 +1,6 @@
 #include "symbols/machines.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -33,6 +33,8 @@ constexpr auto fieldRows =
             circle(1050, 0, 150), label(1300, -300, "FF"), label(150, -300, "F"), line(1200, 0, 1500, 0));
 constexpr Branch fieldBranches[] = {{.strokes = fieldRows, .after = {1500, 0}}};
 
+} // namespace
+
 constexpr Symbol acMotor{.title = "This draws an AC MOTOR",
                          .confirm = motorsConfirm,
                          .answer = &CanvasState::acmotorAnswer,
@@ -53,45 +55,13 @@ constexpr Symbol dcGenerator{.title = "This draws a DC GENERATOR",
                              .answer = &CanvasState::dcgeneratorAnswer,
                              .color = &CanvasState::generatorColor,
                              .branches = dcGeneratorBranches};
-constexpr Symbol armatureSymbol{.title = "This draws an ARMATURE",
-                                .confirm = armatureConfirm,
-                                .answer = &CanvasState::armatureAnswer,
-                                .color = &CanvasState::armatureColor,
-                                .branches = armatureBranches};
-constexpr Symbol fieldSymbol{.title = "This draws a FIELD",
-                             .confirm = fieldConfirm,
-                             .answer = &CanvasState::fieldAnswer,
-                             .color = &CanvasState::fieldColor,
-                             .branches = fieldBranches};
-
-} // namespace
-
-void acmotor(Form1& form)
-{
-    place(form, acMotor);
-}
-
-void dcmotor(Form1& form)
-{
-    place(form, dcMotor);
-}
-
-void acgenerator(Form1& form)
-{
-    place(form, acGenerator);
-}
-
-void dcgenerator(Form1& form)
-{
-    place(form, dcGenerator);
-}
-
-void armature(Form1& form)
-{
-    place(form, armatureSymbol);
-}
-
-void field(Form1& form)
-{
-    place(form, fieldSymbol);
-}
+constexpr Symbol armatureWinding{.title = "This draws an ARMATURE",
+                                 .confirm = armatureConfirm,
+                                 .answer = &CanvasState::armatureAnswer,
+                                 .color = &CanvasState::armatureColor,
+                                 .branches = armatureBranches};
+constexpr Symbol fieldWinding{.title = "This draws a FIELD",
+                              .confirm = fieldConfirm,
+                              .answer = &CanvasState::fieldAnswer,
+                              .color = &CanvasState::fieldColor,
+                              .branches = fieldBranches};

@@ -1,12 +1,20 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Electrical machines, whatever the heading: motors, generators and the armature downwards from the pen, the field
-// winding to the right. The colour stays their family's, the marker stays where it was.
-void acmotor(Form1& form);
-void dcmotor(Form1& form);
-void acgenerator(Form1& form);
-void dcgenerator(Form1& form);
-void armature(Form1& form);
-void field(Form1& form);
+// Electrical machines, drawn the same way whatever the heading: motors, generators and the armature downwards from the
+// pen, the field winding to the right. The foreground stays the family's colour, the marker stays where it was.
+
+extern const Symbol acMotor;
+extern const Symbol dcMotor;
+extern const Symbol acGenerator;
+extern const Symbol dcGenerator;
+extern const Symbol armatureWinding;
+extern const Symbol fieldWinding;
+
+inline constexpr Handler acmotor = place<acMotor>;
+inline constexpr Handler dcmotor = place<dcMotor>;
+inline constexpr Handler acgenerator = place<acGenerator>;
+inline constexpr Handler dcgenerator = place<dcGenerator>;
+inline constexpr Handler armature = place<armatureWinding>;
+inline constexpr Handler field = place<fieldWinding>;

@@ -8,36 +8,26 @@
 
 namespace {
 
-Point operator+(Point pen, Offset offset)
+void drawStroke(Surface& surface, const Stroke& stroke, const Pen& origin, std::string_view value)
 {
-    return {pen.x + offset.dx, pen.y + offset.dy};
-}
-
-void draw(Surface& surface, const Stroke& stroke, Point pen, std::string_view value)
-{
-    const Point from = pen + stroke.from;
-    const Point to = pen + stroke.to;
+    const Point from = pointBeside(origin, stroke.from.dx, stroke.from.dy);
     switch (stroke.kind) {
-    case Stroke::Kind::circle:
-        surface.circle(static_cast<float>(from.x), static_cast<float>(from.y), static_cast<float>(stroke.radius));
-        return;
+    case Stroke::Kind::circle: return surface.circle(from, static_cast<float>(stroke.radius));
     case Stroke::Kind::line:
-        surface.line(static_cast<float>(from.x), static_cast<float>(from.y), static_cast<float>(to.x),
-                     static_cast<float>(to.y));
-        if (stroke.text.empty()) {
-            return;
+        surface.line(from, pointBeside(origin, stroke.to.dx, stroke.to.dy));
+        if (!stroke.text.empty()) {
+            surface.print(stroke.text, stroke.endLine);
         }
-        break;
-    case Stroke::Kind::text: break;
-    case Stroke::Kind::value: surface.print(value, stroke.endLine); return;
+        return;
+    case Stroke::Kind::text: return surface.print(stroke.text, stroke.endLine);
+    case Stroke::Kind::value: return surface.print(value, stroke.endLine);
     }
-    surface.print(stroke.text, stroke.endLine);
 }
 
-void movePen(CanvasState& state, Offset by)
+void move(Pen& pen, Offset by)
 {
-    state.x += by.dx;
-    state.y += by.dy;
+    pen.x += by.dx;
+    pen.y += by.dy;
 }
 
 /// What its title calls it: of "This draws an AND GATE" it is "An AND gate".
@@ -66,20 +56,20 @@ void sayWhyNotDrawn(Form1& form, const Symbol& symbol)
 
 } // namespace
 
-bool drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value)
+bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::string_view value)
 {
     const auto branch = std::ranges::find_if(
-        branches, [&](const Branch& b) { return b.heading == anyHeading || b.heading == form.heading; });
+        branches, [&](const Branch& b) { return b.heading == anyHeading || b.heading == pen.heading; });
     if (branch == branches.end()) {
         return false;
     }
-    const Point start{form.x, form.y};
-    movePen(form, branch->before);
-    const Point origin = branch->origin == Origin::movedPen ? Point{form.x, form.y} : start;
+    const Pen start = pen;
+    move(pen, branch->before);
+    const Pen origin = branch->origin == Origin::movedPen ? pen : start;
     for (const Stroke& stroke : branch->strokes) {
-        draw(form.surface, stroke, origin, value);
+        drawStroke(surface, stroke, origin, value);
     }
-    movePen(form, branch->after);
+    move(pen, branch->after);
     return true;
 }
 
@@ -105,7 +95,7 @@ void place(Form1& form, const Symbol& symbol)
     if (symbol.color != nullptr) {
         form.surface.setForeColor(form.*symbol.color);
     }
-    if (!drawBranch(form, symbol.branches)) {
+    if (!draw(form.surface, form, symbol.branches, {})) {
         sayWhyNotDrawn(form, symbol);
     }
     if (symbol.colorAfter == ColorAfter::toBlack || (symbol.colorAfter == ColorAfter::toBlackUnlessAsked && !asked)) {

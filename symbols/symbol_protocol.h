@@ -28,13 +28,20 @@ struct Symbol {
     int CanvasState::*count = nullptr; ///< grows each time the symbol goes ahead
 };
 
-/// Draws a symbol at the pen: question, count, colour, branch, colour after, marker. Any answer but Yes changes
-/// nothing but the answer; a heading without a branch draws nothing, leaves the pen and brings a notice.
+/// Draws the first branch that fits the pen's heading, and moves the pen by it. Without such a branch it does nothing
+/// and returns false. Strokes of kind value print the text given here.
+bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::string_view value);
+
+/// Asks the symbol's question, counts it, sets its colour, draws it at the pen, sets the colour after it and places the
+/// marker. Any answer but Yes changes nothing but the answer. A heading without a branch draws nothing, leaves the
+/// pen and brings a notice.
 void place(Form1& form, const Symbol& symbol);
 
-/// Brings the marker's left edge to the pen and leaves its top where it is.
-void placeMarkerGateForm(Form1& form);
+/// The command that places a symbol.
+template <const Symbol& symbol> void place(Form1& form)
+{
+    place(form, symbol);
+}
 
-/// The strokes and the pen's way alone: the first branch that fits the heading; false if none does. Rows of kind value
-/// print the text given here.
-[[nodiscard]] bool drawBranch(Form1& form, std::span<const Branch> branches, std::string_view value = {});
+/// Moves the marker's left edge to the pen and leaves its top where it is.
+void placeMarkerGateForm(Form1& form);

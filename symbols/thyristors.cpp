@@ -1,6 +1,6 @@
 #include "symbols/thyristors.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -42,29 +42,9 @@ constexpr Symbol thyristor(std::string_view title, int CanvasState::*answer, std
     return {.title = title, .confirm = thyristorsConfirm, .answer = answer, .branches = branches};
 }
 
-constexpr Symbol scr = thyristor("This draws a SCR THYRISTOR", &CanvasState::SCRAnswer, scrBranches);
-constexpr Symbol triac = thyristor("This draws a TRIAC THYRISTOR", &CanvasState::TRIACAnswer, triacBranches);
-constexpr Symbol diac = thyristor("This draws a DIAC THYRISTOR", &CanvasState::DIACAnswer, diacBranches);
-constexpr Symbol ujt = thyristor("This draws a UJT THYRISTOR", &CanvasState::UJTAnswer, ujtBranches);
-
 } // namespace
 
-void SCR(Form1& form)
-{
-    place(form, scr);
-}
-
-void TRIAC(Form1& form)
-{
-    place(form, triac);
-}
-
-void DIAC(Form1& form)
-{
-    place(form, diac);
-}
-
-void UJT(Form1& form)
-{
-    place(form, ujt);
-}
+constexpr Symbol scrThyristor = thyristor("This draws a SCR THYRISTOR", &CanvasState::SCRAnswer, scrBranches);
+constexpr Symbol triacThyristor = thyristor("This draws a TRIAC THYRISTOR", &CanvasState::TRIACAnswer, triacBranches);
+constexpr Symbol diacThyristor = thyristor("This draws a DIAC THYRISTOR", &CanvasState::DIACAnswer, diacBranches);
+constexpr Symbol ujtThyristor = thyristor("This draws a UJT THYRISTOR", &CanvasState::UJTAnswer, ujtBranches);

@@ -1,10 +1,16 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Thyristors and their relatives hanging down from the pen, whatever the heading. The one family without a colour of
-// its own: they are drawn in whatever colour is current. The marker stays.
-void SCR(Form1& form);
-void TRIAC(Form1& form);
-void DIAC(Form1& form);
-void UJT(Form1& form);
+// Thyristors and their relatives hang down from the pen whatever the heading. They are the one family without a colour
+// of its own: they are drawn in the current foreground colour. The marker stays.
+
+extern const Symbol scrThyristor;
+extern const Symbol triacThyristor;
+extern const Symbol diacThyristor;
+extern const Symbol ujtThyristor;
+
+inline constexpr Handler SCR = place<scrThyristor>;
+inline constexpr Handler TRIAC = place<triacThyristor>;
+inline constexpr Handler DIAC = place<diacThyristor>;
+inline constexpr Handler UJT = place<ujtThyristor>;

@@ -1,6 +1,6 @@
 #include "symbols/transformers.h"
 
-#include "symbols/symbol_protocol.h"
+#include "symbols/stroke_tables.h"
 
 namespace {
 
@@ -20,25 +20,15 @@ constexpr auto centerTappedRows = join(singlePhaseRows, strokes(line(1150, 800, 
 constexpr Branch singlePhaseBranches[] = {{.strokes = singlePhaseRows}};
 constexpr Branch centerTappedBranches[] = {{.strokes = centerTappedRows}};
 
-constexpr Symbol singlePhase{.title = "This draws a SINGLE PHASE TRANSFORMER",
-                             .confirm = transformersConfirm,
-                             .answer = &CanvasState::singlephaseAnswer,
-                             .color = &CanvasState::transformerColor,
-                             .branches = singlePhaseBranches};
-constexpr Symbol centerTapped{.title = "This draws a CENTER TAPPED TRANSFORMER",
-                              .confirm = transformersConfirm,
-                              .answer = &CanvasState::centertappedAnswer,
-                              .color = &CanvasState::transformerColor,
-                              .branches = centerTappedBranches};
-
 } // namespace
 
-void singlephase(Form1& form)
-{
-    place(form, singlePhase);
-}
-
-void centertapped(Form1& form)
-{
-    place(form, centerTapped);
-}
+constexpr Symbol singlePhaseTransformer{.title = "This draws a SINGLE PHASE TRANSFORMER",
+                                        .confirm = transformersConfirm,
+                                        .answer = &CanvasState::singlephaseAnswer,
+                                        .color = &CanvasState::transformerColor,
+                                        .branches = singlePhaseBranches};
+constexpr Symbol centerTappedTransformer{.title = "This draws a CENTER TAPPED TRANSFORMER",
+                                         .confirm = transformersConfirm,
+                                         .answer = &CanvasState::centertappedAnswer,
+                                         .color = &CanvasState::transformerColor,
+                                         .branches = centerTappedBranches};

@@ -1,8 +1,12 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "symbols/symbol_protocol.h"
 
-// Transformers, always hanging down and to the right of the pen, in the colour they share with the transistors. Pen and
-// marker stay.
-void singlephase(Form1& form);
-void centertapped(Form1& form);
+// Transformers hang down and to the right of the pen whatever the heading, in the colour they share with the
+// transistors. Pen and marker stay.
+
+extern const Symbol singlePhaseTransformer;
+extern const Symbol centerTappedTransformer;
+
+inline constexpr Handler singlephase = place<singlePhaseTransformer>;
+inline constexpr Handler centertapped = place<centerTappedTransformer>;

@@ -2,10 +2,9 @@
 // picture for people to look at:  symbol_sheet FILE
 
 #include "canvas/jumper_ground.h"
-#include "circuit/supply_panel.h"
+#include "circuit/sources.h"
 #include "circuit/valued_components.h"
 #include "platform/qt/qt_surface.h"
-#include "shell/hand.h"
 #include "shell/product_picture.h"
 #include "shell/toolbox.h"
 #include "symbols/bipolar.h"
@@ -20,6 +19,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <span>
 #include <vector>
 
@@ -27,63 +27,72 @@ namespace {
 
 struct Entry {
     const char* name = "";
-    Handler draw = nullptr;
+    void (*draw)(Surface&, Pen&) = nullptr;
     std::initializer_list<int> headings;
 };
 
-/// A source, as if it had been chosen in the panel.
-template <const Name& kind> void draw(Form1& form)
+/// A symbol, a component or a source.
+template <const auto& component> void draw(Surface& surface, Pen& pen)
 {
-    form.controls.setValue(kind, 1);
-    Command3(form);
+    draw(surface, pen, component.branches, "10");
+}
+
+void drawHop(Surface& surface, Pen& pen)
+{
+    drawJumper(surface, pen);
+}
+
+void drawBars(Surface& surface, Pen& pen)
+{
+    drawGround(surface, pen);
 }
 
 constexpr auto once = {heading::right}; // the symbol draws the same for every heading, or for this one alone
 constexpr auto fourWays = {heading::right, heading::left, heading::up, heading::down};
 
 const Entry entries[] = {
-    {"Jumper", jumper, fourWays},
-    {"Ground", ground, once},
-    {"AND gate", and_, once},
-    {"OR gate", or_, once},
-    {"NOR gate", nor, once},
-    {"NAND gate", nand, once},
-    {"EX-OR gate", exor, once},
-    {"EX-NOR gate", exnor, once},
-    {"NOT gate", notgate, fourWays},
-    {"Buffer", buffer, fourWays},
-    {"PN diode", diod, fourWays},
-    {"NP diode", npdiode, fourWays},
-    {"Zener diode", diode, once},
-    {"Tunnel diode", tunneldiode, once},
-    {"Resistance", resistanc, fourWays},
-    {"Inductance", inductanc, fourWays},
-    {"Capacitance", capacitanc, fourWays},
-    {"Positive battery", draw<control::Option4>, fourWays},
-    {"Negative battery", draw<control::Option5>, fourWays},
-    {"Voltage supply", draw<control::Option3>, fourWays},
-    {"Current supply", draw<control::Option2>, fourWays},
-    {"Op-amp", opamp, once},
-    {"Field", field, once},
-    {"NPN common emitter", emitter, once},
-    {"NPN common base", base, once},
-    {"NPN common collector", collector, once},
-    {"PNP common emitter", emitter1, once},
-    {"PNP common base", base1, once},
-    {"PNP common collector", collector1, once},
-    {"N-channel JFET", nchannel, once},
-    {"P-channel JFET", pchannel, once},
-    {"SCR", SCR, once},
-    {"TRIAC", TRIAC, once},
-    {"DIAC", DIAC, once},
-    {"UJT", UJT, once},
-    {"AC motor", acmotor, once},
-    {"DC motor", dcmotor, once},
-    {"AC generator", acgenerator, once},
-    {"DC generator", dcgenerator, once},
-    {"Armature", armature, once},
-    {"Single phase transformer", singlephase, once},
-    {"Center tapped transformer", centertapped, once},
+    {"Jumper", drawHop, fourWays},
+    {"Ground", drawBars, once},
+    {"AND gate", draw<andGate>, once},
+    {"OR gate", draw<orGate>, once},
+    {"NOR gate", draw<norGate>, once},
+    {"NAND gate", draw<nandGate>, once},
+    {"EX-OR gate", draw<exorGate>, once},
+    {"EX-NOR gate", draw<exnorGate>, once},
+    {"NOT gate", draw<notGate>, fourWays},
+    {"Buffer", draw<bufferSymbol>, fourWays},
+    {"PN diode", draw<pnDiode>, fourWays},
+    {"NP diode", draw<npDiode>, fourWays},
+    {"Zener diode", draw<zenerDiode>, once},
+    {"Tunnel diode", draw<tunnelDiode>, once},
+    {"Resistance", draw<resistor>, fourWays},
+    {"Inductance", draw<inductor>, fourWays},
+    {"Capacitance", draw<capacitor>, fourWays},
+    {"Positive battery", draw<positiveBattery>, fourWays},
+    {"Negative battery", draw<negativeBattery>, fourWays},
+    {"Voltage supply", draw<voltageSupply>, fourWays},
+    {"Current supply", draw<currentSupply>, fourWays},
+    {"Op-amp", draw<opAmp>, once},
+    {"Field", draw<fieldWinding>, once},
+    {"NPN common emitter", draw<npnEmitter>, once},
+    {"NPN common base", draw<npnBase>, once},
+    {"NPN common collector", draw<npnCollector>, once},
+    {"PNP common emitter", draw<pnpEmitter>, once},
+    {"PNP common base", draw<pnpBase>, once},
+    {"PNP common collector", draw<pnpCollector>, once},
+    {"N-channel JFET", draw<nChannelJfet>, once},
+    {"P-channel JFET", draw<pChannelJfet>, once},
+    {"SCR", draw<scrThyristor>, once},
+    {"TRIAC", draw<triacThyristor>, once},
+    {"DIAC", draw<diacThyristor>, once},
+    {"UJT", draw<ujtThyristor>, once},
+    {"AC motor", draw<acMotor>, once},
+    {"DC motor", draw<dcMotor>, once},
+    {"AC generator", draw<acGenerator>, once},
+    {"DC generator", draw<dcGenerator>, once},
+    {"Armature", draw<armatureWinding>, once},
+    {"Single phase transformer", draw<singlePhaseTransformer>, once},
+    {"Center tapped transformer", draw<centerTappedTransformer>, once},
 };
 
 /// One symbol on paper of its own, in pixels.
@@ -99,14 +108,11 @@ Drawing drawAt(const Entry& entry, int heading, QSize paper, QPointF pen)
     surface.growTo(paper);
     Drawing drawing;
     surface.changed = [&](const QRect& part) { drawing.ink |= part.left() > 1 ? part : QRect(); };
-    Hand hand(surface);
-    CanvasState& state = hand.state();
-    state.heading = heading;
-    hand.goTo(qRound(pen.x() * twipsPerPixel), qRound(pen.y() * twipsPerPixel));
-    hand.put(entry.draw);
+    Pen moved{std::round(pen.x() * twipsPerPixel), std::round(pen.y() * twipsPerPixel), heading};
+    entry.draw(surface, moved);
     drawing.image = surface.image();
     drawing.entry = pen;
-    drawing.exit = QPointF(state.x, state.y) / twipsPerPixel;
+    drawing.exit = QPointF(moved.x, moved.y) / twipsPerPixel;
     return drawing;
 }
 
@@ -186,14 +192,6 @@ int paintCells(QPainter& painter)
     return top + 24;
 }
 
-/// Keeps the toolbox's sketches.
-class Gallery final : public QuietWindow {
-public:
-    std::vector<void (*)(Surface&)> pictures;
-
-    void drawPicture(Name /*control*/, void (*draw)(Surface&)) override { pictures.push_back(draw); }
-};
-
 void paintPicture(QPainter& painter, const QRect& place, void (*draw)(Surface&))
 {
     QtSurface surface;
@@ -213,16 +211,13 @@ int paintPictures(QPainter& painter, int top)
     constexpr int perRow = 5;
     paintPicture(painter, {{gap, top + gap}, product}, drawProductPicture);
 
-    Gallery gallery;
-    QtSurface surface;
-    QuietDialogs dialogs;
-    QuietPictures files;
-    Form1 form(surface, gallery, dialogs, files, gallery, gallery, gallery, gallery);
-    addTools(form);
-    for (int i = 0; const auto picture : gallery.pictures) {
+    for (int i = 0; const ToolPicture& picture : toolboxPictures()) {
+        if (picture.draw == nullptr) {
+            continue;
+        }
         const QPoint place(product.width() + 2 * gap + i % perRow * (sketch.width() + gap),
                            top + gap + i / perRow * (sketch.height() + gap));
-        paintPicture(painter, {place, sketch}, picture);
+        paintPicture(painter, {place, sketch}, picture.draw);
         ++i;
     }
     return product.height() + 2 * gap;

@@ -65,24 +65,24 @@ void CanvasSurface::setPicture(const QImage& picture)
     }
 }
 
-void CanvasSurface::line(float x1, float y1, float x2, float y2)
+void CanvasSurface::line(Point from, Point to)
 {
-    draw([=](QtSurface& surface) { surface.line(x1, y1, x2, y2); });
+    draw([=](QtSurface& surface) { surface.line(from, to); });
 }
 
-void CanvasSurface::box(float x1, float y1, float x2, float y2)
+void CanvasSurface::box(Point from, Point to)
 {
-    draw([=](QtSurface& surface) { surface.box(x1, y1, x2, y2); });
+    draw([=](QtSurface& surface) { surface.box(from, to); });
 }
 
-void CanvasSurface::circle(float x, float y, float radius)
+void CanvasSurface::circle(Point centre, float radius)
 {
-    draw([=](QtSurface& surface) { surface.circle(x, y, radius); });
+    draw([=](QtSurface& surface) { surface.circle(centre, radius); });
 }
 
-void CanvasSurface::arc(float x, float y, float radius, float start, float end)
+void CanvasSurface::arc(Point centre, float radius, float start, float end)
 {
-    draw([=](QtSurface& surface) { surface.arc(x, y, radius, start, end); });
+    draw([=](QtSurface& surface) { surface.arc(centre, radius, start, end); });
 }
 
 void CanvasSurface::print(std::string_view text, bool endLine)
@@ -110,9 +110,9 @@ void CanvasSurface::setDrawWidth(int pixels)
     draw([=](QtSurface& surface) { surface.setDrawWidth(pixels); });
 }
 
-void CanvasSurface::setCurrent(float x, float y)
+void CanvasSurface::setCurrent(Point place)
 {
-    draw([=](QtSurface& surface) { surface.setCurrent(x, y); });
+    draw([=](QtSurface& surface) { surface.setCurrent(place); });
 }
 
 template <typename Draw> void CanvasSurface::draw(Draw stroke)

@@ -135,6 +135,6 @@ void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) con
 {
     report({.kind = kind,
             .code = code,
-            .x = static_cast<float>(position.x() * twipsPerPixel),
-            .y = static_cast<float>(position.y() * twipsPerPixel)});
+            .place = {static_cast<float>(position.x() * twipsPerPixel),
+                      static_cast<float>(position.y() * twipsPerPixel)}});
 }

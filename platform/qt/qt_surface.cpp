@@ -13,9 +13,9 @@
 namespace {
 
 /// In unscaled pixels.
-ink::Place toPlace(float x, float y)
+ink::Place toPlace(Point point)
 {
-    return {x / twipsPerPixel, y / twipsPerPixel};
+    return {point.x / twipsPerPixel, point.y / twipsPerPixel};
 }
 
 } // namespace
@@ -85,29 +85,29 @@ void QtSurface::startAfresh(QSize size)
     }
 }
 
-void QtSurface::line(float x1, float y1, float x2, float y2)
+void QtSurface::line(Point from, Point to)
 {
-    report(ink::line(pixels(), pen(), toPlace(x1, y1), toPlace(x2, y2)));
-    m_current = {x2, y2};
+    report(ink::line(pixels(), pen(), toPlace(from), toPlace(to)));
+    m_current = to;
 }
 
-void QtSurface::box(float x1, float y1, float x2, float y2)
+void QtSurface::box(Point from, Point to)
 {
-    line(x1, y1, x2, y1);
-    line(x2, y1, x2, y2);
-    line(x2, y2, x1, y2);
-    line(x1, y2, x1, y1);
-    m_current = {x2, y2};
+    line(from, {to.x, from.y});
+    line({to.x, from.y}, to);
+    line(to, {from.x, to.y});
+    line({from.x, to.y}, from);
+    m_current = to;
 }
 
-void QtSurface::circle(float x, float y, float radius)
+void QtSurface::circle(Point centre, float radius)
 {
-    report(ink::circle(pixels(), pen(), toPlace(x, y), radius / twipsPerPixel));
+    report(ink::circle(pixels(), pen(), toPlace(centre), radius / twipsPerPixel));
 }
 
-void QtSurface::arc(float x, float y, float radius, float start, float end)
+void QtSurface::arc(Point centre, float radius, float start, float end)
 {
-    report(ink::arc(pixels(), pen(), toPlace(x, y), radius / twipsPerPixel, start, end));
+    report(ink::arc(pixels(), pen(), toPlace(centre), radius / twipsPerPixel, start, end));
 }
 
 void QtSurface::print(std::string_view text, bool endLine)
@@ -127,8 +127,8 @@ void QtSurface::print(std::string_view text, bool endLine)
             changed(QRectF(ink.topLeft() * m_scale, ink.size() * m_scale).toAlignedRect() & m_image.rect());
         }
     }
-    m_current = endLine ? Point{0, m_current.y + height * twipsPerPixel}
-                        : Point{m_current.x + advance * twipsPerPixel, m_current.y};
+    m_current = endLine ? Point{0, static_cast<float>(m_current.y + height * twipsPerPixel)}
+                        : Point{static_cast<float>(m_current.x + advance * twipsPerPixel), m_current.y};
 }
 
 /// Each glyph at the place that it has at scale 1: laid out for its own size, a text would be of another length.
@@ -153,10 +153,10 @@ void QtSurface::drawText(const QString& text, QPointF topLeft)
     }
 }
 
-std::optional<Color> QtSurface::point(float x, float y) const
+std::optional<Color> QtSurface::point(Point place) const
 {
-    const double column = std::floor(x / twipsPerPixel * m_scale);
-    const double row = std::floor(y / twipsPerPixel * m_scale);
+    const double column = std::floor(place.x / twipsPerPixel * m_scale);
+    const double row = std::floor(place.y / twipsPerPixel * m_scale);
     if (column < 0 || row < 0 || column >= m_image.width() || row >= m_image.height()) {
         return {};
     }

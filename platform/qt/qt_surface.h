@@ -33,19 +33,19 @@ public:
     /// Lays a picture on clean paper; the image becomes as large as the window and the picture need.
     void setPicture(const QImage& picture);
 
-    void line(float x1, float y1, float x2, float y2) override;
-    void box(float x1, float y1, float x2, float y2) override;
-    void circle(float x, float y, float radius) override;
-    void arc(float x, float y, float radius, float start, float end) override;
+    void line(Point from, Point to) override;
+    void box(Point from, Point to) override;
+    void circle(Point centre, float radius) override;
+    void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
-    [[nodiscard]] std::optional<Color> point(float x, float y) const override;
+    [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override;
     void setBackColor(Color color) override;
     void setForeColor(Color color) override;
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
     [[nodiscard]] Point current() const override { return m_current; }
-    void setCurrent(float x, float y) override { m_current = {x, y}; }
+    void setCurrent(Point place) override { m_current = place; }
 
 private:
     void startAfresh(QSize size);

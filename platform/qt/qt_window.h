@@ -53,8 +53,8 @@ public:
     void drawPicture(Name control, void (*draw)(Surface&)) override;
     void setLeft(Name control, double twips) override;
     void setTop(Name control, double twips) override;
-    void placeAwayFrom(Name control, double x, double y, Name other) override;
-    [[nodiscard]] bool isOnCanvas(double x, double y) const override;
+    void placeAwayFrom(Name control, Point place, Name other) override;
+    [[nodiscard]] bool isOnCanvas(Point place) const override;
     void setInterval(Name timer, int milliseconds) override;
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;

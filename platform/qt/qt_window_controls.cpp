@@ -218,12 +218,13 @@ void QtWindow::setTop(Name control, double twips)
     widget.move(widget.x(), toPixels(twips));
 }
 
-bool QtWindow::isOnCanvas(double x, double y) const
+bool QtWindow::isOnCanvas(Point place) const
 {
-    return x >= 0 && y >= 0 && x < m_canvas->width() * twipsPerPixel && y < m_canvas->height() * twipsPerPixel;
+    return place.x >= 0 && place.y >= 0 && place.x < m_canvas->width() * twipsPerPixel &&
+           place.y < m_canvas->height() * twipsPerPixel;
 }
 
-void QtWindow::placeAwayFrom(Name control, double x, double y, Name other)
+void QtWindow::placeAwayFrom(Name control, Point from, Name other)
 {
     auto& widget = find<QWidget>(control);
     if (widget.isHidden()) {
@@ -235,7 +236,7 @@ void QtWindow::placeAwayFrom(Name control, double x, double y, Name other)
             hidden += dialog->frameGeometry().translated(-m_canvas->mapToGlobal(QPoint()));
         }
     }
-    const QPoint place(toPixels(x), toPixels(y));
+    const QPoint place(toPixels(from.x), toPixels(from.y));
     const auto& neighbour = find<QWidget>(other);
     const QRect taken = neighbour.isHidden() ? QRect() : neighbour.geometry();
     const QSize size = widget.sizeHint();

@@ -43,15 +43,14 @@ public:
         prepare();
         const bool splash = m_splash.timesUnloaded == 0;
         m_event = splash ? splashEvent() : event();
-        const Point before{m_form.x, m_form.y};
-        const int heading = m_form.heading;
+        const Pen before = m_form;
         deliver(m_form, m_event);
         if (splash && m_splash.timesUnloaded != 0) {
             for (Actor& actor : m_actors) {
                 actor.names = actor.window.names();
             }
         } else if (!splash) {
-            checkPen(before, heading);
+            checkPen(before);
             checkSwitches();
             checkNumbers();
         }
@@ -148,11 +147,11 @@ private:
 
     /// The pen goes where the left button is pressed, back to its start on New, and else by the same whole twips for
     /// the same command and heading, or stays.
-    void checkPen(Point before, int heading)
+    void checkPen(const Pen& before)
     {
         demand(std::isfinite(m_form.x) && std::isfinite(m_form.y), "the pen is nowhere");
         if (m_event.kind == Event::Kind::mouseDown && m_event.code == button::left) {
-            return demand(m_form.x == m_event.x && m_form.y == m_event.y, "the pen is not at the mouse");
+            return demand(m_form.x == m_event.place.x && m_form.y == m_event.place.y, "the pen is not at the mouse");
         }
         const double dx = m_form.x - before.x;
         const double dy = m_form.y - before.y;
@@ -170,7 +169,7 @@ private:
                    std::abs(dy - static_cast<double>(advance.second)) < 1e-6,
                "the pen moves by parts of a twip");
         const bool arrow = m_event.kind == Event::Kind::keyDown;
-        auto& known = m_advances[{m_event.kind, m_event.name, m_event.code, arrow ? 0 : heading}];
+        auto& known = m_advances[{m_event.kind, m_event.name, m_event.code, arrow ? 0 : before.heading}];
         known.insert(advance);
         const bool panel = m_event.name == control::Command3 || m_event.name == control::Text11;
         // The arrow keys hop over a wire or not; a battery and up to two supplies are drawn at once or not.
@@ -254,7 +253,7 @@ int main(int argc, char* argv[])
         const Event& last = drive.lastEvent();
         std::cerr << "seed " << words[1] << ", event " << event << ": " << error.what() << "\n  kind "
                   << static_cast<int>(last.kind) << " " << last.window << " " << last.name << " code " << last.code
-                  << " at " << last.x << ", " << last.y << "\n";
+                  << " at " << last.place.x << ", " << last.place.y << "\n";
         return 1;
     }
     return 0;

@@ -24,29 +24,29 @@ struct Paper {
 TEST(QtSurface, FindsAgainTheColourThatWasDrawnOnItAndNothingBeyond)
 {
     Paper paper;
-    EXPECT_EQ(paper.surface.point(750, 750), white);
+    EXPECT_EQ(paper.surface.point({750, 750}), white);
     paper.surface.setForeColor(0x1234AB); // red AB, blue 12
-    paper.surface.line(300, 750, 1200, 750);
-    EXPECT_EQ(paper.surface.point(750, 750), 0x1234ABU);
+    paper.surface.line({300, 750}, {1200, 750});
+    EXPECT_EQ(paper.surface.point({750, 750}), 0x1234ABU);
     EXPECT_EQ(QColor(paper.surface.image().pixel(50, 50)), QColor(0xAB, 0x34, 0x12));
     for (const auto& [x, y] : {std::pair{-1.0F, 5.0F}, {5.0F, -1.0F}, {3000.0F, 5.0F}, {5.0F, 3000.0F}, {1e9F, 5.0F}}) {
-        EXPECT_EQ(paper.surface.point(x, y), std::nullopt);
+        EXPECT_EQ(paper.surface.point({x, y}), std::nullopt);
     }
-    EXPECT_EQ(paper.surface.point(2999, 2999), white);
+    EXPECT_EQ(paper.surface.point({2999, 2999}), white);
 }
 
 TEST(QtSurface, ReportsOnlyThePartThatChanged)
 {
     Paper paper;
-    paper.surface.line(-9000, -9000, -8000, -8000);
-    paper.surface.circle(1e9F, 0, 100);
+    paper.surface.line({-9000, -9000}, {-8000, -8000});
+    paper.surface.circle({1e9F, 0}, 100);
     EXPECT_TRUE(paper.changed.isEmpty());
-    paper.surface.line(1500, 1500, 1500, 1500);
+    paper.surface.line({1500, 1500}, {1500, 1500});
     EXPECT_EQ(paper.changed, QRect(99, 99, 2, 2));
 
     paper.surface.clear();
     paper.changed = {};
-    paper.surface.setCurrent(1500, 1500);
+    paper.surface.setCurrent({1500, 1500});
     paper.surface.print("Wg", true);
     EXPECT_TRUE(paper.changed.contains(inkedPart(paper.surface.image())));
     EXPECT_LT(paper.changed.width(), 40);
@@ -58,7 +58,7 @@ TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
     Paper paper;
     QtSurface& surface = paper.surface;
     surface.setForeColor(0x0000FF);
-    surface.setCurrent(1500, 1500);
+    surface.setCurrent({1500, 1500});
     surface.print("R", false);
     EXPECT_GT(surface.current().x, 1500);
     EXPECT_EQ(surface.current().y, 1500);
@@ -71,7 +71,7 @@ TEST(QtSurface, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
     EXPECT_TRUE(QRect(99, 100, 30, 13).contains(inkedPart(image)));
     visit(image, [&](int x, int y) { EXPECT_TRUE(!isInked(image, x, y) || image.pixelColor(x, y) == Qt::red); });
 
-    surface.setCurrent(-1e9F, 1e9F); // far outside: nothing to draw, and no overflow
+    surface.setCurrent({-1e9F, 1e9F}); // far outside: nothing to draw, and no overflow
     surface.print("R", true);
     EXPECT_EQ(surface.current().x, 0);
 }
@@ -95,9 +95,9 @@ TEST(QtSurface, KeepsNothingOfAMillionStrokes)
     const auto draw = [&](int strokes) {
         for (int i = 0; i < strokes; i += 4) {
             const auto x = static_cast<float>(i % 2999);
-            paper.surface.line(x, 0, 3000 - x, 3000);
-            paper.surface.circle(x, x, 100);
-            paper.surface.arc(x, x, 100, 1, 2);
+            paper.surface.line({x, 0}, {3000 - x, 3000});
+            paper.surface.circle({x, x}, 100);
+            paper.surface.arc({x, x}, 100, 1, 2);
             paper.surface.print(i % 1000 == 0 ? std::to_string(i % 10000) : "", true);
         }
     };

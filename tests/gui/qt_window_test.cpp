@@ -36,8 +36,8 @@ TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
     QTest::mouseMove(window, place);
     main.events.clear();
     QTest::mouseDClick(window, Qt::LeftButton, {}, place);
-    EXPECT_EQ(main.events.back().x, 1500);
-    EXPECT_EQ(main.events.back().y, 3000);
+    EXPECT_EQ(main.events.back().place.x, 1500);
+    EXPECT_EQ(main.events.back().place.y, 3000);
     EXPECT_EQ(main.noted(), "mouseDown 1\nmouseUp 1\nmouseDown 1\nmouseUp 1\n");
 
     QMenu& menu = addPopup(main);
@@ -95,7 +95,7 @@ TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
     QMenu& menu = addPopup(main);
     for (const auto& [x, y, place] :
          {std::tuple{1500, 3000, QPoint(100, 200)}, {-9000, 3000, {0, 200}}, {1500, -15, {100, 0}}}) {
-        main.window->popUp("rc", {static_cast<double>(x), static_cast<double>(y)});
+        main.window->popUp("rc", {static_cast<float>(x), static_cast<float>(y)});
         EXPECT_EQ(main.form.Canvas->mapFromGlobal(menu.pos()), place);
         menu.close();
     }
@@ -157,7 +157,8 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
         SCOPED_TRACE(std::to_string(pen.x()) + ' ' + std::to_string(pen.y()));
         main.view.resize(size);
         main.window->setVisible(control::Frame2, toolbox);
-        main.window->placeAwayFrom(control::panel, pen.x() * twipsPerPixel, pen.y() * twipsPerPixel, control::Frame2);
+        main.window->placeAwayFrom(control::panel, {static_cast<float>(15 * pen.x()), static_cast<float>(15 * pen.y())},
+                                   control::Frame2);
         QCoreApplication::processEvents();
         const QRect canvas = main.form.Canvas->geometry();
         const QRect panel = main.form.panel->geometry();

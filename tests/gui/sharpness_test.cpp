@@ -18,14 +18,14 @@ void drawEverything(Surface& surface)
 {
     drawProductPicture(surface);
     surface.setForeColor(0x2040C0);
-    surface.box(1003, 403, 1711, 1296);
-    surface.box(-100, -100, 4490, 2990);
-    surface.arc(3000, 1500, 307, 3.5F, 0);
-    surface.setCurrent(2111, 333);
+    surface.box({1003, 403}, {1711, 1296});
+    surface.box({-100, -100}, {4490, 2990});
+    surface.arc({3000, 1500}, 307, 3.5F, 0);
+    surface.setCurrent({2111, 333});
     surface.print("WiLlIaM 12.5 mOhm", true);
     for (int i = 0; i < 100; ++i) {
         const auto at = static_cast<float>(37 * i);
-        surface.line(at, 2400 + at / 3, at + 37, 2400 + (at + 37) / 3);
+        surface.line({at, 2400 + at / 3}, {at + 37, 2400 + (at + 37) / 3});
     }
 }
 
@@ -110,10 +110,18 @@ TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
 TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
 {
     constexpr void (*strokes[])(QtSurface&, float) = {
-        [](QtSurface& surface, float at) { surface.line(at, at, at + 200, at + 550); },
-        [](QtSurface& surface, float at) { surface.box(at, at, at + 500, at + 411); },
-        [](QtSurface& surface, float at) { surface.circle(at + 100, at + 200, 10); },
-        [](QtSurface& surface, float at) { surface.arc(at + 400, at + 400, 203, 0, 6); },
+        [](QtSurface& surface, float at) {
+            surface.line({at, at}, {at + 200, at + 550});
+        },
+        [](QtSurface& surface, float at) {
+            surface.box({at, at}, {at + 500, at + 411});
+        },
+        [](QtSurface& surface, float at) {
+            surface.circle({at + 100, at + 200}, 10);
+        },
+        [](QtSurface& surface, float at) {
+            surface.arc({at + 400, at + 400}, 203, 0, 6);
+        },
     };
     for (const double ratio : ratios) {
         for (int i = 0; i < 24; ++i) {
@@ -142,10 +150,10 @@ TEST(Sharpness, WhatIsDrawnOverInWhiteIsCleanOnTheScreen)
             canvas.surface.setForeColor(color);
             for (int i = 0; i < 15; ++i) { // from and to places that are the same pixel of the picture
                 const auto at = static_cast<float>(color == white ? 600 + i : 614 - i);
-                canvas.surface.circle(at + 2000, at, 500);
-                canvas.surface.line(at, at, at + 900, at + 450);
-                canvas.surface.box(at, at, at + 900, at + 450);
-                canvas.surface.setCurrent(at + 900, at);
+                canvas.surface.circle({at + 2000, at}, 500);
+                canvas.surface.line({at, at}, {at + 900, at + 450});
+                canvas.surface.box({at, at}, {at + 900, at + 450});
+                canvas.surface.setCurrent({at + 900, at});
                 canvas.surface.print("WiLlIaM 12.5", true);
             }
         }
@@ -178,7 +186,7 @@ TEST(Sharpness, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
         EXPECT_EQ(strays(surface), 0); // the picture's hidden part too
         surface.clear();
         EXPECT_EQ(inkedPixels(surface.screenImage()), 0);
-        surface.line(4000, 2000, 8800, 3500);
+        surface.line({4000, 2000}, {8800, 3500});
         EXPECT_EQ(strays(surface), 0);
         surface.setBackColor(0x80FFFF);
         EXPECT_EQ(surface.screenImage(), blocks(surface));
@@ -199,7 +207,7 @@ TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
     for (int i = 0; i < 100; ++i) { // many little repaints
         const auto step = static_cast<float>(i);
         canvas.surface().setForeColor(static_cast<Color>(i * 4000));
-        canvas.surface().circle(300 + 37 * step, 300 + 17 * step, 20 + 7 * step);
+        canvas.surface().circle({300 + 37 * step, 300 + 17 * step}, 20 + 7 * step);
         QCoreApplication::processEvents();
     }
     const double ratio = canvas.surface().ratio();

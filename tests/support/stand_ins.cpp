@@ -46,15 +46,15 @@ void RecordingSurface::note(const char* what, std::initializer_list<float> numbe
     ink.push_back(call + std::string(text));
 }
 
-void RecordingSurface::stroke(const char* what, const std::array<float, 4>& ends)
+void RecordingSurface::stroke(const char* what, Point from, Point to)
 {
-    note(what, {ends[0], ends[1], ends[2], ends[3]});
-    m_current = {ends[2], ends[3]};
+    note(what, {from.x, from.y, to.x, to.y});
+    m_current = to;
 }
 
-void RecordingSurface::arc(float x, float y, float radius, float start, float end)
+void RecordingSurface::arc(Point centre, float radius, float start, float end)
 {
-    note("arc", {x, y, radius, start, end});
+    note("arc", {centre.x, centre.y, radius, start, end});
 }
 
 void RecordingSurface::print(std::string_view text, bool endLine)
@@ -64,9 +64,9 @@ void RecordingSurface::print(std::string_view text, bool endLine)
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
 }
 
-std::optional<Color> RecordingSurface::point(float x, float y) const
+std::optional<Color> RecordingSurface::point(Point probed) const
 {
-    probedAt = recording ? place(x, y) : "";
+    probedAt = recording ? place(probed.x, probed.y) : "";
     return underPoint;
 }
 

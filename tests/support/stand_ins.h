@@ -30,23 +30,23 @@ public:
     mutable std::string probedAt;    ///< where point() looked last
     Color foreColor = black;
 
-    void line(float x1, float y1, float x2, float y2) override { stroke("line", {x1, y1, x2, y2}); }
-    void box(float x1, float y1, float x2, float y2) override { stroke("box", {x1, y1, x2, y2}); }
-    void circle(float x, float y, float radius) override { note("circle", {x, y, radius}); }
-    void arc(float x, float y, float radius, float start, float end) override;
+    void line(Point from, Point to) override { stroke("line", from, to); }
+    void box(Point from, Point to) override { stroke("box", from, to); }
+    void circle(Point centre, float radius) override { note("circle", {centre.x, centre.y, radius}); }
+    void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
-    [[nodiscard]] std::optional<Color> point(float x, float y) const override;
+    [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override { note("clear", {}); }
     void setBackColor(Color color) override { note("back", {static_cast<float>(color)}); }
     void setForeColor(Color color) override { foreColor = color; }
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
     [[nodiscard]] Point current() const override { return m_current; }
-    void setCurrent(float x, float y) override { m_current = {x, y}; }
+    void setCurrent(Point place) override { m_current = place; }
 
 private:
     void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
-    void stroke(const char* what, const std::array<float, 4>& ends);
+    void stroke(const char* what, Point from, Point to);
 
     int m_drawWidth = 2;
     Point m_current;
@@ -242,10 +242,10 @@ public:
     void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
     void setLeft(Name control, double twips) override { at(control).left = twips; }
     void setTop(Name control, double twips) override { at(control).top = twips; }
-    void placeAwayFrom(Name control, double x, double y, Name /*other*/) override { at(control).awayFrom = {x, y}; }
-    [[nodiscard]] bool isOnCanvas(double x, double y) const override
+    void placeAwayFrom(Name control, Point place, Name /*other*/) override { at(control).awayFrom = place; }
+    [[nodiscard]] bool isOnCanvas(Point place) const override
     {
-        return x >= 0 && y >= 0 && x < canvas.x && y < canvas.y;
+        return place.x >= 0 && place.y >= 0 && place.x < canvas.x && place.y < canvas.y;
     }
     void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
 
@@ -283,7 +283,7 @@ struct Bench {
     void typeInto(Name name, int character) { deliver(form, {Event::Kind::keyPress, mainWindow, name, character}); }
     void mouse(Event::Kind kind, int buttons, float x, float y)
     {
-        deliver(form, {kind, mainWindow, {}, buttons, x, y});
+        deliver(form, {kind, mainWindow, {}, buttons, {x, y}});
     }
     void mouseDown(int button, float x, float y) { mouse(Event::Kind::mouseDown, button, x, y); }
     void mouseMove(int buttons, float x, float y) { mouse(Event::Kind::mouseMove, buttons, x, y); }

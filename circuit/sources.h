@@ -1,0 +1,19 @@
+#pragma once
+
+#include "symbols/symbol_protocol.h"
+
+/// A supply or a battery. It is drawn along the heading in black, which stays the foreground colour. The marker stays.
+struct Source {
+    double CanvasState::*value; ///< a battery's last value, a supply's sum; volt or ampere
+    bool sums;                  ///< adds to the value rather than to replace it
+    std::span<const Branch> branches;
+};
+
+extern const Source positiveBattery;
+extern const Source negativeBattery;
+extern const Source voltageSupply;
+extern const Source currentSupply;
+
+/// Keeps the number, draws the source with it and moves the pen past it. Throws overflow if a sum is out of range; then
+/// nothing has changed.
+void place(Form1& form, const Source& source, double value);
