@@ -1,6 +1,6 @@
 #include "platform/qt/canvas_surface.h"
 
-#include "platform/finer_ink.h"
+#include "platform/ink/finer_ink.h"
 
 #include <algorithm>
 #include <utility>

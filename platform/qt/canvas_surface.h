@@ -11,6 +11,8 @@
 class CanvasSurface final : public Surface {
 public:
     CanvasSurface();
+    CanvasSurface(const CanvasSurface&) = delete; // its images report to this object
+    CanvasSurface& operator=(const CanvasSurface&) = delete;
 
     /// Called with the changed part of the canvas, in its pixels, after every change.
     std::function<void(const QRect&)> changed;

@@ -18,48 +18,44 @@ namespace {
     throw RuntimeError(Fault::printerError, "Printer error\n\n" + why.toStdString());
 }
 
-/// The print service's library, loaded when something is printed: linked, it would be a fifth of the program's start.
+/// The print service's library, loaded when something is printed: linked, it would take a fifth of the program's start.
 class Cups {
 public:
     using Queue = std::unique_ptr<cups_dest_t, std::function<void(cups_dest_t*)>>;
 
-    Cups()
+    [[nodiscard]] Queue defaultQueue() const
     {
-        if (!m_library.load()) {
-            fail("The print service's library is not there:\n" + m_library.errorString());
-        }
+        return {m_getNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr),
+                [this](cups_dest_t* queue) { m_freeDests(1, queue); }};
     }
-
-    [[nodiscard]] Queue defaultQueue()
+    [[nodiscard]] const char* option(const cups_dest_t& queue, const char* name) const
     {
-        return {call<decltype(cupsGetNamedDest)>("cupsGetNamedDest")(CUPS_HTTP_DEFAULT, nullptr, nullptr),
-                [this](cups_dest_t* queue) { call<decltype(cupsFreeDests)>("cupsFreeDests")(1, queue); }};
+        return m_getOption(name, queue.num_options, queue.options);
     }
-    [[nodiscard]] const char* option(const cups_dest_t& queue, const char* name)
-    {
-        return call<decltype(cupsGetOption)>("cupsGetOption")(name, queue.num_options, queue.options);
-    }
-    [[nodiscard]] bool failed()
-    {
-        return call<decltype(cupsLastError)>("cupsLastError")() > IPP_STATUS_OK_EVENTS_COMPLETE;
-    }
-    [[nodiscard]] QString lastError()
-    {
-        return QString::fromUtf8(call<decltype(cupsLastErrorString)>("cupsLastErrorString")());
-    }
+    [[nodiscard]] bool failed() const { return m_lastError() > IPP_STATUS_OK_EVENTS_COMPLETE; }
+    [[nodiscard]] QString lastError() const { return QString::fromUtf8(m_lastErrorString()); }
 
 private:
-    template <typename Function> Function* call(const char* name)
+    template <typename Function> Function* find(const char* name)
     {
-        return reinterpret_cast<Function*>(m_library.resolve(name));
+        const QFunctionPointer found = m_library.resolve(name); // loads the library
+        if (found == nullptr) {
+            fail("The print service's library is not there or is another one:\n" + m_library.errorString());
+        }
+        return reinterpret_cast<Function*>(found);
     }
 
     QLibrary m_library{"cups", 2};
+    decltype(cupsGetNamedDest)* m_getNamedDest = find<decltype(cupsGetNamedDest)>("cupsGetNamedDest");
+    decltype(cupsFreeDests)* m_freeDests = find<decltype(cupsFreeDests)>("cupsFreeDests");
+    decltype(cupsGetOption)* m_getOption = find<decltype(cupsGetOption)>("cupsGetOption");
+    decltype(cupsLastError)* m_lastError = find<decltype(cupsLastError)>("cupsLastError");
+    decltype(cupsLastErrorString)* m_lastErrorString = find<decltype(cupsLastErrorString)>("cupsLastErrorString");
 };
 
 /// The default queue's name, once it is known to take jobs: Qt would lose them without a word, and without a default
 /// printer it would want to write a file.
-QString openQueue(Cups& cups)
+QString openQueue(const Cups& cups)
 {
     const Cups::Queue queue = cups.defaultQueue();
     if (queue == nullptr) {
@@ -103,7 +99,7 @@ QRectF placeOnPaper(const QPrinter& printer, const QSizeF& picture)
 
 void printPicture(const QImage& picture, const QString& title)
 {
-    Cups cups;
+    const Cups cups;
     const QString queue = openQueue(cups);
     QPrinter printer(QPrinter::HighResolution);
     printer.setPrinterName(queue);

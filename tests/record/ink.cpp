@@ -1,4 +1,4 @@
-#include "platform/finer_ink.h"
+#include "platform/ink/finer_ink.h"
 #include "tests/record/record.h"
 #include "tests/support/paper.h"
 #include "tests/support/stand_ins.h"

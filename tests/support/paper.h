@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ink.h"
+#include "platform/ink/ink.h"
 
 #include <string>
 #include <vector>

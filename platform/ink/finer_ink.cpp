@@ -1,4 +1,4 @@
-#include "platform/finer_ink.h"
+#include "platform/ink/finer_ink.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ink.h"
+#include "platform/ink/ink.h"
 
 /// A second image of the same canvas that has more pixels, for a sharp screen. Its scale says how many along each of
 /// the canvas's pixels, any number above 1. The part is of the canvas.

@@ -1,4 +1,4 @@
-#include "platform/ink.h"
+#include "platform/ink/ink.h"
 
 #include <algorithm>
 #include <cmath>
