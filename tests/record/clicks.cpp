@@ -69,7 +69,9 @@ std::string clicked(Name name)
     const std::string outcome = bench.after([&](Bench& user) { user.click(name); });
     untouched.tick(control::statusTimer);
     bench.tick(control::statusTimer);
-    return outcome + "cursor " + bench.window.cursor + changes(untouched.window, bench.window) +
+    const Cursor& cursor = bench.window.cursor;
+    return outcome + "cursor " + std::string(cursor.picture) + " " + std::to_string(cursor.hotX) + " " +
+           std::to_string(cursor.hotY) + changes(untouched.window, bench.window) +
            (bench.form.wireColor == 200 ? ", wires 200" : "") +
            (bench.form.canvasBackColor == 200 ? ", canvas 200" : "") + (bench.help.timesShown > 0 ? ", help" : "") +
            (bench.about.timesShown > 0 ? ", about" : "") + (bench.output.timesShown > 0 ? ", output" : "") + "\n";
@@ -80,10 +82,11 @@ void addClicks(Record& record)
     const std::string nothingElse = clicked("");
     const Bench bench;
     for (const Name name : bench.window.names()) {
-        const std::string text = hint(name);
-        const std::string done = clicked(name);
-        if (!text.empty() || done != nothingElse) {
-            record.push_back({"Click on " + std::string(name), (text.empty() ? "" : "hint |" + text + "|\n") + done});
+        const std::string hinted = hint(name);
+        std::string body = hinted.empty() ? "" : "hint |" + hinted + "|\n";
+        body += clicked(name);
+        if (body != nothingElse) {
+            record.push_back({"Click on " + std::string(name), body});
         }
     }
 }

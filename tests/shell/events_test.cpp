@@ -56,7 +56,7 @@ TEST(StatusBar, FollowsOnceForAllEventsOfAMoment)
             EXPECT_NE(bench.window.visible(panel), bench.window.at(panel).text.empty() && panel != control::sbJumpers);
             shown += bench.window.at(panel).text + "|";
         }
-        return shown + bench.window.cursor + "|" + bench.window.at(control::Canvas).description;
+        return shown + std::string(bench.window.cursor.picture) + "|" + bench.window.at(control::Canvas).description;
     };
     const std::string atStart =
         "||1600, 1500|→ Right|Pen|Normal mode||pen|Pen at 1600, 1500 twips, heading right, tool Pen";

@@ -185,7 +185,7 @@ public:
 
     std::string caption;
     std::string focused; ///< the control that was given the keyboard last
-    std::string cursor;
+    Cursor cursor{};
     int timesEnded = 0;
     int timesShown = 0;
     int timesShownWithoutKeyboard = 0;
@@ -220,7 +220,7 @@ public:
         m_controls.emplace(key, Control{});
     }
     void setSwatch(Name key, Color color) override { at(key).backColor = color; }
-    void setCursor(const Cursor& pointer) override { cursor = pointer.picture; }
+    void setCursor(const Cursor& pointer) override { cursor = pointer; }
     void popUp(Name menu, Point where) override;
     void setChecked(Name item, bool checked) override { at(item).checked = checked; }
     [[nodiscard]] bool checked(Name item) const override { return at(item).checked; }
