@@ -1,8 +1,8 @@
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_main_window.h"
 #include "platform/qt/qt_pictures.h"
-#include "platform/qt/qt_window.h"
 #include "platform/qt/termination.h"
 #include "shell/events.h"
 #include "shell/splash.h"
@@ -39,10 +39,10 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     prepareToolkit();
 
-    Form1* schemlet = nullptr;
-    const auto report = [&schemlet](const Event& event) {
-        if (schemlet != nullptr) {
-            deliver(*schemlet, event);
+    Events* program = nullptr; // until all windows are there
+    const auto report = [&program](const Event& event) {
+        if (program != nullptr) {
+            program->deliver(event);
         }
     };
 
@@ -65,13 +65,14 @@ int main(int argc, char* argv[])
     QDialog outputView(&mainView);
     Ui::Form4().setupUi(&outputView);
 
-    QtWindow window(mainView, report);
+    QtMainWindow window(mainView, report);
     QtWindow form2(helpView, report);
     QtWindow form3(aboutView, report);
     QtWindow form4(outputView, report);
     QtDialogs dialogs(mainView, *form.Canvas);
     QtPictures pictures(form.Canvas->surface());
     Form1 form1(form.Canvas->surface(), window, dialogs, pictures, form2, form3, form4, form6);
-    schemlet = &form1;
+    Events events(form1);
+    program = &events;
     return QApplication::exec();
 }

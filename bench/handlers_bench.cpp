@@ -3,34 +3,50 @@
 
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_main_window.h"
 #include "platform/qt/qt_pictures.h"
-#include "platform/qt/qt_window.h"
 #include "shell/events.h"
 #include "shell/main_window.h"
 #include "ui_Form1.h"
+#include "ui_Form2.h"
+#include "ui_Form3.h"
+#include "ui_Form4.h"
+#include "ui_Form6.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
 
 namespace {
 
-struct Program {
-    QMainWindow view;
-    Ui::Form1 form = [this] {
-        Ui::Form1 made;
+template <typename View, typename Form> struct Made {
+    View view;
+    Form form = [this] {
+        Form made;
         made.setupUi(&view);
         return made;
     }();
-    QtWindow window{view, [this](const Event& event) { deliver(form1, event); }};
-    QtDialogs dialogs{view, *form.Canvas};
-    QtPictures pictures{form.Canvas->surface()};
-    QuietWindow others;
-    Form1 form1{form.Canvas->surface(), window, dialogs, pictures, others, others, others, others};
+};
+
+struct Program {
+    Made<QMainWindow, Ui::Form1> main;
+    Made<QDialog, Ui::Form2> help;
+    Made<QDialog, Ui::Form3> about;
+    Made<QDialog, Ui::Form4> output;
+    Made<QDialog, Ui::Form6> splash;
+    QtMainWindow window{main.view, [this](const Event& event) { events.deliver(event); }};
+    QtWindow form2{help.view, [](const Event&) {}};
+    QtWindow form3{about.view, [](const Event&) {}};
+    QtWindow form4{output.view, [](const Event&) {}};
+    QtWindow form6{splash.view, [](const Event&) {}};
+    QtDialogs dialogs{main.view, *main.form.Canvas};
+    QtPictures pictures{main.form.Canvas->surface()};
+    Form1 form{main.form.Canvas->surface(), window, dialogs, pictures, form2, form3, form4, form6};
+    Events events{form};
 
     Program()
     {
-        openMainWindow(form1);
-        form1.confirm.fill(0);
+        openMainWindow(form);
+        form.confirm.fill(0);
         QCoreApplication::processEvents();
     }
 };
@@ -49,7 +65,7 @@ void heldArrowKey(benchmark::State& state)
     int steps = 0;
     for (auto _ : state) {
         const int code = ++steps % 500 < 250 ? key::right : key::left;
-        deliver(program.form1, {.kind = Event::Kind::keyDown, .code = code});
+        program.events.deliver({.kind = Event::Kind::keyDown, .code = code});
         finish(state);
     }
 }
@@ -58,14 +74,14 @@ BENCHMARK(heldArrowKey)->ArgName("repaint")->Arg(0)->Arg(1);
 void pencilMotion(benchmark::State& state)
 {
     Program program;
-    deliver(program.form1, {.kind = Event::Kind::click, .name = "pencil1"});
-    deliver(program.form1, {.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
+    program.events.deliver({.kind = Event::Kind::click, .name = "pencil1"});
+    program.events.deliver({.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
     int i = 0;
     for (auto _ : state) {
         ++i;
         const auto x = static_cast<float>(1500 + i % 200 * 45);
         const auto y = static_cast<float>(1500 + i % 2 * 105);
-        deliver(program.form1, {.kind = Event::Kind::mouseMove, .code = button::left, .place = {x, y}});
+        program.events.deliver({.kind = Event::Kind::mouseMove, .code = button::left, .place = {x, y}});
         finish(state);
     }
 }
@@ -75,9 +91,9 @@ void symbol(benchmark::State& state)
 {
     Program program;
     for (auto _ : state) {
-        program.form1.x = 3000;
-        program.form1.y = 3000;
-        deliver(program.form1, {.kind = Event::Kind::click, .name = "exnor"});
+        program.form.x = 3000;
+        program.form.y = 3000;
+        program.events.deliver({.kind = Event::Kind::click, .name = "exnor"});
         finish(state);
     }
 }

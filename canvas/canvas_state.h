@@ -1,59 +1,12 @@
 #pragma once
 
-#include "platform/dialogs.h"
-#include "platform/event.h"
-#include "platform/pictures.h"
-#include "platform/runtime_error.h"
+#include "platform/name.h"
 #include "platform/surface.h"
 
 #include <array>
-#include <deque>
 #include <optional>
 #include <string>
-
-/// The controls on and around the canvas, by the names they have in the form.
-namespace control {
-inline constexpr Name Picture1 = "Picture1"; ///< the pen marker
-inline constexpr Name Shape1 = "Shape1";     ///< the eraser's outline
-inline constexpr Name Label27 = "Label27";   ///< says that erase mode is on
-inline constexpr Name Canvas = "Canvas";
-inline constexpr Name Toolbar1 = "Toolbar1";
-inline constexpr Name statusBar = "statusBar";
-inline constexpr Name Frame2 = "Frame2"; ///< the toolbox
-inline constexpr Name Label1 = "Label1"; ///< its handle
-inline constexpr Name rc = "rc";         ///< the right-click menu
-inline constexpr Name sb = "sb";         ///< panel 1 of the status bar, the hint
-inline constexpr Name sbPen = "sbPen";
-inline constexpr Name sbHeading = "sbHeading";
-inline constexpr Name sbTool = "sbTool";
-inline constexpr Name sbErase = "sbErase";
-inline constexpr Name sbJumpers = "sbJumpers";
-inline constexpr Name sbNotice = "sbNotice";       ///< only there while it says something
-inline constexpr Name sbPointer = "sbPointer";     ///< only there while the mouse is over the canvas
-inline constexpr Name sbOffCanvas = "sbOffCanvas"; ///< only there while the pen is off it
-inline constexpr Name statusTimer = "statusTimer";
-inline constexpr Name noticeTimer = "noticeTimer";
-inline constexpr Name Timer1 = "Timer1"; ///< shows the help window once at start
-inline constexpr Name Timer2 = "Timer2"; ///< blinks the pen marker
-
-// The panel of supplies and batteries
-inline constexpr Name panel = "panel"; ///< the box around all of it
-inline constexpr Name sup = "sup";
-inline constexpr Name bat = "bat";
-inline constexpr Name Label11 = "Label11";   ///< asks for the kind of supply
-inline constexpr Name Label13 = "Label13";   ///< asks for the kind of battery
-inline constexpr Name Label12 = "Label12";   ///< asks for the value, in sup
-inline constexpr Name Label28 = "Label28";   ///< asks for the value, in bat
-inline constexpr Name Option1 = "Option1";   ///< neither of the kinds; its switches are kept, but it is never seen
-inline constexpr Name Option2 = "Option2";   ///< current supply
-inline constexpr Name Option3 = "Option3";   ///< voltage supply
-inline constexpr Name Option4 = "Option4";   ///< positive battery
-inline constexpr Name Option5 = "Option5";   ///< negative battery
-inline constexpr Name Text11 = "Text11";     ///< the value
-inline constexpr Name Command3 = "Command3"; ///< draws
-inline constexpr Name Command7 = "Command7"; ///< cancels, in bat
-inline constexpr Name Command8 = "Command8"; ///< cancels, in sup
-} // namespace control
+#include <string_view>
 
 /// Directions of the pen. A heading variable may hold other numbers too, as the File menu leaves its answers there:
 /// nothing is drawn for those.
@@ -98,13 +51,42 @@ inline Point pointBeside(const Pen& pen, double dx = 0, double dy = 0)
     return {static_cast<float>(pen.x + dx), static_cast<float>(pen.y + dy)};
 }
 
-/// Everything the program knows besides the ink. One plain field per fact, 0 until something sets it; switches are
-/// 1 or 0; lengths are twips.
-struct CanvasState : Pen {
+/// What belongs to the drawing: all of it that is not ink.
+struct Drawing : Pen {
     int penMoved = 0; ///< 1 once an arrow key was pressed
 
+    Color canvasBackColor = black; ///< the canvas colour picked last
+    Color paperColor = white;      ///< the colour that the canvas has: never black
+
+    double resist = 0;       ///< sum of the resistances, ohm
+    double induc = 0;        ///< sum of the inductances, henry
+    double capac = 0;        ///< sum of the capacitances' reciprocals, 1/farad
+    std::string resistValue; ///< the texts last entered
+    std::string inductValue;
+    std::string capacValue;
+    double supplyValue = 0;     ///< the number typed last for a source, volt or ampere
+    double supplyVoltage = 0;   ///< sum of the voltage supplies, volt
+    double supplyCurrent = 0;   ///< sum of the current supplies, ampere
+    double batteryPositive = 0; ///< the last battery of each kind, volt; batteries are not summed
+    double batteryNegative = 0;
+    int diodeCount = 0; ///< PN and NP diodes placed
+
+    // The results that the Output window showed last. The formulas use capac, a sum of reciprocals, where they mean a
+    // capacitance, so the results are not true hertz or ohms.
+    double resonanceDenominator = 0;
+    double resonanceFrequency = 0;
+    double qualityFactor = 0;
+    double frequencyCopy = 0;
+    double angularFrequency = 0;
+    double frequencyCapac = 0;
+    double capacitiveReactance = 0;
+};
+
+/// Everything the program knows besides the ink: the drawing, and what belongs to the hand that draws it. One plain
+/// field per fact, 0 until something sets it; switches are 1 or 0; lengths are twips.
+struct CanvasState : Drawing {
     int eraseMode = 0;
-    int eraseHint = 0; ///< nothing sets it, so the hint it stands for never shows
+    int eraseHint = 0; ///< nothing sets it, so the hint that it stands for never shows
     int lineTool = 0;  ///< at most one of the three tools is 1
     int rectTool = 0;
     int pencilTool = 0;
@@ -116,6 +98,7 @@ struct CanvasState : Pen {
     int toolboxFollow = 0;    ///< 1 while the toolbox follows the mouse
     Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
+    Name lastFamily;          ///< the frame of the source panel that was opened last
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     std::string fileTitle; ///< the name of the file saved last since New, without its folder
@@ -129,10 +112,10 @@ struct CanvasState : Pen {
     int splashProgress = 0; ///< of the splash's bar, 0 to 100
     int helpOpen = 0;       ///< 1 = the help window slides open when it loads; nothing sets it, so it opens collapsed
     int helpLoaded = 0;     ///< 1 once the help window was shown
+    int form4Loaded = 0;    ///< 1 once the Output window was touched
 
+    Color pickedColor = black; ///< by the colour dialog, last
     Color wireColor = black;
-    Color canvasBackColor = black; ///< the one picked last
-    Color paperColor = white;      ///< the one that the canvas has: never black
 
     // The families' colours, black until the user picks one. Transistors share the transformers'.
     Color resistanceColor = black;
@@ -150,32 +133,6 @@ struct CanvasState : Pen {
 
     std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 
-    double resist = 0;       ///< sum of the resistances, ohm
-    double induc = 0;        ///< sum of the inductances, henry
-    double capac = 0;        ///< sum of the capacitances' reciprocals, 1/farad
-    std::string resistValue; ///< the texts last entered
-    std::string inductValue;
-    std::string capacValue;
-    double supplyValue = 0;     ///< the number typed last for a source, volt or ampere
-    double supplyVoltage = 0;   ///< sum of the voltage supplies, volt
-    double supplyCurrent = 0;   ///< sum of the current supplies, ampere
-    double batteryPositive = 0; ///< the last battery of each kind, volt; batteries are not summed
-    double batteryNegative = 0;
-    Name lastFamily{}; ///< the frame of the panel that was opened last
-
-    // What the Output window showed last, as far as it could be computed. The formulas put capac, a reciprocal, where
-    // they mean a capacitance, so the figures are no hertz and no ohms of the circuit drawn.
-    double resonanceDenominator = 0;
-    double resonanceFrequency = 0;
-    double qualityFactor = 0;
-    double frequencyCopy = 0;
-    double angularFrequency = 0;
-    double frequencyCapac = 0;
-    double capacitiveReactance = 0;
-    int form4Loaded = 0; ///< 1 once the Output window was touched
-
-    int diodeCount = 0; ///< PN and NP diodes placed
-
     // The button that closed a symbol's question last.
     int andAnswer = 0, orAnswer = 0, notAnswer = 0, norAnswer = 0, nandAnswer = 0, exorAnswer = 0, exnorAnswer = 0;
     int bufferAnswer = 0, opampAnswer = 0;
@@ -188,53 +145,3 @@ struct CanvasState : Pen {
     int acmotorAnswer = 0, dcmotorAnswer = 0, acgeneratorAnswer = 0, dcgeneratorAnswer = 0;
     int armatureAnswer = 0, fieldAnswer = 0;
 };
-
-/// What every command gets: the state and the way to the screen.
-struct Form1 : CanvasState {
-    Form1(Surface& canvas, Window& window, Dialogs& boxes, Pictures& files, Window& help, Window& about, Window& output,
-          Window& splash)
-        : surface(canvas), controls(window), dialogs(boxes), pictures(files), form2(help), form3(about), form4(output),
-          form6(splash)
-    {
-    }
-
-    Surface& surface;
-    Window& controls;
-    Dialogs& dialogs;
-    Pictures& pictures;
-    Window& form2; ///< the help window
-    Window& form3; ///< the about window
-    Window& form4; ///< the Output window
-    Window& form6; ///< the splash
-
-    std::deque<Event> waiting; ///< the one that is being handled first; empty while the user does nothing
-};
-
-/// The one shape of every command.
-using Handler = void (*)(Form1&);
-
-/// How far the marker's top stands above the pen, in twips: its picture's 16 pixels, and 4 to see the ink.
-inline constexpr double markerRise = 300;
-
-/// Sets the main window's variables to their start values, puts the pen at its start and the marker with it, and fills
-/// the Output window from the zeros, without showing it. What it does not assign stays: family colours, tools,
-/// automatic jumpers.
-void load(Form1& form);
-
-/// Names the program in the titles of its windows and boxes.
-inline constexpr std::string_view productName = "Schemlet 2.0";
-
-/// What the title shows in place of a file's name.
-inline constexpr std::string_view noFile = " New File ";
-
-/// Puts a file's name into the main window's title.
-void setTitle(Form1& form, std::string_view file);
-
-/// Tells the user what went wrong.
-void tell(Form1& form, const RuntimeError& error);
-
-/// Moves the marker to a left edge of its own, in twips, and to the pen's height.
-void placeMarker(Form1& form, double left);
-
-/// One tick of the marker's blink, every 500 ms.
-void Timer2(Form1& form);

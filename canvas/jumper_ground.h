@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 /// Hops over a crossing wire along the heading, in the foreground colour, and moves the pen past it: 200 twips to the
 /// right or left, 220 up or down. For any other heading it does nothing and returns false.

@@ -1,8 +1,7 @@
 #include "canvas/keyboard.h"
 
 #include "canvas/jumper_ground.h"
-#include "circuit/supply_panel.h"
-#include "circuit/valued_components.h"
+#include "canvas/pen_marker.h"
 #include "platform/event.h"
 
 #include <algorithm>
@@ -23,14 +22,6 @@ constexpr ArrowKey arrowKeys[] = {{key::right, heading::right, 1, 0, 110, 0},
                                   {key::left, heading::left, -1, 0, 110, 0},
                                   {key::up, heading::up, 0, -1, 100, -100},
                                   {key::down, heading::down, 0, 1, 100, 100}};
-
-struct Letter {
-    char capital;
-    Handler handler;
-};
-
-constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', suppl},  {'B', batter},
-                              {'I', inductanc}, {'C', capacitanc},       {'E', eraser1}};
 
 constexpr int dotSpacing = 10;
 constexpr float dotRadius = 10;
@@ -87,23 +78,13 @@ void keyDown(Form1& form, int code)
     }
 }
 
-void keyPress(Form1& form, int character)
-{
-    form.savedMark = 0;
-    const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
-    const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
-    if (letter != std::end(letters)) {
-        letter->handler(form);
-    }
-}
-
 void eraser1(Form1& form)
 {
     constexpr int normalWidth = 2;
     constexpr int eraserWidth = 10;
     form.surface.setDrawWidth(form.surface.drawWidth() == eraserWidth ? normalWidth : eraserWidth);
     form.eraseMode = form.eraseMode == 0 ? 1 : 0;
-    form.controls.flipVisible(control::Label27);
+    form.window.flipVisible(control::Label27);
 }
 
 void toggleAutoJumper(Form1& form)
@@ -113,6 +94,6 @@ void toggleAutoJumper(Form1& form)
 
 void jj(Form1& form)
 {
-    form.controls.flipChecked("jj");
+    form.window.flipChecked(item::jj);
     toggleAutoJumper(form);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 inline constexpr int stepLength = 50; ///< twips of wire for each arrow key
 
@@ -11,9 +11,6 @@ void layStep(Surface& surface, Pen& pen);
 /// A key going down. Any key marks the drawing changed; the arrow keys turn the pen and, outside erase mode, lay
 /// a step of wire. Codes are those of platform/event.h.
 void keyDown(Form1& form, int code);
-
-/// A typed character, a UTF-16 unit: a component's or a mode's letter, capital or small, or nothing but a changed mark.
-void keyPress(Form1& form, int character);
 
 /// Switches erase mode: pen width (2 or 10 pixels), mode and label flip each from its own state.
 void eraser1(Form1& form);

@@ -1,6 +1,7 @@
 #include "canvas/mouse.h"
 
 #include "canvas/keyboard.h"
+#include "canvas/pen_marker.h"
 #include "platform/event.h"
 
 namespace {
@@ -24,10 +25,10 @@ void erase(Form1& form, Point place)
 
 void showEraserOutline(Form1& form, Point place)
 {
-    form.controls.setVisible(control::Shape1, form.eraseMode == 1);
+    form.window.setVisible(control::Shape1, form.eraseMode == 1);
     if (form.eraseMode == 1) {
-        form.controls.setLeft(control::Shape1, place.x - 225);
-        form.controls.setTop(control::Shape1, place.y - 150);
+        form.window.setLeft(control::Shape1, place.x - 225);
+        form.window.setTop(control::Shape1, place.y - 150);
     }
 }
 
@@ -47,7 +48,7 @@ void mouseDown(Form1& form, int button, Point place)
         form.surface.setCurrent(place);
     }
     if (button == button::right) {
-        form.controls.popUp(control::rc, place);
+        form.window.popUp(control::rc, place);
     }
 }
 
@@ -57,15 +58,15 @@ void mouseMove(Form1& form, int buttons, Point place)
     if (buttons == button::left && form.pencilTool == 1) {
         form.surface.line(form.surface.current(), place);
     }
-    form.controls.setText(control::sb,
-                          form.eraseHint == 1 ? " Press 'E' to return to normal mode " : " Press F1 for Help ");
+    form.window.setText(control::sb,
+                        form.eraseHint == 1 ? " Press 'E' to return to normal mode " : " Press F1 for Help ");
     showEraserOutline(form, place);
     if (form.eraseMode == 1 && buttons == button::left) {
         erase(form, place);
     }
     if (form.toolboxFollow == 1) {
-        form.controls.setLeft(control::Frame2, place.x);
-        form.controls.setTop(control::Frame2, place.y);
+        form.window.setLeft(control::Frame2, place.x);
+        form.window.setTop(control::Frame2, place.y);
     }
 }
 
@@ -77,8 +78,8 @@ void mouseUp(Form1& form, int button, Point place)
     if (button != button::left) {
         return;
     }
-    form.controls.setLeft(control::Picture1, place.x);
-    form.controls.setTop(control::Picture1, place.y - markerRise);
+    form.window.setLeft(control::Picture1, place.x);
+    form.window.setTop(control::Picture1, place.y - markerRise);
     const Point from = form.surface.current();
     if (form.lineTool == 1) {
         form.surface.line(from, place);
@@ -90,7 +91,7 @@ void mouseUp(Form1& form, int button, Point place)
 
 void popUpAtPen(Form1& form)
 {
-    form.controls.popUp(control::rc, pointBeside(form));
+    form.window.popUp(control::rc, pointBeside(form));
 }
 
 void linee(Form1& form)

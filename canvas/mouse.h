@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 /// Mouse on the canvas; places in twips, buttons as in platform/event.h. A press of the left button puts the pen, a
 /// press of the right one opens the popup menu.

@@ -4,5 +4,10 @@ void notify(Form1& form, std::string_view text)
 {
     constexpr int duration = 5000; // milliseconds
     form.notice = text;
-    form.controls.setInterval(control::noticeTimer, duration);
+    form.window.setInterval(control::noticeTimer, duration);
+}
+
+void tell(Form1& form, const RuntimeError& error)
+{
+    form.dialogs.messageBox(error.what(), Box::okWarning, productName);
 }

@@ -1,6 +1,10 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
+#include "platform/runtime_error.h"
+
+/// Names the program in the titles of its windows and boxes.
+inline constexpr std::string_view productName = "Schemlet 2.0";
 
 inline constexpr std::string_view noDirection = "Nothing drawn: no direction";
 /// Of what has a value, which is in the totals all the same.
@@ -9,3 +13,6 @@ inline constexpr std::string_view countedOnly = "Counted but not drawn: no direc
 /// Says in the status bar for some seconds why a command did nothing, or not all of it, where the canvas does not show
 /// it. In a few words: a narrow window has room for about 40 letters.
 void notify(Form1& form, std::string_view text);
+
+/// Tells the user in a message box what went wrong.
+void tell(Form1& form, const RuntimeError& error);

@@ -1,5 +1,6 @@
 #include "circuit/output_window.h"
 
+#include "canvas/notice.h"
 #include "circuit/numbers.h"
 #include "platform/runtime_error.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 // The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
 // there before. Formulas and the figure for two pi are the product's own: they take the sum of the capacitances'

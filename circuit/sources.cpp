@@ -43,10 +43,10 @@ using SupplyBranches = std::array<Branch, 4>;
 constexpr SupplyBranches supplyBranches(std::span<const Stroke> rows)
 {
     constexpr auto moved = Origin::movedPen;
-    return {Branch{.heading = heading::right, .strokes = rows, .after = {210, 0}, .before = {200, 0}, .origin = moved},
-            Branch{.heading = heading::left, .strokes = rows, .after = {-210, 0}, .before = {-200, 0}, .origin = moved},
-            Branch{.heading = heading::up, .strokes = rows, .after = {0, -210}, .before = {0, -200}, .origin = moved},
-            Branch{.heading = heading::down, .strokes = rows, .after = {0, 210}, .before = {0, 200}, .origin = moved}};
+    return {Branch{.heading = heading::right, .before = {200, 0}, .origin = moved, .strokes = rows, .after = {210, 0}},
+            Branch{.heading = heading::left, .before = {-200, 0}, .origin = moved, .strokes = rows, .after = {-210, 0}},
+            Branch{.heading = heading::up, .before = {0, -200}, .origin = moved, .strokes = rows, .after = {0, -210}},
+            Branch{.heading = heading::down, .before = {0, 200}, .origin = moved, .strokes = rows, .after = {0, 210}}};
 }
 
 constexpr SupplyBranches voltageSupplyBranches = supplyBranches(voltageRows);

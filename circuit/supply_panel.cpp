@@ -14,40 +14,40 @@ constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, 
 /// The box shows as long as a family is open.
 void followFamilies(Form1& form)
 {
-    const bool open = form.controls.visible(control::sup) || form.controls.visible(control::bat);
-    form.controls.setVisible(control::panel, open);
+    const bool open = form.window.visible(control::sup) || form.window.visible(control::bat);
+    form.window.setVisible(control::panel, open);
     keepPanelAside(form);
 }
 
 void askForValue(Form1& form, Name prompt, Name cancel)
 {
-    form.controls.show({prompt, control::Command3, cancel, control::Text11});
-    form.controls.enable({control::Command3, cancel, control::Text11});
-    form.controls.focus(control::Text11);
+    form.window.show({prompt, control::Command3, cancel, control::Text11});
+    form.window.enable({control::Command3, cancel, control::Text11});
+    form.window.focus(control::Text11);
 }
 
 /// Where the number is too large, the keyboard goes to it.
 double typedValue(Form1& form)
 {
     try {
-        return leadingNumber(form.controls.text(control::Text11));
+        return leadingNumber(form.window.text(control::Text11));
     } catch (const RuntimeError&) {
-        form.controls.focus(control::Text11);
+        form.window.focus(control::Text11);
         throw;
     }
 }
 
 void hideRestOfPanel(Form1& form)
 {
-    form.controls.hide({control::Option1, control::Option2, control::Option3, control::Option4, control::Option5,
-                        control::Label11, control::Label13, control::bat, control::sup});
+    form.window.hide({control::Option1, control::Option2, control::Option3, control::Option4, control::Option5,
+                      control::Label11, control::Label13, control::bat, control::sup});
     followFamilies(form);
 }
 
 /// And not cancelled, which leaves the choice but disables it.
 bool isChosen(const Form1& form, Name option)
 {
-    return form.controls.value(option) != 0 && form.controls.enabled(option);
+    return form.window.value(option) != 0 && form.window.enabled(option);
 }
 
 /// Whether this kind was chosen. If so, it is drawn next, and the choice is used up.
@@ -57,33 +57,45 @@ bool takes(Form1& form, Name option)
         return false;
     }
     hideRestOfPanel(form);
-    form.controls.setValue(option, 0);
+    form.window.setValue(option, 0);
     return true;
 }
 
 } // namespace
 
+void preparePanel(Form1& form)
+{
+    const auto frames = {control::panel, control::sup, control::bat};
+    const auto labels = {control::Label11, control::Label13, control::Label12, control::Label28};
+    const auto inputs = {control::Option1, control::Option2,  control::Option3,  control::Option4, control::Option5,
+                         control::Text11,  control::Command3, control::Command7, control::Command8};
+    form.window.hide(frames);
+    form.window.hide(labels);
+    form.window.hide(inputs);
+    form.window.disable(inputs);
+}
+
 void suppl(Form1& form)
 {
-    form.controls.enable({control::Option1});
-    form.controls.show({control::sup});
-    form.controls.enable({control::Option2, control::Option3});
-    form.controls.setValue(control::Option2, 0);
-    form.controls.setValue(control::Option3, 0);
-    form.controls.show({control::Label11, control::Option1, control::Option2, control::Option3});
+    form.window.enable({control::Option1});
+    form.window.show({control::sup});
+    form.window.enable({control::Option2, control::Option3});
+    form.window.setValue(control::Option2, 0);
+    form.window.setValue(control::Option3, 0);
+    form.window.show({control::Label11, control::Option1, control::Option2, control::Option3});
     form.lastFamily = control::sup;
     followFamilies(form);
 }
 
 void batter(Form1& form)
 {
-    form.controls.show({control::bat});
-    form.controls.enable({control::Option4, control::Option5});
-    form.controls.show({control::Option1, control::Label13, control::Option4, control::Option5});
-    form.controls.enable({control::Option5});
-    form.controls.setValue(control::Option4, 0);
-    form.controls.setValue(control::Option5, 0);
-    form.controls.hide({control::Label28});
+    form.window.show({control::bat});
+    form.window.enable({control::Option4, control::Option5});
+    form.window.show({control::Option1, control::Label13, control::Option4, control::Option5});
+    form.window.enable({control::Option5});
+    form.window.setValue(control::Option4, 0);
+    form.window.setValue(control::Option5, 0);
+    form.window.hide({control::Label28});
     form.lastFamily = control::bat;
     followFamilies(form);
 }
@@ -100,20 +112,20 @@ void Option3(Form1& form)
 
 void Option4(Form1& form)
 {
-    form.controls.setValue(control::Option5, 0);
+    form.window.setValue(control::Option5, 0);
     askForValue(form, control::Label28, control::Command7);
 }
 
 void Option5(Form1& form)
 {
-    form.controls.setValue(control::Option4, 0);
+    form.window.setValue(control::Option4, 0);
     askForValue(form, control::Label28, control::Command7);
 }
 
 void Command3(Form1& form)
 {
     const double typed = typedValue(form); // before anything is hidden: it may overflow
-    form.controls.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
+    form.window.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
     form.supplyValue = typed;
     if (std::ranges::none_of(kinds, [&form](Name kind) { return isChosen(form, kind); })) {
         notify(form, "Nothing drawn: no kind was chosen");
@@ -124,7 +136,7 @@ void Command3(Form1& form)
     if (takes(form, control::Option5)) {
         place(form, negativeBattery, typed);
     }
-    form.controls.setText(control::Text11, "");
+    form.window.setText(control::Text11, "");
     if (takes(form, control::Option3)) {
         place(form, voltageSupply, typed);
     }
@@ -135,22 +147,22 @@ void Command3(Form1& form)
 
 void Command7(Form1& form)
 {
-    form.controls.disable({control::Option4, control::Option5, control::Option1});
-    form.controls.hide({control::bat});
-    form.controls.disable({control::Command3, control::Command7});
-    form.controls.hide({control::Option4, control::Option5});
-    form.controls.disable({control::Text11});
+    form.window.disable({control::Option4, control::Option5, control::Option1});
+    form.window.hide({control::bat});
+    form.window.disable({control::Command3, control::Command7});
+    form.window.hide({control::Option4, control::Option5});
+    form.window.disable({control::Text11});
     form.lastFamily = control::sup; // if that is open too
     followFamilies(form);
 }
 
 void Command8(Form1& form)
 {
-    form.controls.disable({control::Option2, control::Option3, control::Option1});
-    form.controls.hide({control::sup});
-    form.controls.disable({control::Command3, control::Command8});
-    form.controls.hide({control::Option2, control::Option3, control::Label11, control::Label12});
-    form.controls.disable({control::Text11});
+    form.window.disable({control::Option2, control::Option3, control::Option1});
+    form.window.hide({control::sup});
+    form.window.disable({control::Command3, control::Command8});
+    form.window.hide({control::Option2, control::Option3, control::Label11, control::Label12});
+    form.window.disable({control::Text11});
     form.lastFamily = control::bat;
     followFamilies(form);
 }
@@ -166,22 +178,22 @@ void cancelPanel(Form1& form)
 
 void keepPanelAside(Form1& form)
 {
-    form.controls.placeAwayFrom(control::panel, pointBeside(form), control::Frame2);
+    form.window.placeAwayFrom(control::panel, pointBeside(form), control::Frame2);
 }
 
 void clearOptions(Form1& form)
 {
     for (const Name option : kinds) {
-        form.controls.setValue(option, 0);
+        form.window.setValue(option, 0);
     }
 }
 
 void colorPanel(Form1& form)
 {
     for (const Name option : kinds) {
-        form.controls.setBackColor(option, form.canvasBackColor);
+        form.window.setBackColor(option, form.canvasBackColor);
     }
-    form.controls.setBackColor(control::panel, form.canvasBackColor);
-    form.controls.setBackColor(control::bat, form.canvasBackColor);
-    form.controls.setBackColor(control::sup, form.canvasBackColor);
+    form.window.setBackColor(control::panel, form.canvasBackColor);
+    form.window.setBackColor(control::bat, form.canvasBackColor);
+    form.window.setBackColor(control::sup, form.canvasBackColor);
 }

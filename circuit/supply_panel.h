@@ -1,10 +1,13 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 // Supplies and batteries are chosen and typed in a panel on the canvas. Both families may be open at once: one click
 // on its button then draws a battery and a supply, one after the other. Sources are black, which stays the foreground
 // colour, and leave the marker where it is.
+
+/// Hides and disables all of it, as it is at start.
+void preparePanel(Form1& form);
 
 /// Opens the panel for supplies.
 void suppl(Form1& form);

@@ -90,21 +90,18 @@ constexpr ValuedComponent capacitor{" Enter Value of Capacitance ",
 void place(Form1& form, const ValuedComponent& component)
 {
     form.surface.setForeColor(form.*component.color);
+    const std::string entered = form.dialogs.inputBox(component.prompt, component.title, "10").value_or("");
     std::string& typed = form.*component.typed;
-    typed = form.dialogs.inputBox(component.prompt, component.title, "10");
-    const bool cancelled = typed.empty();
-    if (cancelled) {
-        typed.push_back('0');
-    }
+    typed = entered.empty() ? "0" : entered;
     const double value = toNumber(typed);
     if (value != 0) {
         form.*component.total = checked(form.*component.total + component.share(value));
         if (!draw(form.surface, form, component.branches, typed)) {
             notify(form, countedOnly);
         }
-    } else if (!cancelled) {
+    } else if (!entered.empty()) {
         notify(form, "A value of 0 draws nothing");
     }
     form.surface.setForeColor(black);
-    placeMarkerGateForm(form);
+    moveMarkerLeft(form);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/surface.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,16 +30,18 @@ public:
     /// Esc or closing the box counts as Cancel if it has that button, else as No; so does OK.
     virtual int messageBox(std::string_view prompt, Box style, std::string_view title) = 0;
 
-    /// Asks for one line of text, with the preset selected so that typing replaces it. Empty on Cancel.
-    virtual std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) = 0;
+    /// Asks for one line of text, with the preset selected so that typing replaces it. None on Cancel.
+    virtual std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view preset) = 0;
 
-    /// Lets the user pick a colour. On Cancel it is the one picked last, by whatever command; black before the first.
-    virtual Color pickColor(std::string_view title) = 0;
+    /// Lets the user pick a colour, from this one on. None on Cancel.
+    virtual std::optional<Color> pickColor(std::string_view title, Color first) = 0;
 
-    /// Asks for a picture file to open; its path, empty on Cancel.
-    virtual std::string openFile() = 0;
+    /// Asks for a picture file to open; its path. None on Cancel.
+    virtual std::optional<std::string> openFile() = 0;
     /// Asks for a file to write; its path. Proposes a name, which may be empty, in the folder used last. A name without
-    /// an extension gets this one; the filter is what the dialog says of the files, a bar, and their pattern. Throws
-    /// dialogCancelled.
-    virtual std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) = 0;
+    /// an extension gets this one; the filter is what the dialog says of the files, a bar, and their pattern. None
+    /// on Cancel.
+    virtual std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
+                                                std::string_view filter) = 0;
 };

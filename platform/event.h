@@ -1,6 +1,9 @@
 #pragma once
 
-#include "platform/window.h"
+#include "platform/name.h"
+#include "platform/surface.h"
+
+#include <string_view>
 
 /// The keys that mean something on their way down; every other key reports 0.
 namespace key {
@@ -10,12 +13,6 @@ inline constexpr int right = 39;
 inline constexpr int down = 40;
 } // namespace key
 
-/// Characters of keys that do something in a control instead of typing.
-namespace character {
-inline constexpr int enter = 13;
-inline constexpr int escape = 27;
-} // namespace character
-
 /// Mouse buttons: one of them for a press or a release, their sum for a move.
 namespace button {
 inline constexpr int left = 1;
@@ -23,15 +20,16 @@ inline constexpr int right = 2;
 inline constexpr int middle = 4;
 } // namespace button
 
-/// One thing the user or the clock did. All windows report through one function that takes these. A close is the user's
-/// wish only: the window stays as it is until the program has decided.
+/// One thing that the user or the clock did. All windows report through one function that takes these. Keys and mouse
+/// are the canvas's; everything else happened to something that has a name. Enter in a text box is a click on the
+/// button that it stands for, Esc in the panel a click on the panel. A close is a wish only: the window stays as it is
+/// until the program has decided.
 struct Event {
     enum class Kind { keyDown, keyPress, mouseDown, mouseMove, mouseUp, click, hover, tick, close };
 
     Kind kind;
-    Name window = mainWindow;
-    Name name{};   ///< what was clicked, hovered over (none: the mouse left the canvas) or ticked; of a keyPress, the
-                   ///< control that took it, none for the canvas
-    int code = 0;  ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
-    Point place{}; ///< mouse: where on the canvas
+    std::string_view window = mainWindow.text();
+    std::string_view name{}; ///< what was clicked, hovered over (none: the mouse left the canvas) or ticked
+    int code = 0;            ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
+    Point place{};           ///< mouse: where on the canvas
 };

@@ -32,8 +32,3 @@ void Window::flipVisible(Name control)
 {
     setVisible(control, !visible(control));
 }
-
-void Window::flipChecked(Name item)
-{
-    setChecked(item, !checked(item));
-}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 /// The about window and its controls.
 namespace form3 {

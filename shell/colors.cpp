@@ -13,7 +13,7 @@ void bc(Form1& form)
     pickColor<colored::canvas>(form);
     if (form.canvasBackColor != black) {
         form.surface.setBackColor(form.canvasBackColor);
-        form.controls.setBackColor(control::Frame2, form.canvasBackColor);
+        form.window.setBackColor(control::Frame2, form.canvasBackColor);
         form.paperColor = form.canvasBackColor;
     } else {
         notify(form, "Black reaches the panel and the eraser only");

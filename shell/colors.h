@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 // All colour commands share one dialog. After Cancel they take the colour that was picked last, by whichever of them.
 
@@ -30,7 +30,8 @@ inline constexpr Colored canvas{&CanvasState::canvasBackColor, "Canvas color: wi
 
 template <const Colored& colored> void pickColor(Form1& form)
 {
-    form.*colored.color = form.dialogs.pickColor(colored.title);
+    form.pickedColor = form.dialogs.pickColor(colored.title, form.pickedColor).value_or(form.pickedColor);
+    form.*colored.color = form.pickedColor;
 }
 
 /// The wires' colour.

@@ -4,6 +4,7 @@
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
 #include "circuit/output_window.h"
+#include "circuit/sources.h"
 #include "circuit/supply_panel.h"
 #include "circuit/valued_components.h"
 #include "shell/about.h"
@@ -26,11 +27,24 @@
 
 namespace {
 
-constexpr MenuItem separator{"", "-"};
+/// One row of the menu tree.
+struct MenuRow {
+    int depth = 0; ///< 0 on the bar; each further depth lies under the row above it
+    MenuItem item;
+    Handler handler = nullptr; ///< none: a submenu or a separator
+};
+
+constexpr MenuItem separator{{}, "-"};
+
+/// The item of a family's question.
+template <Confirm family> constexpr MenuRow question(std::string_view caption)
+{
+    return {1, {confirmItems[family], caption, "", Look::checked}, toggleConfirm<family>};
+}
 
 // The whole tree in its visible order. Blanks and spellings of the captions are the product's own.
 // clang-format off
-constexpr Command menu[] = {
+constexpr MenuRow menu[] = {
     {0, {"file", "  &File  "}},
         {1, {"new", "&New", "Ctrl+N"}, new_}, {1, separator},
         {1, {"open", "&Open", "Ctrl+O"}, open}, {1, separator},
@@ -45,9 +59,9 @@ constexpr Command menu[] = {
         {1, {"ground", "&Ground", "Ctrl+G"}, ground}, {1, separator},
         {1, {"jumper", "Jumper", "Ctrl+J"}, jumper},
     {0, {"view", " &View "}},
-        {1, {"lll", "&ToolBar", "Ctrl+H", Look::checked}, lll}, {1, separator},
-        {1, {"sss", "&StatusBar", "Ctrl+K", Look::checked}, sss}, {1, separator},
-        {1, {"toolbox", "&ToolBox", "Ctrl+T", Look::checked}, toolbox}, {1, separator},
+        {1, {item::lll, "&ToolBar", "Ctrl+H", Look::checked}, lll}, {1, separator},
+        {1, {item::sss, "&StatusBar", "Ctrl+K", Look::checked}, sss}, {1, separator},
+        {1, {item::toolbox, "&ToolBox", "Ctrl+T", Look::checked}, toolbox}, {1, separator},
         {1, {"output", "&Output", "Ctrl+U"}, output},
     {0, {"electricalcomponents", " &Electrical Components "}},
         {1, {"resistance", "&Resistance"}, resistanc}, {1, separator},
@@ -126,27 +140,77 @@ constexpr Command menu[] = {
         {1, {"backc", "&Back Color"}, bc}, {1, separator},
         {1, {"hheellpp", "&Help"}, htu},
     {0, {"askc", " &Ask Confirmation"}},
-        {1, {"m", "&Motors", "", Look::checked}, toggleConfirm<motorsConfirm>}, {1, separator},
-        {1, {"g", "&Generators", "", Look::checked}, toggleConfirm<generatorsConfirm>}, {1, separator},
-        {1, {"tr", "&Transformers", "", Look::checked}, toggleConfirm<transformersConfirm>}, {1, separator},
-        {1, {"aar", "&Armature", "", Look::checked}, toggleConfirm<armatureConfirm>}, {1, separator},
-        {1, {"f", "&Field", "", Look::checked}, toggleConfirm<fieldConfirm>}, {1, separator},
-        {1, {"npnt", "&NPN Transistors", "", Look::checked}, toggleConfirm<npnConfirm>}, {1, separator},
-        {1, {"pnpt", "&PNP Transistors", "", Look::checked}, toggleConfirm<pnpConfirm>}, {1, separator},
-        {1, {"jfett", "&JEFT Transistors", "", Look::checked}, toggleConfirm<jfetConfirm>}, {1, separator},
-        {1, {"thy", "T&hyristors", "", Look::checked}, toggleConfirm<thyristorsConfirm>}, {1, separator},
-        {1, {"gg", "&Gates", "", Look::checked}, toggleConfirm<gatesConfirm>}, {1, separator},
-        {1, {"dii", "&Diodes", "", Look::checked}, toggleConfirm<diodesConfirm>}, {1, separator},
-        {1, {"buffer1", "&Buffer", "", Look::checked}, toggleConfirm<bufferConfirm>}, {1, separator},
-        {1, {"opamp1", "&OP - AMP", "", Look::checked}, toggleConfirm<opampConfirm>}, {1, separator},
+        question<motorsConfirm>("&Motors"), {1, separator},
+        question<generatorsConfirm>("&Generators"), {1, separator},
+        question<transformersConfirm>("&Transformers"), {1, separator},
+        question<armatureConfirm>("&Armature"), {1, separator},
+        question<fieldConfirm>("&Field"), {1, separator},
+        question<npnConfirm>("&NPN Transistors"), {1, separator},
+        question<pnpConfirm>("&PNP Transistors"), {1, separator},
+        question<jfetConfirm>("&JEFT Transistors"), {1, separator},
+        question<thyristorsConfirm>("T&hyristors"), {1, separator},
+        question<gatesConfirm>("&Gates"), {1, separator},
+        question<diodesConfirm>("&Diodes"), {1, separator},
+        question<bufferConfirm>("&Buffer"), {1, separator},
+        question<opampConfirm>("&OP - AMP"), {1, separator},
     {0, {"ae", " &Enable "}},
-        {1, {"jj", "Automatic Jumper", "", Look::unchecked}, jj},
+        {1, {item::jj, "Automatic Jumper", "", Look::unchecked}, jj},
     {0, {"help", " &Help "}},
         {1, {"htu", "H&ow to use", "F1"}, htu}, {1, separator},
         {1, {"about", "&About", "Ctrl+A"}, about},
 };
 // clang-format on
 
+/// Draws a symbol, a component or a source for its toolbox picture, the pen at (x, y) twips.
+template <const auto& component, int x, int y> void sketch(Surface& surface)
+{
+    Pen pen{x, y, heading::right};
+    draw(surface, pen, component.branches, "10");
+}
+
+constexpr ToolButton toolbar[] = {
+    {"New", "New (Ctrl+N)", " Click to start a new drawing ", new_},
+    {"Open", "Open (Ctrl+O)", " Click to open a picture as the drawing's background ", open},
+    {"Save", "Save (Ctrl+S)", " Click to save the drawing as a picture ", save},
+    {"Print", "Print (Ctrl+P)", " Click to print the drawing ", print},
+    {},
+    {"Help", "How to use (F1)", " Click to see how to use the program ", htu},
+    {"Output", "Output (Ctrl+U)", " Click to see the totals and what follows from them ", output},
+    {"ToolBox", "ToolBox (Ctrl+T)", " Click to show or hide the toolbox ", toolBoxButton},
+    {},
+    {"Line", "Line (Ctrl+L)", " Click to draw lines with the mouse ", linee, &CanvasState::lineTool},
+    {"Pencil", "Pencil (Ctrl+C)", " Click to draw free-hand with the mouse ", pencil1, &CanvasState::pencilTool},
+    {"Fore", "Fore Color (Ctrl+F)", " Click to choose the color of wires ", forec, nullptr, &CanvasState::wireColor},
+    {"Back", "Back Color (Ctrl+B)", " Click to choose the color of the canvas, which wipes it ", bc, nullptr,
+     &CanvasState::paperColor},
+    {"Eraser", "Eraser (Ctrl+E)", " Click to switch erase mode on or off ", eraser1, &CanvasState::eraseMode},
+    {"Box", "Rectangle (Ctrl+R)", " Click to draw rectangles with the mouse ", rectan, &CanvasState::rectTool},
+};
+
+constexpr ToolPicture pictures[] = {
+    {"Image1", " Click to draw AND Gate ", and_, sketch<andGate, 380, 260>},
+    {"Image2", " Click to draw OR Gate ", or_, sketch<orGate, 380, 260>},
+    {"Image3", " Click to draw NOT Gate ", notgate, sketch<notGate, 360, 280>},
+    {"Image4", " Click to draw NOR Gate ", nor, sketch<norGate, 380, 260>},
+    {"Image5", " Click to draw NAND Gate ", nand, sketch<nandGate, 350, 260>},
+    {"Image15", " Click to draw RESISTANCE", resistanc, sketch<resistor, 20, 150>},
+    {"Image16", " Click to draw INDUCTANCE ", inductanc, sketch<inductor, 90, 190>},
+    {"Image17", " Click to draw CAPACITANCE ", capacitanc, sketch<capacitor, 470, 205>},
+    {"Image18", " Click to draw SUPPLY", suppl, sketch<voltageSupply, 340, 300>},
+    {"Image19", " Click to draw BATTERY", batter, sketch<negativeBattery, 500, 460>},
+    {"Image20", " Click to get ERASER", eraserPicture},
+    {"Image7", " Click to Close the ToolBox ", toolbox},
+};
+
+struct Letter {
+    char capital;
+    Handler handler;
+};
+
+constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', suppl},  {'B', batter},
+                              {'I', inductanc}, {'C', capacitanc},       {'E', eraser1}};
+
+/// Buttons, labels and the source panel itself, on which Esc is a click.
 constexpr NamedHandler controls[] = {
     {mainWindow, control::Option2, Option2},
     {mainWindow, control::Option3, Option3},
@@ -155,6 +219,7 @@ constexpr NamedHandler controls[] = {
     {mainWindow, control::Command3, Command3},
     {mainWindow, control::Command7, Command7},
     {mainWindow, control::Command8, Command8},
+    {mainWindow, control::panel, cancelPanel},
     {mainWindow, control::Label1, Label1},
     {form2::window, form2::control::Check1, form2::Check1},
     {form2::window, form2::control::Label23, form2::Label23},
@@ -164,37 +229,66 @@ constexpr NamedHandler controls[] = {
     {form4::window, form4::control::print, form4::printForm},
 };
 
-Handler handlerOf(Name window, Name name)
+/// Of a menu item, a toolbar button or a toolbox picture; null if there is none of this name.
+Handler handlerOf(std::string_view name)
 {
-    if (const Handler handler = findHandler(controls, window, name)) {
-        return handler;
+    for (const MenuRow& row : menu) {
+        if (row.item.name.text() == name) {
+            return row.handler;
+        }
     }
-    if (window != mainWindow) {
-        return nullptr;
+    for (const ToolButton& button : toolbar) {
+        if (button.name.text() == name) {
+            return button.handler;
+        }
     }
-    const auto* const item = std::ranges::find(menu, name, [](const Command& row) { return row.item.name; });
-    return item != std::end(menu) ? item->handler : toolHandler(name);
+    const auto* const picture =
+        std::ranges::find(pictures, name, [](const ToolPicture& row) { return row.name.text(); });
+    return picture != std::end(pictures) ? picture->handler : nullptr;
 }
 
 } // namespace
 
-Handler findHandler(std::span<const NamedHandler> rows, Name window, Name name)
+std::span<const ToolButton> toolbarButtons()
 {
-    const auto found =
-        std::ranges::find_if(rows, [&](const NamedHandler& row) { return row.window == window && row.name == name; });
-    return found == rows.end() ? nullptr : found->handler;
+    return toolbar;
+}
+
+std::span<const ToolPicture> toolboxPictures()
+{
+    return pictures;
 }
 
 void addMenus(Form1& form)
 {
-    for (const Command& command : menu) {
-        form.controls.addMenuItem(command.depth, command.item);
+    for (const MenuRow& row : menu) {
+        form.window.addMenuItem(row.depth, row.item);
     }
 }
 
-void runCommand(Form1& form, Name window, Name name)
+void runRow(Form1& form, std::span<const NamedHandler> rows, std::string_view window, std::string_view name)
 {
-    if (const Handler handler = handlerOf(window, name)) {
+    const auto row = std::ranges::find_if(
+        rows, [&](const NamedHandler& each) { return each.window.text() == window && each.name.text() == name; });
+    if (row != rows.end()) {
+        row->handler(form);
+    }
+}
+
+void runCommand(Form1& form, std::string_view window, std::string_view name)
+{
+    runRow(form, controls, window, name);
+    if (const Handler handler = handlerOf(name); handler != nullptr && window == mainWindow.text()) {
         handler(form);
+    }
+}
+
+void keyPress(Form1& form, int character)
+{
+    form.savedMark = 0;
+    const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
+    const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
+    if (letter != std::end(letters)) {
+        letter->handler(form);
     }
 }

@@ -1,15 +1,36 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 #include <span>
+#include <string_view>
 
-/// One row of the menu tree.
-struct Command {
-    int depth = 0; ///< 0 on the bar; each further depth lies under the row above it
-    MenuItem item;
-    Handler handler = nullptr; ///< none: a submenu or a separator
+// Every way to a command stands in a table of commands.cpp: menus and popup menu, toolbar, toolbox, letters, buttons
+// and labels of all windows.
+
+/// A button of the toolbar; without a name it is a separator.
+struct ToolButton {
+    Name name;
+    std::string_view tip;
+    std::string_view hint; ///< for the status bar
+    Handler handler = nullptr;
+    int CanvasState::*pressed = nullptr;  ///< the switch that it shows, if any
+    Color CanvasState::*swatch = nullptr; ///< the colour that it shows, if any
 };
+
+/// A button of the toolbox, with a picture of what it draws.
+struct ToolPicture {
+    Name name;
+    std::string_view hint; ///< for the status bar
+    Handler handler = nullptr;
+    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
+};
+
+[[nodiscard]] std::span<const ToolButton> toolbarButtons();
+[[nodiscard]] std::span<const ToolPicture> toolboxPictures();
+
+/// Builds the main window's menus, the popup menu included.
+void addMenus(Form1& form);
 
 /// What a control or a timer of one of the windows does, or a window's frame, which has no name.
 struct NamedHandler {
@@ -18,11 +39,12 @@ struct NamedHandler {
     Handler handler = nullptr;
 };
 
-/// None if no row has these names.
-[[nodiscard]] Handler findHandler(std::span<const NamedHandler> rows, Name window, Name name);
+/// Runs the row with these names; does nothing if there is none.
+void runRow(Form1& form, std::span<const NamedHandler> rows, std::string_view window, std::string_view name);
 
-/// Builds the main window's menus, the popup menu included.
-void addMenus(Form1& form);
+/// Runs the command of what was clicked in one of the windows. Does nothing for a name without a command.
+void runCommand(Form1& form, std::string_view window, std::string_view name);
 
-/// Runs the command of a menu item or of a control in one of the windows.
-void runCommand(Form1& form, Name window, Name name);
+/// A typed character, a UTF-16 unit: runs the command of its letter, capital or small. Any character marks the drawing
+/// changed.
+void keyPress(Form1& form, int character);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 #include <array>
 
@@ -12,5 +12,5 @@ inline constexpr std::array<Name, confirmCount> confirmItems = {"m",     "g",   
 template <Confirm family> void toggleConfirm(Form1& form)
 {
     form.confirm[family] = form.confirm[family] == 1 ? 0 : 1;
-    form.controls.flipChecked(confirmItems[family]);
+    form.window.flipChecked(confirmItems[family]);
 }

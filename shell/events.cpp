@@ -2,6 +2,8 @@
 
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "canvas/notice.h"
+#include "canvas/pen_marker.h"
 #include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 #include "platform/runtime_error.h"
@@ -26,13 +28,6 @@ constexpr NamedHandler timers[] = {
     {form6::window, form6::control::Timer2, form6::Timer2},
 };
 
-void tick(Form1& form, Name window, Name timer)
-{
-    if (const Handler handler = findHandler(timers, window, timer)) {
-        handler(form);
-    }
-}
-
 void hideOutput(Form1& form)
 {
     form.form4.hideWindow();
@@ -43,63 +38,46 @@ constexpr NamedHandler frames[] = {
     {form4::window, {}, hideOutput}, {form6::window, {}, form6::finish},
 };
 
-void close(Form1& form, Name window)
-{
-    if (const Handler handler = findHandler(frames, window, {})) {
-        handler(form);
-    }
-}
-
-void panelKey(Form1& form, Name control, int character)
-{
-    if (control == control::Text11 && character == character::enter) {
-        Command3(form);
-    } else if (control == control::panel && character == character::escape) {
-        cancelPanel(form);
-    }
-}
-
-void dispatch(Form1& form, const Event& event)
-{
-    switch (event.kind) {
-    case Event::Kind::keyDown: return keyDown(form, event.code);
-    case Event::Kind::keyPress:
-        return event.name.empty() ? keyPress(form, event.code) : panelKey(form, event.name, event.code);
-    case Event::Kind::mouseDown: return mouseDown(form, event.code, event.place);
-    case Event::Kind::mouseMove: return mouseMove(form, event.code, event.place);
-    case Event::Kind::mouseUp: return mouseUp(form, event.code, event.place);
-    case Event::Kind::click: return runCommand(form, event.window, event.name);
-    case Event::Kind::hover: return hover(form, event.name);
-    case Event::Kind::tick: return tick(form, event.window, event.name);
-    case Event::Kind::close: return close(form, event.window);
-    }
-}
-
-void handle(Form1& form, const Event& event)
-{
-    try {
-        dispatch(form, event);
-    } catch (const RuntimeError& error) {
-        tell(form, error);
-    }
-    if (event.kind != Event::Kind::tick) { // else the blinking marker would keep it busy
-        showStatusSoon(form);
-    }
-}
-
 } // namespace
 
-void deliver(Form1& form, const Event& event)
+void Events::deliver(const Event& event)
 {
     if (event.kind == Event::Kind::tick) {
-        return handle(form, event); // the clock goes on while a box waits
+        return handle(event); // the clock goes on while a box waits
     }
-    form.waiting.push_back(event);
-    if (form.waiting.size() > 1) {
+    m_queue.push_back(event);
+    if (m_queue.size() > 1) {
         return;
     }
-    while (!form.waiting.empty()) {
-        handle(form, form.waiting.front());
-        form.waiting.pop_front();
+    while (!m_queue.empty()) {
+        handle(m_queue.front());
+        m_queue.pop_front();
+    }
+}
+
+void Events::handle(const Event& event)
+{
+    try {
+        dispatch(event);
+    } catch (const RuntimeError& error) {
+        tell(m_form, error);
+    }
+    if (event.kind != Event::Kind::tick) { // else the blinking marker would keep it busy
+        showStatusSoon(m_form);
+    }
+}
+
+void Events::dispatch(const Event& event)
+{
+    switch (event.kind) {
+    case Event::Kind::keyDown: return keyDown(m_form, event.code);
+    case Event::Kind::keyPress: return keyPress(m_form, event.code);
+    case Event::Kind::mouseDown: return mouseDown(m_form, event.code, event.place);
+    case Event::Kind::mouseMove: return mouseMove(m_form, event.code, event.place);
+    case Event::Kind::mouseUp: return mouseUp(m_form, event.code, event.place);
+    case Event::Kind::click: return runCommand(m_form, event.window, event.name);
+    case Event::Kind::hover: return hover(m_form, event.name);
+    case Event::Kind::tick: return runRow(m_form, timers, event.window, event.name);
+    case Event::Kind::close: return runRow(m_form, frames, event.window, {});
     }
 }

@@ -1,9 +1,23 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 #include "platform/event.h"
 
-/// The one way in: hands an event of any window to its handler and lets the status bar follow. What goes wrong on
-/// the way through no fault of the program is told in a message box. What comes while a handler has not returned waits
-/// for its turn, but for ticks: on a slow machine the keys after a box's Enter come before the box has told its answer.
-void deliver(Form1& form, const Event& event);
+#include <deque>
+
+/// The one way in: hands each event of any window to its handler. A RuntimeError that a handler throws is told to the
+/// user in a message box. Events that arrive while a handler runs are queued, except timer ticks: on a slow machine the
+/// keys behind a box's Enter come before the box has returned its answer.
+class Events {
+public:
+    explicit Events(Form1& form) : m_form(form) {}
+
+    void deliver(const Event& event);
+
+private:
+    void handle(const Event& event);
+    void dispatch(const Event& event);
+
+    Form1& m_form;
+    std::deque<Event> m_queue; ///< the event that is being handled comes first
+};

@@ -4,6 +4,7 @@
 #include "circuit/output_window.h"
 #include "platform/runtime_error.h"
 #include "shell/confirmations.h"
+#include "shell/main_window.h"
 
 #include <filesystem>
 
@@ -27,6 +28,11 @@ std::string withoutFolder(std::string_view path)
 }
 
 } // namespace
+
+void setTitle(Form1& form, std::string_view file)
+{
+    form.window.setCaption(" - " + std::string(productName) + " " + std::string(file));
+}
 
 void new_(Form1& form)
 {
@@ -62,31 +68,31 @@ void open(Form1& form)
     if (yes) {
         save(form);
     }
-    const std::string path = form.dialogs.openFile();
-    if (!path.empty()) {
-        form.pictures.loadBackground(path);
+    const std::optional<std::string> path = form.dialogs.openFile();
+    if (path) {
+        form.pictures.loadBackground(*path);
     }
-    setTitle(form, path.empty() && !yes ? std::string(noFile) : withoutFolder(path));
+    setTitle(form, !path && !yes ? std::string(noFile) : withoutFolder(path.value_or("")));
 }
 
 void save(Form1& form)
 {
     form.savedMark = 100; // first of all: a save that fails or is cancelled counts too
-    try {
-        const std::string path = form.dialogs.saveFile(form.fileTitle, "JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
-        form.pictures.saveImage(path);
-        form.fileTitle = withoutFolder(path);
-        setTitle(form, form.fileTitle);
-        forgetSaveFault(form);
-    } catch (const RuntimeError& error) {
-        // Any other failure brings no box; what was on the disk is still there.
-        if (error.fault == Fault::dialogCancelled) {
-            form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, productName);
-        } else {
-            form.saveFault = "Not saved: " + std::string(error.what());
-            notify(form, form.saveFault);
-        }
+    const auto path = form.dialogs.saveFile(form.fileTitle, "JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
+    if (!path) {
+        form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, productName);
+        return;
     }
+    try {
+        form.pictures.saveImage(*path);
+    } catch (const RuntimeError& error) {
+        // No box: what was on the disk is still there.
+        form.saveFault = "Not saved: " + std::string(error.what());
+        return notify(form, form.saveFault);
+    }
+    form.fileTitle = withoutFolder(*path);
+    setTitle(form, form.fileTitle);
+    forgetSaveFault(form);
 }
 
 void print(Form1& form)
@@ -94,7 +100,7 @@ void print(Form1& form)
     form.printAnswer =
         form.dialogs.messageBox(" Do you want to print this form?", Box::yesNoCancelWarning, productName);
     if (form.printAnswer == answer::yes) {
-        form.controls.printForm();
+        form.window.printForm();
     }
 }
 
@@ -118,14 +124,14 @@ void Command4(Form1& form)
     form.surface.clear();
     form.surface.setForeColor(black);
     form.surface.setDrawWidth(2);
-    form.controls.hide({control::Label27, control::Shape1});
+    form.window.hide({control::Label27, control::Shape1});
     for (const Name item : confirmItems) {
-        form.controls.setChecked(item, true);
+        form.window.setChecked(item, true);
     }
     load(form);
 }
 
 void endf(Form1& form)
 {
-    form.controls.endProgram();
+    form.window.endProgram();
 }

@@ -1,6 +1,12 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
+
+/// What the title shows in place of a file's name.
+inline constexpr std::string_view noFile = " New File ";
+
+/// Puts a file's name into the main window's title.
+void setTitle(Form1& form, std::string_view file);
 
 // The File menu. The answer to the question about saving is stored in the heading and stays there until the next arrow
 // key: symbols mean nothing by 6 and 7, and draw leftward for 2.

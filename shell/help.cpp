@@ -11,7 +11,7 @@ void loadForm2(Form1& form)
         return;
     }
     form.helpLoaded = 1;
-    form.form2.setHeight(form2::collapsed);
+    form.form2.setHeight(form2::collapsedHeight);
     if (form.helpOpen == 1) {
         form.form2.setInterval(form2::control::Timer2, slideInterval);
     }
@@ -21,8 +21,8 @@ void loadForm2(Form1& form)
 
 void form2::Check1(Form1& form)
 {
-    if (form.form2.height() != collapsed) {
-        form.form2.setHeight(collapsed);
+    if (form.form2.height() != collapsedHeight) {
+        form.form2.setHeight(collapsedHeight);
         return;
     }
     form2::Timer2(form); // not the main window's
@@ -39,11 +39,11 @@ void form2::Timer2(Form1& form)
 {
     constexpr int step = 100;
     const int height = form.form2.height() + step;
-    if (height < open) {
+    if (height < openHeight) {
         form.form2.setHeight(height);
         return;
     }
-    form.form2.setHeight(open);
+    form.form2.setHeight(openHeight);
     form.form2.setInterval(control::Timer2, 0);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 // The help window lists hints and can slide open downwards, to a list of all short-cut keys. It is never destroyed: the
 // next time it shows as it was left.
@@ -17,8 +17,8 @@ inline constexpr Name Timer2 = "Timer2";     ///< the sliding
 } // namespace control
 
 // Heights in twips
-inline constexpr int collapsed = 3210;
-inline constexpr int open = 5055; ///< shows the keys
+inline constexpr int collapsedHeight = 3210;
+inline constexpr int openHeight = 5055; ///< shows the keys
 
 /// Collapses the window unless it is collapsed, else starts to slide it open. A slide that is under way goes on from
 /// the collapsed height, so a click in the middle of it makes the window open anew.

@@ -1,23 +1,35 @@
 #include "shell/main_window.h"
 
+#include "canvas/pen_marker.h"
+#include "circuit/output_window.h"
+#include "circuit/supply_panel.h"
 #include "shell/commands.h"
+#include "shell/files.h"
 #include "shell/help.h"
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
 
 namespace {
 
-/// What starts hidden or disabled, and the toolbox's colour until the canvas gets one.
+/// What starts hidden, and the toolbox's colour until the canvas gets one.
 void prepareControls(Form1& form)
 {
-    using namespace control;
-    form.controls.hide({Label27, Shape1, panel, sup, bat, Label11, Label13, Label12, Label28});
-    form.controls.hide({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
-    form.controls.disable({Option1, Option2, Option3, Option4, Option5, Text11, Command3, Command7, Command8});
-    form.controls.setBackColor(Frame2, 0xE0E0E0);
+    constexpr Color lightGrey = 0xE0E0E0;
+    preparePanel(form);
+    form.window.hide({control::Label27, control::Shape1});
+    form.window.setBackColor(control::Frame2, lightGrey);
 }
 
 } // namespace
+
+void load(Form1& form)
+{
+    setTitle(form, noFile);
+    resetCanvas(form);
+    colorPanel(form);
+    clearOptions(form);
+    refreshOutput(form);
+}
 
 void openMainWindow(Form1& form)
 {
@@ -26,11 +38,11 @@ void openMainWindow(Form1& form)
     prepareControls(form);
     load(form);
     showStatus(form);
-    form.controls.showWindow();
+    form.window.showWindow();
     constexpr int helpDelay = 100; // milliseconds
-    form.controls.setInterval(control::Timer1, helpDelay);
+    form.window.setInterval(control::Timer1, helpDelay);
     constexpr int blinkInterval = 500;
-    form.controls.setInterval(control::Timer2, blinkInterval);
+    form.window.setInterval(control::Timer2, blinkInterval);
 }
 
 void Timer1(Form1& form)
@@ -38,6 +50,6 @@ void Timer1(Form1& form)
     if (form.startShown == 0) {
         showHelpAtStart(form);
     }
-    form.controls.setInterval(control::Timer1, 0);
+    form.window.setInterval(control::Timer1, 0);
     form.startShown = 1;
 }

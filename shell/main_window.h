@@ -1,6 +1,10 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
+
+/// Gives the main window its state at start: title, canvas, source panel, and the Output window's values, computed from
+/// zeros without showing it.
+void load(Form1& form);
 
 /// Fills the main window, loads its state, shows it and starts its timers. Once, at start.
 void openMainWindow(Form1& form);

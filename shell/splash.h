@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 // The splash stands alone for a second, fills its bar in another one and makes way for the main window.
 

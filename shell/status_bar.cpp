@@ -70,7 +70,7 @@ std::string pointerText(const CanvasState& state)
 
 std::string_view offCanvasText(const Form1& form)
 {
-    return form.controls.isOnCanvas(pointBeside(form)) ? "" : "off the canvas";
+    return form.window.isOnCanvas(pointBeside(form)) ? "" : "off the canvas";
 }
 
 /// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still
@@ -88,16 +88,16 @@ std::string spokenStatus(const Form1& form)
     add(", tool ", toolText(form));
     add(", ", form.eraseMode == 1 ? "erase mode" : "");
     add(", ", form.autoJumper == 1 ? "automatic jumpers" : "");
-    add(", ", form.controls.visible(control::sup) ? "supply: Alt+V voltage, Alt+C current" : "");
-    add(", ", form.controls.visible(control::bat) ? "battery: Alt+P positive, Alt+N negative" : "");
+    add(", ", form.window.visible(control::sup) ? "supply: Alt+V voltage, Alt+C current" : "");
+    add(", ", form.window.visible(control::bat) ? "battery: Alt+P positive, Alt+N negative" : "");
     return text;
 }
 
 /// Of a panel that is only there while it says something.
 void setOptionalText(Form1& form, Name panel, std::string_view text)
 {
-    form.controls.setText(panel, text);
-    form.controls.setVisible(panel, !text.empty());
+    form.window.setText(panel, text);
+    form.window.setVisible(panel, !text.empty());
 }
 
 void showNotice(Form1& form)
@@ -110,25 +110,25 @@ void showNotice(Form1& form)
 void showStatus(Form1& form)
 {
     form.statusDue = 0;
-    form.controls.setInterval(control::statusTimer, 0);
-    form.controls.setText(control::sbPen, penText(form));
-    form.controls.setText(control::sbHeading, headingText(form.heading));
-    form.controls.setText(control::sbTool, toolText(form));
-    form.controls.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
-    form.controls.setText(control::sbJumpers, form.autoJumper == 1 ? "Jumpers" : "");
+    form.window.setInterval(control::statusTimer, 0);
+    form.window.setText(control::sbPen, penText(form));
+    form.window.setText(control::sbHeading, headingText(form.heading));
+    form.window.setText(control::sbTool, toolText(form));
+    form.window.setText(control::sbErase, form.eraseMode == 1 ? "Erase mode" : "Normal mode");
+    form.window.setText(control::sbJumpers, form.autoJumper == 1 ? "Jumpers" : "");
     setOptionalText(form, control::sbOffCanvas, offCanvasText(form));
     setOptionalText(form, control::sbPointer, pointerText(form));
     showNotice(form);
     showTools(form);
-    form.controls.setCursor(cursorFor(form));
+    form.window.setCursor(cursorFor(form));
     keepPanelAside(form); // the pen may have come near
-    form.controls.setDescription(control::Canvas, spokenStatus(form));
+    form.window.setDescription(control::Canvas, spokenStatus(form));
 }
 
 void endNotice(Form1& form)
 {
     form.notice.clear();
-    form.controls.setInterval(control::noticeTimer, 0);
+    form.window.setInterval(control::noticeTimer, 0);
     showNotice(form); // alone: without it, the canvas's description is no news
 }
 
@@ -137,12 +137,12 @@ void showStatusSoon(Form1& form)
     constexpr int delay = 40; // milliseconds
     if (form.statusDue == 0) {
         form.statusDue = 1;
-        form.controls.setInterval(control::statusTimer, delay);
+        form.window.setInterval(control::statusTimer, delay);
     }
 }
 
 void sss(Form1& form)
 {
-    form.controls.flipVisible(control::statusBar);
-    form.controls.flipChecked("sss");
+    form.window.flipVisible(control::statusBar);
+    form.window.flipChecked(item::sss);
 }

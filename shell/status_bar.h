@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
 /// Brings what shows the state up to date: the status bar's panels behind the hint, the canvas's description, which
 /// tells the same to a screen reader, the toolbar's buttons, the pointer over the canvas, and the place of the panel of

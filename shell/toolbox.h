@@ -1,36 +1,29 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 
-#include <span>
+#include <string_view>
 
-// Toolbar and toolbox: the tables of their buttons, and how they are shown, hidden and moved.
-
-/// A button of the toolbox, with a picture of what it draws.
-struct ToolPicture {
-    Name name;
-    std::string_view hint; ///< for the status bar
-    Handler handler;
-    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
-};
-
-[[nodiscard]] std::span<const ToolPicture> toolboxPictures();
+// Toolbar and toolbox: how they are filled, shown, hidden and moved. Their buttons stand in commands.cpp.
 
 /// Fills toolbar and toolbox.
 void addTools(Form1& form);
-
-/// The command of a toolbar button or a toolbox picture; none for any other name.
-[[nodiscard]] Handler toolHandler(Name name);
 
 /// Brings the toolbar's buttons up to date: those of the tool in hand and of erase mode are pressed, those of colours
 /// show them.
 void showTools(Form1& form);
 
 /// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself; no name: away from the canvas.
-void hover(Form1& form, Name name);
+void hover(Form1& form, std::string_view name);
 
 void lll(Form1& form);     ///< View > ToolBar
 void toolbox(Form1& form); ///< View > ToolBox
+
+/// The toolbar's button for the toolbox. Unlike the menu's command it flips the menu's mark on its own.
+void toolBoxButton(Form1& form);
+
+/// The toolbox's eraser.
+void eraserPicture(Form1& form);
 
 /// Shows or hides the toolbar.
 void HideToolbar(Form1& form);

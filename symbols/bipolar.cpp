@@ -29,11 +29,11 @@ constexpr auto base1Rows = join(rows<1, 2>(baseRows), rows<5, 7>(baseRows), base
 
 constexpr Offset upperBefore{150, -100};
 constexpr Offset upperAfter{280, -100};
-constexpr Branch emitterBranches[] = {{.strokes = emitterRows, .after = upperAfter, .before = upperBefore}};
-constexpr Branch emitter1Branches[] = {{.strokes = emitter1Rows, .after = upperAfter, .before = upperBefore}};
-constexpr Branch collectorBranches[] = {{.strokes = collectorRows, .after = upperAfter, .before = upperBefore}};
-constexpr Branch baseBranches[] = {{.strokes = baseRows, .after = {350, 0}, .before = {350, 0}}};
-constexpr Branch base1Branches[] = {{.strokes = base1Rows, .after = {350, 0}, .before = {350, 0}}};
+constexpr Branch emitterBranches[] = {{.before = upperBefore, .strokes = emitterRows, .after = upperAfter}};
+constexpr Branch emitter1Branches[] = {{.before = upperBefore, .strokes = emitter1Rows, .after = upperAfter}};
+constexpr Branch collectorBranches[] = {{.before = upperBefore, .strokes = collectorRows, .after = upperAfter}};
+constexpr Branch baseBranches[] = {{.before = {350, 0}, .strokes = baseRows, .after = {350, 0}}};
+constexpr Branch base1Branches[] = {{.before = {350, 0}, .strokes = base1Rows, .after = {350, 0}}};
 
 constexpr Symbol transistor(std::string_view title, Confirm confirm, int CanvasState::*answer,
                             std::span<const Branch> branches)
@@ -43,7 +43,7 @@ constexpr Symbol transistor(std::string_view title, Confirm confirm, int CanvasS
             .answer = answer,
             .color = &CanvasState::transformerColor,
             .branches = branches,
-            .marker = Marker::gateForm};
+            .marker = Marker::leftFollows};
 }
 
 } // namespace

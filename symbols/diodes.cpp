@@ -25,9 +25,9 @@ constexpr auto npRight =
     strokes(line(0, -150, 0, 150), line(0, 0, 200, 150), line(0, 0, 200, -150), line(200, -150, 200, 150));
 constexpr Branch npBranches[] = {
     {.heading = heading::right, .strokes = npRight, .after = {220, 0}},
-    {.heading = heading::left, .strokes = pnRight, .before = {-220, 0}, .origin = Origin::movedPen},
-    {.heading = heading::up, .strokes = pnDown, .before = {0, -220}, .origin = Origin::movedPen},
-    {.heading = heading::down, .strokes = pnUp, .before = {0, 220}, .origin = Origin::movedPen}};
+    {.heading = heading::left, .before = {-220, 0}, .origin = Origin::movedPen, .strokes = pnRight},
+    {.heading = heading::up, .before = {0, -220}, .origin = Origin::movedPen, .strokes = pnDown},
+    {.heading = heading::down, .before = {0, 220}, .origin = Origin::movedPen, .strokes = pnUp}};
 
 constexpr auto tunnelRows = strokes(line(0, 0, 0, 200), circle(0, 300, 300), line(-100, 200, 110, 200),
                                     line(110, 200, 0, 400), line(-100, 200, 0, 400), line(-200, 400, 200, 400),

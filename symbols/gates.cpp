@@ -25,8 +25,8 @@ constexpr Branch andBranches[] = {{.heading = heading::right, .strokes = andRows
 constexpr Branch nandBranches[] = {{.heading = heading::right, .strokes = nandRows, .after = {385, 75}}};
 constexpr Branch orBranches[] = {{.heading = heading::right, .strokes = orRows, .after = {300, 90}}};
 constexpr Branch norBranches[] = {{.heading = heading::right, .strokes = norRows, .after = {375, 90}}};
-constexpr Branch exorBranches[] = {{.strokes = exorRows, .after = {300, 90}, .before = {80, 0}}};
-constexpr Branch exnorBranches[] = {{.strokes = exnorRows, .after = {400, 100}, .before = {80, 0}}};
+constexpr Branch exorBranches[] = {{.before = {80, 0}, .strokes = exorRows, .after = {300, 90}}};
+constexpr Branch exnorBranches[] = {{.before = {80, 0}, .strokes = exnorRows, .after = {400, 100}}};
 
 constexpr Symbol gate(std::string_view title, int CanvasState::*answer, std::span<const Branch> branches, Marker marker)
 {
@@ -40,9 +40,9 @@ constexpr Symbol gate(std::string_view title, int CanvasState::*answer, std::spa
 
 } // namespace
 
-constexpr Symbol andGate = gate("This draws an AND GATE", &CanvasState::andAnswer, andBranches, Marker::gateForm);
-constexpr Symbol orGate = gate("This draws an OR GATE", &CanvasState::orAnswer, orBranches, Marker::gateForm);
-constexpr Symbol norGate = gate("This draws a NOR GATE", &CanvasState::norAnswer, norBranches, Marker::gateForm);
-constexpr Symbol nandGate = gate("This draws a NAND GATE", &CanvasState::nandAnswer, nandBranches, Marker::gateForm);
+constexpr Symbol andGate = gate("This draws an AND GATE", &CanvasState::andAnswer, andBranches, Marker::leftFollows);
+constexpr Symbol orGate = gate("This draws an OR GATE", &CanvasState::orAnswer, orBranches, Marker::leftFollows);
+constexpr Symbol norGate = gate("This draws a NOR GATE", &CanvasState::norAnswer, norBranches, Marker::leftFollows);
+constexpr Symbol nandGate = gate("This draws a NAND GATE", &CanvasState::nandAnswer, nandBranches, Marker::leftFollows);
 constexpr Symbol exorGate = gate("This draws an EX-OR GATE", &CanvasState::exorAnswer, exorBranches, Marker::stays);
 constexpr Symbol exnorGate = gate("This draws an EX-NOR GATE", &CanvasState::exnorAnswer, exnorBranches, Marker::stays);

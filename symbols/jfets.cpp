@@ -11,8 +11,8 @@ constexpr auto nRows = strokes(circle(0, 50, 50), label(150, -50, "D"), line(0, 
 constexpr auto pArrow = strokes(line(-500, 800, -400, 900), line(-500, 800, -400, 700));
 constexpr auto pRows = join(rows<1, 7>(nRows), pArrow, rows<10, 13>(nRows));
 
-constexpr Branch nBranches[] = {{.strokes = nRows, .after = {0, 1610}, .before = {0, 50}}};
-constexpr Branch pBranches[] = {{.strokes = pRows, .after = {0, 1610}, .before = {0, 50}}};
+constexpr Branch nBranches[] = {{.before = {0, 50}, .strokes = nRows, .after = {0, 1610}}};
+constexpr Branch pBranches[] = {{.before = {0, 50}, .strokes = pRows, .after = {0, 1610}}};
 
 } // namespace
 

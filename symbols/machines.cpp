@@ -18,7 +18,7 @@ constexpr auto armatureRows = join(bodyRows, strokes(label(300, -400, "A"), labe
 
 constexpr Branch machine(std::span<const Stroke> rows)
 {
-    return {.strokes = rows, .after = {0, 410}, .before = {0, 410}, .origin = Origin::movedPen};
+    return {.before = {0, 410}, .origin = Origin::movedPen, .strokes = rows, .after = {0, 410}};
 }
 
 constexpr Branch acMotorBranches[] = {machine(acMotorRows)};

@@ -34,8 +34,8 @@ enum class Origin { penAtStart, movedPen };
 /// What a symbol draws for one heading of the pen, and how it moves the pen.
 struct Branch {
     int heading = anyHeading; ///< a code of namespace heading, or anyHeading
-    std::span<const Stroke> strokes;
-    Offset after{};  ///< added to the pen after the strokes
-    Offset before{}; ///< added to the pen before them
+    Offset before{};          ///< added to the pen before the strokes
     Origin origin = Origin::penAtStart;
+    std::span<const Stroke> strokes;
+    Offset after{}; ///< added to the pen after the strokes
 };

@@ -1,6 +1,7 @@
 #include "symbols/symbol_protocol.h"
 
 #include "canvas/notice.h"
+#include "canvas/pen_marker.h"
 
 #include <algorithm>
 #include <cctype>
@@ -73,11 +74,11 @@ bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::str
     return true;
 }
 
-void placeMarkerGateForm(Form1& form)
+void moveMarkerLeft(Form1& form)
 {
     // The pen's height is assigned first and overwritten at once: the top was meant, but keeps its place.
-    form.controls.setLeft(control::Picture1, form.y - markerRise);
-    form.controls.setLeft(control::Picture1, form.x);
+    form.window.setLeft(control::Picture1, form.y - markerRise);
+    form.window.setLeft(control::Picture1, form.x);
 }
 
 void place(Form1& form, const Symbol& symbol)
@@ -101,7 +102,7 @@ void place(Form1& form, const Symbol& symbol)
     if (symbol.colorAfter == ColorAfter::toBlack || (symbol.colorAfter == ColorAfter::toBlackUnlessAsked && !asked)) {
         form.surface.setForeColor(black);
     }
-    if (symbol.marker == Marker::gateForm) {
-        placeMarkerGateForm(form);
+    if (symbol.marker == Marker::leftFollows) {
+        moveMarkerLeft(form);
     }
 }

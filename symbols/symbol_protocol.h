@@ -1,12 +1,12 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 #include "symbols/stroke.h"
 
 /// What becomes of the pen marker.
 enum class Marker {
     stays,
-    gateForm ///< its left edge goes to the pen, its top stays; also when no branch fits the heading
+    leftFollows ///< its left edge goes to the pen, its top stays; also when no branch fits the heading
 };
 
 /// The foreground colour a symbol leaves behind.
@@ -44,4 +44,4 @@ template <const Symbol& symbol> void place(Form1& form)
 }
 
 /// Moves the marker's left edge to the pen and leaves its top where it is.
-void placeMarkerGateForm(Form1& form);
+void moveMarkerLeft(Form1& form);

@@ -32,10 +32,10 @@ constexpr auto ujtRows =
             line(-300, 950, 0, 950), line(0, 950, 0, 1550), circle(0, 1600, 50), label(150, 1500, "B1"));
 
 // Every lower terminal is centred 1600 below the pen, yet the pen's ways differ.
-constexpr Branch scrBranches[] = {{.strokes = scrRows, .after = {0, 1600}, .before = {0, 50}}};
-constexpr Branch triacBranches[] = {{.strokes = triacRows, .after = {200, 1620}, .before = {0, 50}}};
-constexpr Branch diacBranches[] = {{.strokes = diacRows, .after = {0, 1620}, .before = {0, 50}}};
-constexpr Branch ujtBranches[] = {{.strokes = ujtRows, .after = {0, 1610}, .before = {0, 50}}};
+constexpr Branch scrBranches[] = {{.before = {0, 50}, .strokes = scrRows, .after = {0, 1600}}};
+constexpr Branch triacBranches[] = {{.before = {0, 50}, .strokes = triacRows, .after = {200, 1620}}};
+constexpr Branch diacBranches[] = {{.before = {0, 50}, .strokes = diacRows, .after = {0, 1620}}};
+constexpr Branch ujtBranches[] = {{.before = {0, 50}, .strokes = ujtRows, .after = {0, 1610}}};
 
 constexpr Symbol thyristor(std::string_view title, int CanvasState::*answer, std::span<const Branch> branches)
 {

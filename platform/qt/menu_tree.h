@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/window.h"
+#include "platform/main_window.h"
 
 #include <QObject>
 #include <functional>

@@ -3,7 +3,6 @@
 #include "platform/qt/colors.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/text.h"
-#include "platform/runtime_error.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -115,7 +114,7 @@ int QtDialogs::run(QDialog& dialog)
     return result;
 }
 
-QString QtDialogs::chooseFile(QFileDialog& dialog)
+std::optional<std::string> QtDialogs::chooseFile(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog);   // desktops' own dialogs keep a list of recent files
     resizeOnScreen(dialog, {760, 480});                   // room for all columns
@@ -131,10 +130,11 @@ QString QtDialogs::chooseFile(QFileDialog& dialog)
     QString chosen;
     QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
     run(dialog);
-    if (!chosen.isEmpty()) {
-        m_folder = QFileInfo(chosen).path();
+    if (chosen.isEmpty()) {
+        return {};
     }
-    return chosen;
+    m_folder = QFileInfo(chosen).path();
+    return chosen.toStdString();
 }
 
 int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
@@ -148,17 +148,19 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     return answerOf(style == Box::okWarning ? runAside(box) : run(box));
 }
 
-std::string QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
+std::optional<std::string> QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
 {
     QInputDialog box(front());
     box.setWindowTitle(toQString(title));
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));
-    // A pasted line end is nothing that anybody typed.
-    return run(box) == QDialog::Accepted ? box.textValue().remove('\n').remove('\r').toStdString() : std::string();
+    if (run(box) != QDialog::Accepted) {
+        return {};
+    }
+    return box.textValue().remove('\n').remove('\r').toStdString(); // a pasted line end is nothing that anybody typed
 }
 
-Color QtDialogs::pickColor(std::string_view title)
+std::optional<Color> QtDialogs::pickColor(std::string_view title, Color first)
 {
     if (m_colorDialog == nullptr) {
         m_colorDialog = new QColorDialog(&m_owner);
@@ -166,22 +168,23 @@ Color QtDialogs::pickColor(std::string_view title)
         nameColorFields(*m_colorDialog);
     }
     m_colorDialog->setWindowTitle(toQString(title));
-    m_colorDialog->setCurrentColor(toQColor(m_color));
-    if (run(*m_colorDialog) == QDialog::Accepted) {
-        m_color = toColor(m_colorDialog->selectedColor());
+    m_colorDialog->setCurrentColor(toQColor(first));
+    if (run(*m_colorDialog) != QDialog::Accepted) {
+        return {};
     }
-    return m_color;
+    return toColor(m_colorDialog->selectedColor());
 }
 
-std::string QtDialogs::openFile()
+std::optional<std::string> QtDialogs::openFile()
 {
     QFileDialog dialog(front(), "Open");
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(pictureFilters());
-    return chooseFile(dialog).toStdString();
+    return chooseFile(dialog);
 }
 
-std::string QtDialogs::saveFile(std::string_view name, std::string_view extension, std::string_view filter)
+std::optional<std::string> QtDialogs::saveFile(std::string_view name, std::string_view extension,
+                                               std::string_view filter)
 {
     const QStringList descriptionAndPattern = toQString(filter).split('|');
     QFileDialog dialog(front(), "Save");
@@ -189,9 +192,5 @@ std::string QtDialogs::saveFile(std::string_view name, std::string_view extensio
     dialog.setDefaultSuffix(toQString(extension));
     dialog.setNameFilter(descriptionAndPattern.value(0) + " (" + descriptionAndPattern.value(1) + ")");
     dialog.selectFile(toQString(name));
-    const QString path = chooseFile(dialog);
-    if (path.isEmpty()) {
-        throw RuntimeError(Fault::dialogCancelled, "Nothing was chosen.");
-    }
-    return path.toStdString();
+    return chooseFile(dialog);
 }

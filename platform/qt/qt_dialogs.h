@@ -17,16 +17,18 @@ public:
     QtDialogs(QWidget& owner, QWidget& canvas) : m_owner(owner), m_canvas(canvas) {}
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
-    std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
-    Color pickColor(std::string_view title) override;
-    std::string openFile() override;
-    std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) override;
+    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view preset) override;
+    std::optional<Color> pickColor(std::string_view title, Color first) override;
+    std::optional<std::string> openFile() override;
+    std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
+                                        std::string_view filter) override;
 
 private:
     /// The window that the user is in: the box belongs to it and gives the keyboard back to it.
     [[nodiscard]] QWidget* front() const;
-    /// Empty if the user cancels.
-    QString chooseFile(QFileDialog& dialog);
+    /// None if the user cancels.
+    std::optional<std::string> chooseFile(QFileDialog& dialog);
 
     /// Shows it until the user closes it; then its parent has the keyboard, as it had it before.
     static int runAside(QDialog& dialog);
@@ -38,5 +40,4 @@ private:
     HeldKeys m_heldKeys;
     QString m_folder;                      ///< that the last chosen file is in
     QColorDialog* m_colorDialog = nullptr; ///< one for the whole run, made when it is first needed
-    Color m_color = black;                 ///< picked last
 };

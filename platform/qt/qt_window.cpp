@@ -25,8 +25,6 @@
 
 namespace {
 
-constexpr QSize cursorSize(24, 24); // pixels
-
 /// Whether an object belongs to this window and not to another one that the window owns.
 bool liesIn(const QWidget& window, const QObject& object)
 {
@@ -45,9 +43,8 @@ int QtWindow::toPixels(double twips)
 }
 
 QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
-    : m_form(form), m_canvas(form.findChild<CanvasWidget*>()), m_name(form.objectName().toStdString()),
+    : m_form(form), m_name(form.objectName().toStdString()),
       m_closeWish(new CloseWish(form, [this] { this->report({.kind = Event::Kind::close}); })),
-      m_menus(form, [this](Name item) { this->report({.kind = Event::Kind::click, .name = item}); }),
       m_report(std::move(report))
 {
     for (QObject* const object : form.findChildren<QObject*>()) {
@@ -61,42 +58,32 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     }
     connectControls();
     form.setAttribute(Qt::WA_KeyboardFocusChange); // what has the focus looks so from the start, not from the first Tab
-    if (auto* const rest = form.findChild<QWidget*>("qt_toolbar_ext_button")) {
-        rest->setAccessibleName("More tools"); // the toolkit's own button in a narrow window, nameless
-    }
-    if (m_canvas != nullptr) {
-        m_canvas->report = [this](const Event& event) { this->report(event); };
-        m_canvas->setFocus();
-    }
 }
 
 void QtWindow::connectControls()
 {
     for (const auto& [name, object] : m_named) {
-        if (auto* const button = qobject_cast<QAbstractButton*>(object)) {
-            if (m_canvas != nullptr) {
-                new KeyDetour(*button, *m_canvas);
-            }
-            connect(button, &QAbstractButton::clicked, this,
-                    [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
-        } else if (auto* const text = qobject_cast<QLineEdit*>(object)) {
-            connect(text, &QLineEdit::returnPressed, this, [this, name = Name(name)] {
-                report({.kind = Event::Kind::keyPress, .name = name, .code = character::enter});
-            });
-        } else if (object->property("reportsHovering").toBool()) {
-            auto& frame = dynamic_cast<QWidget&>(*object);
-            new Hovering(frame, [this](const QWidget& widget) { reportHover(widget); });
-            new Floating(frame);
-        } else if (object->property("isClickable").toBool()) {
-            new LabelClick(dynamic_cast<QLabel&>(*object),
-                           [this, name = Name(name)] { report({.kind = Event::Kind::click, .name = name}); });
-        } else if (const QVariant frame = object->property("showsWith"); frame.isValid()) {
-            new ShowsWith(dynamic_cast<QWidget&>(*object), find<QWidget>(frame.toString().toStdString()));
-        } else if (object->property("isPanel").toBool()) {
-            new PanelKeys(dynamic_cast<QWidget&>(*object), [this, name = Name(name)] {
-                report({.kind = Event::Kind::keyPress, .name = name, .code = character::escape});
-            });
-        }
+        connectControl(name, *object);
+    }
+}
+
+void QtWindow::connectControl(std::string_view name, QObject& control)
+{
+    if (auto* const button = qobject_cast<QAbstractButton*>(&control)) {
+        connect(button, &QAbstractButton::clicked, this, [this, name] { reportClick(name); });
+    } else if (const QVariant clicked = control.property("enterClicks"); clicked.isValid()) {
+        connect(&dynamic_cast<QLineEdit&>(control), &QLineEdit::returnPressed, this,
+                [this, button = clicked.toString().toStdString()] { reportClick(button); });
+    } else if (control.property("reportsHovering").toBool()) {
+        auto& frame = dynamic_cast<QWidget&>(control);
+        new Hovering(frame, [this](const QWidget& widget) { reportHover(widget); });
+        new Floating(frame);
+    } else if (control.property("isClickable").toBool()) {
+        new LabelClick(dynamic_cast<QLabel&>(control), [this, name] { reportClick(name); });
+    } else if (const QVariant frame = control.property("showsWith"); frame.isValid()) {
+        new ShowsWith(dynamic_cast<QWidget&>(control), find<QWidget>(frame.toString().toStdString()));
+    } else if (control.property("isPanel").toBool()) {
+        new PanelKeys(dynamic_cast<QWidget&>(control), [this, name] { reportClick(name); });
     }
 }
 
@@ -122,9 +109,6 @@ void QtWindow::setCaption(std::string_view title)
 
 void QtWindow::showWindow()
 {
-    if (const auto* const main = qobject_cast<QMainWindow*>(&m_form); main != nullptr && main->isHidden()) {
-        resizeOnScreen(m_form, m_form.size().expandedTo(main->menuBar()->sizeHint()));
-    }
     m_form.show();
     m_form.raise();
     m_form.activateWindow();
@@ -170,72 +154,21 @@ void QtWindow::setHeight(int twips)
     m_form.setFixedSize(m_form.sizeHint().width(), toPixels(twips));
 }
 
-void QtWindow::printForm()
+void QtWindow::print(const QImage& picture) const
 {
-    printPicture(m_canvas != nullptr ? pictureOfCanvas() : pictureOfForm(),
-                 m_form.windowTitle().replace("[*][*]", "[*]"));
+    printPicture(picture, m_form.windowTitle().replace("[*][*]", "[*]"));
 }
 
-/// The window as it is without the keyboard: nothing on paper has the focus.
-QImage QtWindow::pictureOfForm()
+void QtWindow::printForm()
 {
     QWidget* const focused = m_form.focusWidget();
     if (focused == nullptr) {
-        return m_form.grab().toImage();
+        return print(m_form.grab().toImage());
     }
-    focused->clearFocus();
-    QImage picture = m_form.grab().toImage();
+    focused->clearFocus(); // nothing on paper has the keyboard
+    const QImage picture = m_form.grab().toImage();
     focused->setFocus();
-    return picture;
-}
-
-/// The canvas with what lies on it, but without what only guides the hand.
-QImage QtWindow::pictureOfCanvas()
-{
-    std::vector<Name> hidden;
-    for (const auto& [name, object] : m_named) {
-        if (object->property("notPrinted").toBool() && visible(name)) {
-            hidden.emplace_back(name);
-        }
-    }
-    for (const Name name : hidden) {
-        setVisible(name, false);
-    }
-    QImage picture = m_canvas->parentWidget()->grab(m_canvas->geometry()).toImage();
-    for (const Name name : hidden) {
-        setVisible(name, true);
-    }
-    return picture;
-}
-
-void QtWindow::endProgram()
-{
-    QCoreApplication::exit();
-}
-
-void QtWindow::setCursor(const Cursor& cursor)
-{
-    if (cursor.picture != m_cursor) {
-        m_cursor = cursor.picture;
-        const QIcon picture(":/pictures/cursors/" + toQString(cursor.picture) + ".svg");
-        m_canvas->setCursor(QCursor(picture.pixmap(cursorSize, m_form.devicePixelRatioF()), cursor.hotX, cursor.hotY));
-    }
-}
-
-void QtWindow::addMenuItem(int depth, const MenuItem& item)
-{
-    QAction& action = m_menus.add(depth, item);
-    if (!item.name.empty()) {
-        addNamed(item.name, action);
-    }
-}
-
-void QtWindow::popUp(Name menu, Point place)
-{
-    const QRect canvas = m_canvas->rect();
-    const QPoint inside(std::clamp(toPixels(place.x), canvas.left(), canvas.right()),
-                        std::clamp(toPixels(place.y), canvas.top(), canvas.bottom()));
-    find<QAction>(menu).menu()->popup(m_canvas->mapToGlobal(inside));
+    print(picture);
 }
 
 bool QtWindow::eventFilter(QObject* watched, QEvent* event)
@@ -249,10 +182,11 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event)
 
 void QtWindow::setInterval(Name timer, int milliseconds)
 {
-    if (!m_named.contains(timer)) {
+    if (!m_named.contains(timer.text())) {
         auto* const made = new QTimer(this);
         made->setTimerType(Qt::PreciseTimer); // a coarse one may be late by a twentieth
-        connect(made, &QTimer::timeout, this, [this, timer] { report({.kind = Event::Kind::tick, .name = timer}); });
+        connect(made, &QTimer::timeout, this,
+                [this, timer] { report({.kind = Event::Kind::tick, .name = timer.text()}); });
         addNamed(timer, *made);
     }
     auto& ticking = find<QTimer>(timer);
@@ -266,7 +200,7 @@ void QtWindow::setInterval(Name timer, int milliseconds)
 void QtWindow::addNamed(Name name, QObject& object)
 {
     object.setObjectName(toQString(name));
-    if (!m_named.emplace(name, &object).second) {
+    if (!m_named.emplace(name.text(), &object).second) {
         qFatal("A second '%s' in '%s'", qPrintable(object.objectName()), qPrintable(m_form.objectName()));
     }
 }

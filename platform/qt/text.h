@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/name.h"
+
 #include <QString>
 #include <string_view>
 
@@ -7,4 +9,9 @@
 inline QString toQString(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline QString toQString(Name name)
+{
+    return toQString(name.text());
 }

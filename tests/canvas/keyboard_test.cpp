@@ -17,13 +17,13 @@ TEST(ArrowKey, TurnsThePenAlsoInEraseModeWhereItLaysNoWire)
                                         {key::up, heading::up},
                                         {key::down, heading::down}}) {
         for (const bool erasing : {false, true}) {
-            Bench bench;
-            bench.form.eraseMode = erasing ? 1 : 0;
-            bench.press(code);
-            EXPECT_EQ(bench.outcome() == nothing, erasing);
-            EXPECT_EQ(bench.form.heading, heading);
-            EXPECT_EQ(bench.form.penMoved, 1);
-            EXPECT_EQ(bench.form.savedMark, 0);
+            Rig rig;
+            rig.form.eraseMode = erasing ? 1 : 0;
+            rig.press(code);
+            EXPECT_EQ(rig.outcome() == nothing, erasing);
+            EXPECT_EQ(rig.form.heading, heading);
+            EXPECT_EQ(rig.form.penMoved, 1);
+            EXPECT_EQ(rig.form.savedMark, 0);
         }
     }
 }
@@ -32,26 +32,26 @@ TEST(JumperQuestion, ComesOnlyWithTheSwitchOnAndTheWiresOwnColourAhead)
 {
     for (const int autoJumper : {0, 1}) {
         for (const std::optional<Color> ahead : {std::optional(red), std::optional(black), std::optional<Color>()}) {
-            Bench bench;
-            bench.form.wireColor = red;
-            bench.form.autoJumper = autoJumper;
-            bench.surface.underPoint = ahead;
-            bench.dialogs.always = {answer::yes, ""};
-            bench.press(key::up);
-            EXPECT_EQ(!bench.dialogs.lastTitle.empty(), autoJumper == 1 && ahead == red);
+            Rig rig;
+            rig.form.wireColor = red;
+            rig.form.autoJumper = autoJumper;
+            rig.surface.underPoint = ahead;
+            rig.dialogs.always = {answer::yes, ""};
+            rig.press(key::up);
+            EXPECT_EQ(!rig.dialogs.lastTitle.empty(), autoJumper == 1 && ahead == red);
         }
     }
 }
 
 TEST(AutomaticJumpers, KeyAndMenuItemFlipTheSwitchButOnlyTheItemItsMark)
 {
-    Bench bench;
-    const auto state = [&] { return std::tuple(bench.form.autoJumper, bench.window.checked("jj")); };
-    bench.type('j');
+    Rig rig;
+    const auto state = [&] { return std::tuple(rig.form.autoJumper, rig.window.checked("jj")); };
+    rig.type('j');
     EXPECT_EQ(state(), std::tuple(1, false));
-    bench.click("jj");
+    rig.click("jj");
     EXPECT_EQ(state(), std::tuple(0, true));
-    bench.type('J');
+    rig.type('J');
     EXPECT_EQ(state(), std::tuple(1, true));
 }
 
@@ -59,11 +59,11 @@ TEST(OtherKeys, OnlyMarkTheDrawingChanged)
 {
     for (const int code : {0, 36, 41, 65, 0x78, 0x1B, 0xE9, 0x20AC}) {
         for (const bool letter : {false, true}) {
-            Bench bench;
-            letter ? bench.type(code) : bench.press(code);
-            EXPECT_EQ(bench.outcome(), nothing) << code;
-            EXPECT_EQ(bench.form.savedMark, 0);
-            EXPECT_EQ(bench.form.penMoved + bench.form.eraseMode + bench.form.autoJumper, 0);
+            Rig rig;
+            letter ? rig.type(code) : rig.press(code);
+            EXPECT_EQ(rig.outcome(), nothing) << code;
+            EXPECT_EQ(rig.form.savedMark, 0);
+            EXPECT_EQ(rig.form.penMoved + rig.form.eraseMode + rig.form.autoJumper, 0);
         }
     }
 }

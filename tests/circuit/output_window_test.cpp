@@ -8,19 +8,19 @@
 namespace {
 
 /// Enters a circuit such as "R10 I1 C4 V5", each component by its letter and value.
-void enter(Bench& bench, const std::string& circuit)
+void enter(Rig& rig, const std::string& circuit)
 {
     std::istringstream parts(circuit);
     for (std::string part; parts >> part;) {
-        bench.enter(part);
+        rig.enter(part);
     }
 }
 
-std::string values(Bench& bench)
+std::string values(Rig& rig)
 {
     std::string texts;
     for (const Name value : form4::control::values) {
-        texts += (texts.empty() ? "" : " ") + bench.output.at(value).text;
+        texts += (texts.empty() ? "" : " ") + rig.output.at(value).text;
     }
     return texts;
 }
@@ -50,28 +50,28 @@ TEST(OutputWindow, ShowsTotalsAndWhatFollowsFromThem)
         {{"R1E+15 I1E-05", "1E+15 1E-05 0 0 0 0 0 0 0"}},
     };
     for (const auto& run : runs) {
-        Bench bench;
+        Rig rig;
         for (const Step& step : run) {
-            enter(bench, step.entered);
-            bench.click("output");
-            EXPECT_EQ(values(bench), step.shown) << step.entered;
+            enter(rig, step.entered);
+            rig.click("output");
+            EXPECT_EQ(values(rig), step.shown) << step.entered;
         }
     }
 }
 
 TEST(OutputWindow, IsFilledAtStartButShownOnlyWhenAskedFor)
 {
-    Bench bench;
-    EXPECT_EQ(values(bench), "0 0 0 0 0 0 0 0 0");
-    EXPECT_EQ(bench.output.timesShown, 0);
-    enter(bench, "R10 I1 C4");
-    bench.output.hide({form4::control::Label29, form4::control::Label24});
-    bench.click("output");
-    EXPECT_EQ(bench.output.timesShown, 1);
-    EXPECT_TRUE(bench.output.visible(form4::control::Label29) && bench.output.visible(form4::control::Label24));
-    EXPECT_DOUBLE_EQ(bench.form.capacitiveReactance, 3.142857 / 0.25); // kept, but never shown
-    bench.click(form4::control::print, form4::window);
-    EXPECT_EQ(bench.output.timesPrinted, 1);
+    Rig rig;
+    EXPECT_EQ(values(rig), "0 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(rig.output.timesShown, 0);
+    enter(rig, "R10 I1 C4");
+    rig.output.hide({form4::control::Label29, form4::control::Label24});
+    rig.click("output");
+    EXPECT_EQ(rig.output.timesShown, 1);
+    EXPECT_TRUE(rig.output.visible(form4::control::Label29) && rig.output.visible(form4::control::Label24));
+    EXPECT_DOUBLE_EQ(rig.form.capacitiveReactance, 3.142857 / 0.25); // kept, but never shown
+    rig.click(form4::control::print, form4::window);
+    EXPECT_EQ(rig.output.timesPrinted, 1);
 }
 
 TEST(OutputWindow, TellsWhatCannotBeComputedAndShowsWhatComesBefore)
@@ -83,12 +83,12 @@ TEST(OutputWindow, TellsWhatCannotBeComputedAndShowsWhatComesBefore)
     };
     for (const Case& c : {Case{"V5 I-1 C4", "Invalid argument", "0 -1 4 0 0 0 0 0 0"},
                           Case{"V5 I1E+300 C1E-300", "Overflow", "0 1E+300 1E-300 0 0 0 0 0 0"}}) {
-        Bench bench;
-        enter(bench, c.entered);
-        bench.dialogs.expect("Schemlet 2.0", 0);
-        bench.click("output");
-        EXPECT_TRUE(bench.dialogs.lastPrompt.starts_with(c.message)) << bench.dialogs.lastPrompt;
-        EXPECT_EQ(values(bench), c.shown);
-        EXPECT_EQ(bench.output.timesShown, 2); // the message takes the keyboard away from it
+        Rig rig;
+        enter(rig, c.entered);
+        rig.dialogs.expect("Schemlet 2.0", 0);
+        rig.click("output");
+        EXPECT_TRUE(rig.dialogs.lastPrompt.starts_with(c.message)) << rig.dialogs.lastPrompt;
+        EXPECT_EQ(values(rig), c.shown);
+        EXPECT_EQ(rig.output.timesShown, 2); // the message takes the keyboard away from it
     }
 }

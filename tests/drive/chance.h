@@ -72,23 +72,29 @@ public:
         default: return answer::no;
         }
     }
-    std::string inputBox(std::string_view /*prompt*/, std::string_view /*title*/, std::string_view preset) override
+    std::optional<std::string> inputBox(std::string_view /*prompt*/, std::string_view /*title*/,
+                                        std::string_view preset) override
     {
         meanwhile();
         return m_chance.oneIn(2) ? m_chance.text() : std::string(preset);
     }
-    Color pickColor(std::string_view /*title*/) override { return m_chance.color(); }
-    std::string openFile() override { return m_chance.path(); }
-    std::string saveFile(std::string_view /*name*/, std::string_view /*extension*/,
-                         std::string_view /*filter*/) override
+    std::optional<Color> pickColor(std::string_view /*title*/, Color /*first*/) override
     {
-        if (m_chance.oneIn(3)) {
-            throw RuntimeError(Fault::dialogCancelled, "");
-        }
-        return m_chance.path();
+        return m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
+    }
+    std::optional<std::string> openFile() override { return pathOrNone(); }
+    std::optional<std::string> saveFile(std::string_view /*name*/, std::string_view /*extension*/,
+                                        std::string_view /*filter*/) override
+    {
+        return pathOrNone();
     }
 
 private:
+    std::optional<std::string> pathOrNone()
+    {
+        return m_chance.oneIn(3) ? std::nullopt : std::optional<std::string>(m_chance.path());
+    }
+
     Chance& m_chance;
 };
 

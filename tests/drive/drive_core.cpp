@@ -31,7 +31,7 @@ public:
         m_surface.recording = false;
         m_dialogs.meanwhile = [this] {
             if (const Event event = tick(); !event.name.empty()) {
-                deliver(m_form, event);
+                m_events.deliver(event);
             }
         };
         m_output.addToolButton(form4::control::print, "", Look::plain);
@@ -44,7 +44,7 @@ public:
         const bool splash = m_splash.timesUnloaded == 0;
         m_event = splash ? splashEvent() : event();
         const Pen before = m_form;
-        deliver(m_form, m_event);
+        m_events.deliver(m_event);
         if (splash && m_splash.timesUnloaded != 0) {
             for (Actor& actor : m_actors) {
                 actor.names = actor.window.names();
@@ -60,13 +60,13 @@ public:
 
 private:
     struct Actor {
-        Name name;
+        std::string_view name;
         StandInWindow& window;
-        std::vector<Name> names; ///< of everything in it
+        std::vector<std::string_view> names; ///< of everything in it
     };
 
     /// What moved the pen: the event's kind, name and code and the heading before.
-    using Cause = std::tuple<Event::Kind, Name, int, int>;
+    using Cause = std::tuple<Event::Kind, std::string_view, int, int>;
 
     /// Sets what the event may meet. Of the windows' past nothing is kept.
     void prepare()
@@ -77,24 +77,26 @@ private:
         m_help.heights.erase(m_help.heights.begin(), m_help.heights.end() - (m_help.heights.empty() ? 0 : 1));
     }
 
-    Event splashEvent() { return m_chance.oneIn(8) ? Event{Event::Kind::close, form6::window} : tick(); }
+    Event splashEvent()
+    {
+        return m_chance.oneIn(8) ? Event{.kind = Event::Kind::close, .window = form6::window.text()} : tick();
+    }
 
     Event event()
     {
         switch (m_chance.below(100)) {
-        case 0: return {Event::Kind::close, m_chance.of(m_actors).name};
-        case 1: return {Event::Kind::keyPress, mainWindow, control::Text11, character::enter};
-        case 2: return {Event::Kind::keyPress, mainWindow, control::panel, character::escape};
-        case 3: return {Event::Kind::keyPress, mainWindow, control::Text11, m_chance.below(0x110000)};
+        case 0: return {.kind = Event::Kind::close, .window = m_chance.of(m_actors).name};
+        case 1: return {.kind = Event::Kind::click, .name = control::Command3.text()};
+        case 2: return {.kind = Event::Kind::click, .name = control::panel.text()};
         default: break;
         }
         switch (m_chance.below(10)) {
-        case 0: return {Event::Kind::keyDown, mainWindow, {}, m_chance.below(256)};
+        case 0: return {.kind = Event::Kind::keyDown, .code = m_chance.below(256)};
         case 1:
-        case 2: return {Event::Kind::keyDown, mainWindow, {}, key::left + m_chance.below(4)};
+        case 2: return {.kind = Event::Kind::keyDown, .code = key::left + m_chance.below(4)};
         case 3: return typed();
         case 4: return tick();
-        case 5: return {Event::Kind::hover, mainWindow, m_chance.of(m_actors.front().names)};
+        case 5: return {.kind = Event::Kind::hover, .name = m_chance.of(m_actors.front().names)};
         case 6:
         case 7: return click();
         default: return mouse();
@@ -104,24 +106,22 @@ private:
     Event typed()
     {
         const int any = m_chance.below(0x110000);
-        return {Event::Kind::keyPress,
-                mainWindow,
-                {},
-                m_chance.oneIn(4) ? any : m_chance.of(std::string_view("RICJSBEricjsbe"))};
+        return {.kind = Event::Kind::keyPress,
+                .code = m_chance.oneIn(4) ? any : m_chance.of(std::string_view("RICJSBEricjsbe"))};
     }
 
     Event mouse()
     {
         constexpr std::array kinds{Event::Kind::mouseDown, Event::Kind::mouseMove, Event::Kind::mouseUp};
         const int buttons = m_chance.oneIn(3) ? m_chance.below(8) : button::left;
-        return {m_chance.of(kinds), mainWindow, {}, buttons, m_chance.place(), m_chance.place()};
+        return {.kind = m_chance.of(kinds), .code = buttons, .place = {m_chance.place(), m_chance.place()}};
     }
 
     /// The toolkit changes a control before it tells of the click.
     Event click()
     {
         const Actor& actor = m_chance.of(m_actors);
-        const Name clicked = m_chance.of(actor.names);
+        const std::string_view clicked = m_chance.of(actor.names);
         actor.window.at(clicked).value = m_chance.below(2);
         m_window.at(control::Text11).text = m_chance.text();
         return {Event::Kind::click, actor.name, clicked};
@@ -131,18 +131,18 @@ private:
     Event tick()
     {
         std::vector<Event> running;
-        const auto add = [&](Name name, const StandInWindow& window) {
+        const auto add = [&](std::string_view name, const StandInWindow& window) {
             for (const auto& [timer, interval] : window.intervals) {
                 if (interval != 0) {
                     running.push_back({Event::Kind::tick, name, timer});
                 }
             }
         };
-        add(form6::window, m_splash);
+        add(form6::window.text(), m_splash);
         for (const Actor& actor : m_actors) {
             add(actor.name, actor.window);
         }
-        return running.empty() ? Event{Event::Kind::tick, mainWindow} : m_chance.of(running);
+        return running.empty() ? Event{.kind = Event::Kind::tick} : m_chance.of(running);
     }
 
     /// The pen goes where the left button is pressed, back to its start on New, and else by the same whole twips for
@@ -171,7 +171,7 @@ private:
         const bool arrow = m_event.kind == Event::Kind::keyDown;
         auto& known = m_advances[{m_event.kind, m_event.name, m_event.code, arrow ? 0 : before.heading}];
         known.insert(advance);
-        const bool panel = m_event.name == control::Command3 || m_event.name == control::Text11;
+        const bool panel = m_event.name == control::Command3.text();
         // The arrow keys hop over a wire or not; a battery and up to two supplies are drawn at once or not.
         const std::size_t most = arrow ? 2 : panel ? 5 : 1;
         demand(known.size() <= most, "the pen moves by another way than before");
@@ -192,7 +192,7 @@ private:
         demand(m_window.visible(control::Label27) == (m_form.eraseMode == 1), "the erase label is wrong");
         demand(m_window.visible(control::panel) == (m_window.visible(control::sup) || m_window.visible(control::bat)),
                "the panel does not follow its families");
-        demand((m_form.statusDue == 1) == (m_window.intervals.at(std::string(control::statusTimer)) != 0),
+        demand((m_form.statusDue == 1) == (m_window.intervals.at(std::string(control::statusTimer.text())) != 0),
                "the status bar waits for no clock");
     }
 
@@ -203,7 +203,8 @@ private:
         demand(m_form.savedMark == 0 || m_form.savedMark == 100, "neither saved nor changed");
         demand(m_form.blinkCount >= 0 && m_form.blinkCount < 10000 && m_form.blinkCount % 25 == 0, "the blink is lost");
         const int help = m_help.height();
-        demand(help == 0 || (help >= form2::collapsed && help <= form2::open), "the help window has a wrong height");
+        demand(help == 0 || (help >= form2::collapsedHeight && help <= form2::openHeight),
+               "the help window has a wrong height");
         for (const double number :
              {m_form.resist, m_form.induc, m_form.capac, m_form.supplyValue, m_form.supplyVoltage, m_form.supplyCurrent,
               m_form.batteryPositive, m_form.batteryNegative, m_form.resonanceDenominator, m_form.resonanceFrequency,
@@ -223,8 +224,9 @@ private:
     StandInWindow m_output{form4::control::captions, form4::control::values};
     StandInWindow m_splash{splashControls};
     Form1 m_form{m_surface, m_window, m_dialogs, m_pictures, m_help, m_about, m_output, m_splash};
-    std::array<Actor, 4> m_actors{Actor{mainWindow, m_window, {}}, Actor{form2::window, m_help, {}},
-                                  Actor{form3::window, m_about, {}}, Actor{form4::window, m_output, {}}};
+    Events m_events{m_form};
+    std::array<Actor, 4> m_actors{Actor{mainWindow.text(), m_window, {}}, Actor{form2::window.text(), m_help, {}},
+                                  Actor{form3::window.text(), m_about, {}}, Actor{form4::window.text(), m_output, {}}};
     Event m_event{};
     std::map<Cause, std::set<std::pair<long, long>>> m_advances;
 };

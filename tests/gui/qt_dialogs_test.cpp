@@ -123,6 +123,6 @@ TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
     EXPECT_EQ(afterEscape([&] { dialogs.messageBox("?", Box::yesNoQuestion, ""); }), &canvas);
     EXPECT_EQ(afterEscape([&] { dialogs.messageBox("!", Box::okWarning, ""); }), &typed);
     EXPECT_EQ(afterEscape([&] { dialogs.inputBox("?", "", ""); }), &canvas);
-    EXPECT_EQ(afterEscape([&] { dialogs.pickColor(""); }), &canvas);
+    EXPECT_EQ(afterEscape([&] { dialogs.pickColor("", black); }), &canvas);
     EXPECT_EQ(afterEscape([&] { dialogs.openFile(); }), &canvas);
 }

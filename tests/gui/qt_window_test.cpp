@@ -17,9 +17,9 @@
 
 namespace {
 
-using MainWindow = Shown<QMainWindow, Ui::Form1>;
+using ShownMain = Shown<QMainWindow, Ui::Form1>;
 
-QMenu& addPopup(MainWindow& main)
+QMenu& addPopup(ShownMain& main)
 {
     main.window->addMenuItem(0, {"rc", "&Rightclick", "", Look::hidden});
     main.window->addMenuItem(1, {"eras", "&Eraser"});
@@ -30,7 +30,7 @@ QMenu& addPopup(MainWindow& main)
 
 TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
 {
-    MainWindow main;
+    ShownMain main;
     QWindow* const window = main.view.windowHandle();
     const QPoint place = main.form.Canvas->mapTo(&main.view, QPoint(100, 200));
     QTest::mouseMove(window, place);
@@ -62,7 +62,7 @@ TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
 
 TEST(QtWindow, KeepsADoubleClickFromTheCanvasWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
 {
-    MainWindow main;
+    ShownMain main;
     const auto send = [&main](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, quint64 when) {
         QWidget* const popup = QApplication::activePopupWidget();
         QWidget& target = popup != nullptr ? *popup : *main.form.Canvas;
@@ -89,7 +89,7 @@ TEST(QtWindow, KeepsADoubleClickFromTheCanvasWhoseFirstPressWasOnSomethingThatWe
 
 TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->addMenuItem(0, {"file", "&File"});
     main.window->addMenuItem(1, {"new", "&New"});
     QMenu& menu = addPopup(main);
@@ -121,7 +121,7 @@ TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
 
 TEST(QtWindow, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->show({control::Frame2});
     QWindow* const window = main.view.windowHandle();
     const auto moveTo = [&](QPoint place) { QTest::mouseMove(window, main.form.Frame2->mapTo(&main.view, place)); };
@@ -138,7 +138,7 @@ TEST(QtWindow, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
 
 TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->show({control::panel, control::sup, control::bat, control::Text11});
     struct Case {
         QSize window;
@@ -169,7 +169,7 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
 
 TEST(QtWindow, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->show({control::Frame2});
     const auto& toolbox = *main.form.Frame2;
     const auto place = [&] { return QPoint(main.form.Canvas->width(), 0) - toolbox.geometry().topRight(); };
@@ -209,7 +209,7 @@ TEST(QtWindow, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach
 
 TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
 {
-    MainWindow main;
+    ShownMain main;
     using namespace control;
     main.window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
     main.window->enable({Text11, Command3, Command7, Command8});
@@ -242,7 +242,7 @@ TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAnd
 
 TEST(QtWindow, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
 {
-    MainWindow main;
+    ShownMain main;
     using namespace control;
     main.window->show({Frame2, panel, sup, Text11, Command3});
     for (const auto& [focus, goes] :
@@ -263,7 +263,7 @@ TEST(QtWindow, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
 
 TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->addToolButton("Line", "", Look::unchecked);
     main.window->addToolButton("Fore", "", Look::plain);
     auto& bar = *main.view.findChild<QToolBar*>();
@@ -291,7 +291,7 @@ TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen
 
 TEST(QtWindow, ShowsTheWholeNameOfADrawing)
 {
-    MainWindow main;
+    ShownMain main;
     main.window->setCaption("plan [*] b");
     EXPECT_EQ(main.view.windowHandle()->title(), "plan [*] b");
 }

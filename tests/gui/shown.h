@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/qt/qt_window.h"
+#include "platform/qt/qt_main_window.h"
 
+#include <QMainWindow>
 #include <QTest>
 #include <memory>
 #include <string>
@@ -16,8 +17,9 @@ template <typename View, typename Form> struct Shown {
         return made;
     }();
     std::vector<Event> events;
-    std::unique_ptr<QtWindow> window =
-        std::make_unique<QtWindow>(view, [this](const Event& event) { events.push_back(event); });
+    using Made = std::conditional_t<std::is_same_v<View, QMainWindow>, QtMainWindow, QtWindow>;
+    std::unique_ptr<Made> window =
+        std::make_unique<Made>(view, [this](const Event& event) { events.push_back(event); });
 
     Shown()
     {

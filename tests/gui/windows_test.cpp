@@ -1,5 +1,6 @@
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/fit_screen.h"
+#include "platform/qt/text.h"
 #include "shell/product_picture.h"
 #include "tests/gui/pixels.h"
 #include "tests/gui/shown.h"
@@ -77,7 +78,7 @@ int expectReadable(const QWidget& window)
 void expectControls(const QWidget& window, std::span<const Name> names)
 {
     for (const Name name : names) {
-        EXPECT_NE(window.findChild<QObject*>(QString::fromLatin1(name.data())), nullptr) << name;
+        EXPECT_NE(window.findChild<QObject*>(toQString(name)), nullptr) << name.text();
     }
 }
 
@@ -178,10 +179,10 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktop)
         expectControls(main.view, formControls);
         EXPECT_EQ(expectReadable(main.view), 24);
         const Shown<QDialog, Ui::Form2> help;
-        help.window->setHeight(form2::collapsed);
+        help.window->setHeight(form2::collapsedHeight);
         EXPECT_LT(help.form.hints->geometry().bottom(), help.view.height());
         EXPECT_GE(help.form.Frame2->mapTo(&help.view, QPoint()).y(), help.view.height());
-        help.window->setHeight(form2::open);
+        help.window->setHeight(form2::openHeight);
         expectWholeAndReadable(help.view, helpControls, 44);
         const Shown<QDialog, Ui::Form3> about;
         expectWholeAndReadable(about.view, aboutControls, 5);
@@ -237,7 +238,7 @@ TEST(Windows, StatusBarHasRoomForEveryTextAndOnlyTheHintGivesWay)
         QCoreApplication::processEvents();
         EXPECT_EQ(main.view.width(), 800);
         for (const auto& [panel, text] : texts) {
-            const auto& label = *main.view.findChild<QLabel*>(QString::fromLatin1(panel.data()));
+            const auto& label = *main.view.findChild<QLabel*>(toQString(panel));
             EXPECT_GE(label.width(), *text == 0 ? 0 : label.fontMetrics().horizontalAdvance(text) + 8) << text;
         }
     }
@@ -253,7 +254,7 @@ TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktop)
         font.setPointSize(points);
         QApplication::setFont(font);
         const Shown<QDialog, Ui::Form2> help;
-        help.window->setHeight(form2::open);
+        help.window->setHeight(form2::openHeight);
         QCoreApplication::processEvents();
         expectWholeAndReadable(help.view, helpControls, 44);
         EXPECT_EQ(help.view.height(), 337);

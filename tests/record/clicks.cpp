@@ -1,4 +1,4 @@
-#include "tests/record/noting_bench.h"
+#include "tests/record/noting_rig.h"
 #include "tests/record/record.h"
 
 #include <algorithm>
@@ -18,34 +18,34 @@ std::string plain(std::string_view caption)
 void addMenus(Record& record)
 {
     constexpr std::array looks{"", " off", " on", " hidden"};
-    const Bench bench;
+    const Rig rig;
     std::string rows;
-    for (const auto& [depth, item] : bench.window.menuRows) {
+    for (const auto& [depth, item] : rig.window.menuRows) {
         rows += std::string(static_cast<std::size_t>(depth) * 4, ' ') + "|" + std::string(item.caption) + "|" +
-                std::string(item.shortcut) + "| " + std::string(item.name) +
+                std::string(item.shortcut) + "| " + std::string(item.name.text()) +
                 looks.at(static_cast<std::size_t>(item.look)) + "\n";
     }
     record.push_back({"Menus", rows});
     std::string colors;
-    for (Color color = NotingBench::colorInHand; const Item& item : itemsOf({"cc", "fc"})) {
+    for (Color color = NotingRig::colorInHand; const Item& item : itemsOf({"cc", "fc"})) {
         colors += std::to_string(++color) + " " + item.title + "\n";
     }
     record.push_back({"Colors in this record", colors + "100 what was in hand before\n"});
 }
 
-std::string hint(Name name)
+std::string hint(std::string_view name)
 {
-    Bench bench;
-    bench.window.setText(control::sb, "");
-    bench.hover(name);
-    return bench.window.at(control::sb).text;
+    Rig rig;
+    rig.window.setText(control::sb, "");
+    rig.hover(name);
+    return rig.window.at(control::sb).text;
 }
 
 /// Whatever the window shows otherwise than before.
 std::string changes(StandInWindow& before, StandInWindow& after)
 {
     std::string text;
-    for (const Name name : before.names()) {
+    for (const std::string_view name : before.names()) {
         const auto& was = before.at(name);
         const auto& is = after.at(name);
         const std::string label = ", " + std::string(name);
@@ -57,31 +57,31 @@ std::string changes(StandInWindow& before, StandInWindow& after)
     return text;
 }
 
-std::string clicked(Name name)
+std::string clicked(std::string_view name)
 {
-    NotingBench untouched(heading::right, answer::no);
-    NotingBench bench(heading::right, answer::no);
-    for (NotingBench* const each : {&untouched, &bench}) {
+    NotingRig untouched(heading::right, answer::no);
+    NotingRig rig(heading::right, answer::no);
+    for (NotingRig* const each : {&untouched, &rig}) {
         each->form.penMoved = 1; // Open does something only then
         each->dialogs.fileToOpen = each->dialogs.fileToSave = "";
         each->dialogs.picked = 200;
     }
-    const std::string outcome = bench.after([&](Bench& user) { user.click(name); });
+    const std::string outcome = rig.after([&](Rig& user) { user.click(name); });
     untouched.tick(control::statusTimer);
-    bench.tick(control::statusTimer);
-    const Cursor& cursor = bench.window.cursor;
+    rig.tick(control::statusTimer);
+    const Cursor& cursor = rig.window.cursor;
     return outcome + "cursor " + std::string(cursor.picture) + " " + std::to_string(cursor.hotX) + " " +
-           std::to_string(cursor.hotY) + changes(untouched.window, bench.window) +
-           (bench.form.wireColor == 200 ? ", wires 200" : "") +
-           (bench.form.canvasBackColor == 200 ? ", canvas 200" : "") + (bench.help.timesShown > 0 ? ", help" : "") +
-           (bench.about.timesShown > 0 ? ", about" : "") + (bench.output.timesShown > 0 ? ", output" : "") + "\n";
+           std::to_string(cursor.hotY) + changes(untouched.window, rig.window) +
+           (rig.form.wireColor == 200 ? ", wires 200" : "") + (rig.form.canvasBackColor == 200 ? ", canvas 200" : "") +
+           (rig.help.timesShown > 0 ? ", help" : "") + (rig.about.timesShown > 0 ? ", about" : "") +
+           (rig.output.timesShown > 0 ? ", output" : "") + "\n";
 }
 
 void addClicks(Record& record)
 {
     const std::string nothingElse = clicked("");
-    const Bench bench;
-    for (const Name name : bench.window.names()) {
+    const Rig rig;
+    for (const std::string_view name : rig.window.names()) {
         const std::string hinted = hint(name);
         std::string body = hinted.empty() ? "" : "hint |" + hinted + "|\n";
         body += clicked(name);
@@ -95,8 +95,8 @@ void addClicks(Record& record)
 
 std::vector<Item> itemsOf(std::initializer_list<Name> menus)
 {
-    const Bench bench;
-    const auto& rows = bench.window.menuRows;
+    const Rig rig;
+    const auto& rows = rig.window.menuRows;
     std::vector<Item> items;
     std::vector<std::string> captions;
     bool wanted = false;

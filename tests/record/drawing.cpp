@@ -1,4 +1,4 @@
-#include "tests/record/noting_bench.h"
+#include "tests/record/noting_rig.h"
 #include "tests/record/record.h"
 
 #include <algorithm>
@@ -34,10 +34,10 @@ std::string silencers(Name asking)
 {
     std::string names;
     for (const Item& silencer : itemsOf({"askc"})) {
-        NotingBench bench(heading::right);
-        bench.click(silencer.name);
-        bench.click(asking);
-        names += bench.dialogs.lastTitle.empty() ? " " + silencer.title + "," : "";
+        NotingRig rig(heading::right);
+        rig.click(silencer.name);
+        rig.click(asking);
+        names += rig.dialogs.lastTitle.empty() ? " " + silencer.title + "," : "";
     }
     return names;
 }
@@ -45,11 +45,11 @@ std::string silencers(Name asking)
 /// Twice in a row: the second time nothing is asked that can be switched off.
 std::string placedTwice(Name item, int heading)
 {
-    const auto place = [&](Bench& bench) { bench.click(item); };
-    NotingBench bench(heading);
-    const std::string first = bench.after(place);
-    bench.form.confirm.fill(0);
-    return first + bench.after(place);
+    const auto place = [&](Rig& rig) { rig.click(item); };
+    NotingRig rig(heading);
+    const std::string first = rig.after(place);
+    rig.form.confirm.fill(0);
+    return first + rig.after(place);
 }
 
 void addComponents(Record& record)
@@ -57,8 +57,8 @@ void addComponents(Record& record)
     std::vector<Item> items = itemsOf({"electricalcomponents", "electroniccomponets"});
     items.insert(items.begin(), {{"ground", "Ground"}, {"jumper", "Jumper"}});
     for (const Item& item : items) {
-        NotingBench refused(heading::right, answer::no);
-        const std::string outcome = refused.after([&](Bench& bench) { bench.click(item.name); });
+        NotingRig refused(heading::right, answer::no);
+        const std::string outcome = refused.after([&](Rig& rig) { rig.click(item.name); });
         if (refused.window.visible(control::panel)) {
             continue; // its kinds are below
         }
@@ -77,10 +77,10 @@ void addSources(Record& record)
                                {"Positive battery", "+ 4.70x"},
                                {"Negative battery", "- 4.70x"}}) {
         addByHeading(record, source.first, [&](int heading) {
-            const auto place = [&](Bench& bench) { bench.enter(source.second); };
-            NotingBench bench(heading);
-            const std::string first = bench.after(place);
-            return first + bench.after(place);
+            const auto place = [&](Rig& rig) { rig.enter(source.second); };
+            NotingRig rig(heading);
+            const std::string first = rig.after(place);
+            return first + rig.after(place);
         });
     }
 }
@@ -95,20 +95,20 @@ struct Ahead {
 
 void addArrowKeys(Record& record)
 {
-    const Color wire = NotingBench(heading::right).form.wireColor;
+    const Color wire = NotingRig(heading::right).form.wireColor;
     for (const Ahead& ahead : {Ahead{"a wire ahead", 0, wire}, Ahead{"a wire ahead, jumper", 1, wire, answer::yes},
                                Ahead{"a wire ahead, no jumper", 1, wire}, Ahead{"other ink ahead", 1, wire + 1},
                                Ahead{"the edge ahead", 1, {}}, Ahead{"erase mode", 1, wire, answer::yes, 1}}) {
         for (const auto& arrow :
              {std::pair{"Right", key::right}, {"Left", key::left}, {"Up", key::up}, {"Down", key::down}}) {
-            NotingBench bench(heading::right, ahead.reply);
-            bench.form.autoJumper = ahead.autoJumper;
-            bench.form.eraseMode = ahead.eraseMode;
-            bench.surface.underPoint = ahead.color;
+            NotingRig rig(heading::right, ahead.reply);
+            rig.form.autoJumper = ahead.autoJumper;
+            rig.form.eraseMode = ahead.eraseMode;
+            rig.surface.underPoint = ahead.color;
             std::string body;
             for (int i = 0; i < 2; ++i) {
-                body += bench.after([&](Bench& pressed) { pressed.press(arrow.second); });
-                body += "heading " + wayOf(bench.form.heading) + ", looked at " + bench.surface.probedAt + "\n";
+                body += rig.after([&](Rig& pressed) { pressed.press(arrow.second); });
+                body += "heading " + wayOf(rig.form.heading) + ", looked at " + rig.surface.probedAt + "\n";
             }
             record.push_back({std::string(arrow.first) + " arrow, " + ahead.title, body});
         }
@@ -117,19 +117,19 @@ void addArrowKeys(Record& record)
 
 std::string dragged(const std::vector<Name>& tools, int held)
 {
-    NotingBench bench(heading::right);
+    NotingRig rig(heading::right);
     for (const Name tool : tools) {
-        bench.click(tool);
+        rig.click(tool);
     }
-    std::string body = bench.after([&](Bench& user) { user.mouseDown(held, 1000, 1010); });
+    std::string body = rig.after([&](Rig& user) { user.mouseDown(held, 1000, 1010); });
     for (const float x : {2000.0F, 2050.5F}) {
-        body += bench.after([&](Bench& user) { user.mouseMove(held, x, 1500); });
+        body += rig.after([&](Rig& user) { user.mouseMove(held, x, 1500); });
     }
-    body += bench.after([&](Bench& user) { user.mouseUp(held, 3000, 2000); });
-    const auto& outline = bench.window.at(control::Shape1);
-    return body + "menu |" + bench.window.poppedUp + "|, eraser " +
+    body += rig.after([&](Rig& user) { user.mouseUp(held, 3000, 2000); });
+    const auto& outline = rig.window.at(control::Shape1);
+    return body + "menu |" + rig.window.poppedUp + "|, eraser " +
            (outline.visible ? shortest(outline.left) + " " + shortest(outline.top) : "hidden") + ", up at " +
-           shortest(bench.form.mouseUpX) + " " + shortest(bench.form.mouseUpY) + "\n";
+           shortest(rig.form.mouseUpX) + " " + shortest(rig.form.mouseUpY) + "\n";
 }
 
 void addMouse(Record& record)
@@ -149,21 +149,21 @@ void addMouse(Record& record)
 
 std::string drawnBy(void (*picture)(Surface&))
 {
-    Bench bench;
-    bench.surface.notesColors = true;
-    picture(bench.surface);
-    return bench.drawn();
+    Rig rig;
+    rig.surface.notesColors = true;
+    picture(rig.surface);
+    return rig.drawn();
 }
 
 void addPictures(Record& record)
 {
-    const Bench bench;
-    for (const Name name : bench.window.names()) {
-        if (const auto picture = bench.window.at(name).picture) {
+    const Rig rig;
+    for (const std::string_view name : rig.window.names()) {
+        if (const auto picture = rig.window.at(name).picture) {
             record.push_back({"Toolbox, " + std::string(name), drawnBy(picture)});
         }
     }
-    const Bench start(Bench::Start::atSplash);
+    const Rig start(Rig::Start::atSplash);
     record.push_back({"Product picture", drawnBy(start.splash.at(form6::control::Picture1).picture)});
 }
 

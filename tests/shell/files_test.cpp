@@ -9,7 +9,7 @@ namespace {
 constexpr const char* newFile = " - Schemlet 2.0  New File ";
 
 /// With a drawing that has changed.
-struct ChangedBench : Bench {
+struct ChangedBench : Rig {
     ChangedBench() { press(key::right); }
 
     /// Runs a command that asks before it does what it does.
@@ -24,72 +24,72 @@ struct ChangedBench : Bench {
 
 TEST(Save, WritesThePictureAndNamesItInTheTitle)
 {
-    ChangedBench bench;
-    bench.dialogs.fileToSave = "/home/me/my circuit.JPEG";
-    bench.click("save");
-    EXPECT_EQ(bench.pictures.notes, "save /home/me/my circuit.JPEG\n");
-    EXPECT_EQ(bench.dialogs.lastFilter, "JPEG, JPEG Files ( *.jpeg)|*.JPEG");
-    EXPECT_EQ(bench.window.caption, " - Schemlet 2.0 my circuit.JPEG");
-    EXPECT_EQ(bench.form.savedMark, 100);
+    ChangedBench rig;
+    rig.dialogs.fileToSave = "/home/me/my circuit.JPEG";
+    rig.click("save");
+    EXPECT_EQ(rig.pictures.notes, "save /home/me/my circuit.JPEG\n");
+    EXPECT_EQ(rig.dialogs.lastFilter, "JPEG, JPEG Files ( *.jpeg)|*.JPEG");
+    EXPECT_EQ(rig.window.caption, " - Schemlet 2.0 my circuit.JPEG");
+    EXPECT_EQ(rig.form.savedMark, 100);
     for (const char* const proposed : {"my circuit.JPEG", ""}) {
-        bench.dialogs.fileToSave = "/full/disk";
-        bench.pictures.fault = Fault::pictureNotSaved;
-        bench.click("save");
-        EXPECT_EQ(bench.dialogs.lastName, proposed);
-        bench.click("new");
+        rig.dialogs.fileToSave = "/full/disk";
+        rig.pictures.fault = Fault::pictureNotSaved;
+        rig.click("save");
+        EXPECT_EQ(rig.dialogs.lastName, proposed);
+        rig.click("new");
     }
 }
 
 TEST(Save, CountsEvenIfCancelledWhichBringsAMessageOrFailedWhichIsSaidUntilTheNextOneOrNew)
 {
-    ChangedBench bench;
-    const auto said = [&bench] {
-        bench.tick(control::statusTimer);
-        return bench.window.at(control::sbNotice).text;
+    ChangedBench rig;
+    const auto said = [&rig] {
+        rig.tick(control::statusTimer);
+        return rig.window.at(control::sbNotice).text;
     };
-    const auto fail = [&bench] {
-        bench.dialogs.fileToSave = "/full/disk";
-        bench.pictures.fault = Fault::pictureNotSaved;
+    const auto fail = [&rig] {
+        rig.dialogs.fileToSave = "/full/disk";
+        rig.pictures.fault = Fault::pictureNotSaved;
     };
     const std::string notSaved = "Not saved: Invalid picture"; // the stand-in's cause
     fail();
-    bench.click("save");
-    EXPECT_EQ(bench.form.savedMark, 100);
-    EXPECT_EQ(bench.window.caption, newFile);
+    rig.click("save");
+    EXPECT_EQ(rig.form.savedMark, 100);
+    EXPECT_EQ(rig.window.caption, newFile);
     EXPECT_EQ(said(), notSaved);
-    bench.click("batterycolor");
+    rig.click("batterycolor");
     EXPECT_NE(said(), notSaved);
-    bench.tick(control::noticeTimer);
+    rig.tick(control::noticeTimer);
     EXPECT_EQ(said(), notSaved);
-    EXPECT_TRUE(bench.window.at(control::Canvas).description.starts_with("Pen")); // it is not spoken with every step
+    EXPECT_TRUE(rig.window.at(control::Canvas).description.starts_with("Pen")); // it is not spoken with every step
 
-    bench.press(key::right);
-    bench.dialogs.fileToSave = "";
-    bench.clickAndAnswer("save", 0);
-    EXPECT_EQ(bench.dialogs.lastPrompt, "Unkown error while saving file ");
-    EXPECT_EQ(bench.dialogs.lastStyle, Box::okOnly);
-    EXPECT_EQ(bench.form.savedMark, 100);
+    rig.press(key::right);
+    rig.dialogs.fileToSave = "";
+    rig.clickAndAnswer("save", 0);
+    EXPECT_EQ(rig.dialogs.lastPrompt, "Unkown error while saving file ");
+    EXPECT_EQ(rig.dialogs.lastStyle, Box::okOnly);
+    EXPECT_EQ(rig.form.savedMark, 100);
     EXPECT_EQ(said(), notSaved);
-    bench.dialogs.fileToSave = "/home/a";
-    bench.click("save");
+    rig.dialogs.fileToSave = "/home/a";
+    rig.click("save");
     EXPECT_EQ(said(), "");
 
-    bench.press(key::up);
+    rig.press(key::up);
     fail();
-    bench.clickAndAnswer("new", answer::yes);
+    rig.clickAndAnswer("new", answer::yes);
     EXPECT_EQ(said(), notSaved); // the drawing is lost
-    bench.click("new");          // asks nothing
+    rig.click("new");            // asks nothing
     EXPECT_EQ(said(), "");
 }
 
 TEST(Open, DoesNothingBeforeThePenHasMovedSinceStartOrNew)
 {
-    ChangedBench bench;
-    bench.clickAndAnswer("new", answer::no);
-    bench.form.pencilTool = 1;
-    bench.click("open");
-    EXPECT_EQ(bench.form.pencilTool, 0); // but this
-    Bench().click("open");
+    ChangedBench rig;
+    rig.clickAndAnswer("new", answer::no);
+    rig.form.pencilTool = 1;
+    rig.click("open");
+    EXPECT_EQ(rig.form.pencilTool, 0); // but this
+    Rig().click("open");
 }
 
 TEST(Open, TakesThePictureAndItsNameOrLeavesTheOddTitleOfACancelledDialog)
@@ -102,66 +102,66 @@ TEST(Open, TakesThePictureAndItsNameOrLeavesTheOddTitleOfACancelledDialog)
     for (const Case& c :
          {Case{answer::yes, "/a/b.png", " - Schemlet 2.0 b.png"}, Case{answer::yes, "", " - Schemlet 2.0 "},
           Case{answer::no, "/a/b.png", " - Schemlet 2.0 b.png"}, Case{answer::no, "", newFile}}) {
-        ChangedBench bench;
-        bench.window.caption = "before";
+        ChangedBench rig;
+        rig.window.caption = "before";
         if (c.answer == answer::yes) {
-            bench.dialogs.fileToSave = "/a/saved.JPEG";
+            rig.dialogs.fileToSave = "/a/saved.JPEG";
         }
-        bench.dialogs.fileToOpen = c.file;
-        bench.clickAndAnswer("open", c.answer);
-        EXPECT_EQ(bench.window.caption, c.caption);
-        EXPECT_EQ(bench.pictures.notes, (c.answer == answer::yes ? "save /a/saved.JPEG\n" : "") +
-                                            (c.file.empty() ? "" : "load " + c.file + "\n"));
-        EXPECT_EQ(bench.form.heading, c.answer);
+        rig.dialogs.fileToOpen = c.file;
+        rig.clickAndAnswer("open", c.answer);
+        EXPECT_EQ(rig.window.caption, c.caption);
+        EXPECT_EQ(rig.pictures.notes, (c.answer == answer::yes ? "save /a/saved.JPEG\n" : "") +
+                                          (c.file.empty() ? "" : "load " + c.file + "\n"));
+        EXPECT_EQ(rig.form.heading, c.answer);
     }
 }
 
 TEST(Open, LeavesEverythingForABrokenPictureOrCancel)
 {
-    ChangedBench bench;
-    bench.clickAndAnswer("open", answer::cancel);
-    EXPECT_EQ(bench.form.heading, 2);
-    bench.dialogs.expect("Schemlet 2.0", answer::no);
-    bench.dialogs.fileToOpen = "/a/broken.png";
-    bench.pictures.fault = Fault::invalidPicture;
-    bench.clickAndAnswer("open", 0); // its message
-    EXPECT_EQ(bench.dialogs.lastPrompt, "Invalid picture");
-    EXPECT_EQ(bench.window.caption, newFile);
+    ChangedBench rig;
+    rig.clickAndAnswer("open", answer::cancel);
+    EXPECT_EQ(rig.form.heading, 2);
+    rig.dialogs.expect("Schemlet 2.0", answer::no);
+    rig.dialogs.fileToOpen = "/a/broken.png";
+    rig.pictures.fault = Fault::invalidPicture;
+    rig.clickAndAnswer("open", 0); // its message
+    EXPECT_EQ(rig.dialogs.lastPrompt, "Invalid picture");
+    EXPECT_EQ(rig.window.caption, newFile);
 }
 
 TEST(New, BringsBackTheStartButKeepsWhatIsNotTheDrawings)
 {
-    ChangedBench bench;
-    CanvasState& state = bench.form;
-    bench.output.at(form4::control::Label22).text = "0.2";
-    bench.window.at(control::Option2).value = 1;
-    bench.dialogs.picked = 0x0000FF;
+    ChangedBench rig;
+    CanvasState& state = rig.form;
+    rig.output.at(form4::control::Label22).text = "0.2";
+    rig.window.at(control::Option2).value = 1;
+    rig.dialogs.picked = 0x0000FF;
     for (const char* const item : {"gatescolor", "forec", "bc", "linee", "jj", "gg", "eraser", "Label1"}) {
-        bench.click(item);
+        rig.click(item);
     }
-    bench.mouseMove(button::left, 900, 900);
-    bench.drawn();
-    bench.clickAndAnswer("new", answer::no);
-    EXPECT_EQ(bench.outcome(), "back 16777215\nclear\n" + std::string(nothing));
-    EXPECT_EQ(bench.surface.foreColor, black);
-    EXPECT_EQ(bench.surface.drawWidth(), 2);
-    EXPECT_EQ(bench.surface.current().x, 1650); // the pen's old place
-    EXPECT_EQ(bench.surface.current().y, 1500);
+    rig.mouseMove(button::left, 900, 900);
+    rig.drawn();
+    rig.clickAndAnswer("new", answer::no);
+    EXPECT_EQ(rig.outcome(), "back 16777215\nclear\n" + std::string(nothing));
+    EXPECT_EQ(rig.surface.foreColor, black);
+    EXPECT_EQ(rig.surface.drawWidth(), 2);
+    EXPECT_EQ(rig.surface.current().x, 1650); // the pen's old place
+    EXPECT_EQ(rig.surface.current().y, 1500);
     EXPECT_EQ(state.heading, answer::no); // until the next arrow key
-    EXPECT_EQ(bench.window.caption, newFile);
+    EXPECT_EQ(rig.window.caption, newFile);
     EXPECT_EQ(state.eraseMode + state.toolboxFollow + state.penMoved, 0);
-    EXPECT_FALSE(bench.window.at(control::Label27).visible || bench.window.at(control::Shape1).visible);
+    EXPECT_FALSE(rig.window.at(control::Label27).visible || rig.window.at(control::Shape1).visible);
     EXPECT_EQ(state.confirm[gatesConfirm], 1);
-    EXPECT_TRUE(bench.window.checked("gg"));
-    EXPECT_EQ(bench.output.at(form4::control::Label22).text, "0");
-    EXPECT_EQ(bench.window.at(control::Option2).value, 0);
-    EXPECT_EQ(bench.window.at(control::bat).backColor, white);
+    EXPECT_TRUE(rig.window.checked("gg"));
+    EXPECT_EQ(rig.output.at(form4::control::Label22).text, "0");
+    EXPECT_EQ(rig.window.at(control::Option2).value, 0);
+    EXPECT_EQ(rig.window.at(control::bat).backColor, white);
     EXPECT_EQ(state.wireColor, black);
     EXPECT_EQ(state.savedMark, 100);
 
     EXPECT_EQ(state.gatesColor, 0x0000FFU);
     EXPECT_EQ(state.lineTool + state.autoJumper, 2);
-    EXPECT_TRUE(bench.window.checked("jj"));
+    EXPECT_TRUE(rig.window.checked("jj"));
 }
 
 TEST(New, SetsEverySumAndResultTo0)
@@ -172,41 +172,41 @@ TEST(New, SetsEverySumAndResultTo0)
           &State::supplyValue, &State::batteryPositive, &State::batteryNegative, &State::resonanceDenominator,
           &State::resonanceFrequency, &State::qualityFactor, &State::frequencyCopy, &State::angularFrequency,
           &State::frequencyCapac, &State::capacitiveReactance}) {
-        Bench bench;
-        bench.form.*sum = bench.form.diodeCount = 5;
-        bench.click("new");
-        EXPECT_EQ(bench.form.*sum + bench.form.diodeCount, 0);
+        Rig rig;
+        rig.form.*sum = rig.form.diodeCount = 5;
+        rig.click("new");
+        EXPECT_EQ(rig.form.*sum + rig.form.diodeCount, 0);
     }
 }
 
 TEST(New, AsksOnlyAfterAChangeAndKeepsTheDrawingOnCancel)
 {
-    ChangedBench bench;
-    bench.drawn();
-    bench.clickAndAnswer("new", answer::cancel);
-    EXPECT_EQ(bench.dialogs.lastPrompt, "Do you want to save changes?");
-    EXPECT_EQ(bench.dialogs.lastStyle, Box::yesNoCancelWarning);
-    EXPECT_EQ(bench.drawn(), "");
-    EXPECT_EQ(bench.form.heading, 2);
-    EXPECT_EQ(bench.form.savedMark, 0);
+    ChangedBench rig;
+    rig.drawn();
+    rig.clickAndAnswer("new", answer::cancel);
+    EXPECT_EQ(rig.dialogs.lastPrompt, "Do you want to save changes?");
+    EXPECT_EQ(rig.dialogs.lastStyle, Box::yesNoCancelWarning);
+    EXPECT_EQ(rig.drawn(), "");
+    EXPECT_EQ(rig.form.heading, 2);
+    EXPECT_EQ(rig.form.savedMark, 0);
 
-    bench.dialogs.fileToSave = "/a/b.JPEG";
-    bench.clickAndAnswer("new", answer::yes);
-    EXPECT_EQ(bench.drawn(), "back 16777215\nclear\n");
-    EXPECT_EQ(bench.window.caption, newFile);
-    EXPECT_EQ(bench.form.heading, answer::yes);
+    rig.dialogs.fileToSave = "/a/b.JPEG";
+    rig.clickAndAnswer("new", answer::yes);
+    EXPECT_EQ(rig.drawn(), "back 16777215\nclear\n");
+    EXPECT_EQ(rig.window.caption, newFile);
+    EXPECT_EQ(rig.form.heading, answer::yes);
 
-    bench.click("new");
-    EXPECT_EQ(bench.form.heading, heading::right);
+    rig.click("new");
+    EXPECT_EQ(rig.form.heading, heading::right);
 }
 
 TEST(Print, AsksFirst)
 {
-    ChangedBench bench;
+    ChangedBench rig;
     for (const int reply : {answer::no, answer::cancel, answer::yes}) {
-        bench.clickAndAnswer("print", reply);
-        EXPECT_EQ(bench.dialogs.lastPrompt, " Do you want to print this form?");
-        EXPECT_EQ(bench.window.timesPrinted, reply == answer::yes ? 1 : 0);
+        rig.clickAndAnswer("print", reply);
+        EXPECT_EQ(rig.dialogs.lastPrompt, " Do you want to print this form?");
+        EXPECT_EQ(rig.window.timesPrinted, reply == answer::yes ? 1 : 0);
     }
 }
 
@@ -214,15 +214,15 @@ TEST(Exit, AlwaysAsksAndEndsAfterYesEvenIfSavingWasCancelled)
 {
     for (const int reply : {answer::cancel, answer::no, answer::yes}) {
         for (const bool byFrame : {false, true}) {
-            Bench bench;
-            bench.dialogs.expect("Schemlet 2.0", reply);
+            Rig rig;
+            rig.dialogs.expect("Schemlet 2.0", reply);
             if (reply == answer::yes) {
-                bench.dialogs.fileToSave = "";
-                bench.dialogs.expect("Schemlet 2.0", 0);
+                rig.dialogs.fileToSave = "";
+                rig.dialogs.expect("Schemlet 2.0", 0);
             }
-            byFrame ? bench.close() : bench.click("exit");
-            EXPECT_EQ(bench.window.timesEnded, reply == answer::cancel ? 0 : 1);
-            EXPECT_EQ(bench.form.heading, reply);
+            byFrame ? rig.close() : rig.click("exit");
+            EXPECT_EQ(rig.window.timesEnded, reply == answer::cancel ? 0 : 1);
+            EXPECT_EQ(rig.form.heading, reply);
         }
     }
 }

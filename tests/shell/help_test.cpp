@@ -6,7 +6,7 @@
 
 namespace {
 
-struct HelpBench : Bench {
+struct HelpBench : Rig {
     HelpBench() { click("hheellpp"); }
     int heightAfterClick(Name name)
     {
@@ -26,59 +26,59 @@ struct HelpBench : Bench {
 
 TEST(HelpWindow, ShowsItselfOnceAtStartAndLeavesTheKeyboardAlone)
 {
-    Bench bench;
-    EXPECT_EQ(bench.window.intervals.at("Timer1"), 100);
+    Rig rig;
+    EXPECT_EQ(rig.window.intervals.at("Timer1"), 100);
     for (int i = 0; i < 2; ++i) {
-        bench.tick(control::Timer1);
-        EXPECT_EQ(bench.window.intervals.at("Timer1"), 0);
-        EXPECT_EQ(bench.help.timesShownWithoutKeyboard, 1);
+        rig.tick(control::Timer1);
+        EXPECT_EQ(rig.window.intervals.at("Timer1"), 0);
+        EXPECT_EQ(rig.help.timesShownWithoutKeyboard, 1);
     }
-    EXPECT_EQ(bench.help.timesShown, 0);
+    EXPECT_EQ(rig.help.timesShown, 0);
 }
 
 TEST(HelpWindow, SlidesOpenInStepsWhoseLastOneIsShorter)
 {
-    HelpBench bench;
-    EXPECT_EQ(bench.help.height(), 3210);
-    EXPECT_EQ(bench.heightAfterClick(form2::control::Check1), 3310);
-    EXPECT_EQ(bench.help.intervals.at("Timer2"), 100);
-    EXPECT_EQ(bench.heightAfterTicks(17), 5010);
-    EXPECT_EQ(bench.help.intervals.at("Timer2"), 100);
-    EXPECT_EQ(bench.heightAfterTicks(1), 5055);
-    EXPECT_EQ(bench.help.intervals.at("Timer2"), 0);
-    bench.click("htu"); // shows again as it was left
-    EXPECT_EQ(bench.help.height(), 5055);
-    EXPECT_EQ(bench.help.timesShown, 2);
+    HelpBench rig;
+    EXPECT_EQ(rig.help.height(), 3210);
+    EXPECT_EQ(rig.heightAfterClick(form2::control::Check1), 3310);
+    EXPECT_EQ(rig.help.intervals.at("Timer2"), 100);
+    EXPECT_EQ(rig.heightAfterTicks(17), 5010);
+    EXPECT_EQ(rig.help.intervals.at("Timer2"), 100);
+    EXPECT_EQ(rig.heightAfterTicks(1), 5055);
+    EXPECT_EQ(rig.help.intervals.at("Timer2"), 0);
+    rig.click("htu"); // shows again as it was left
+    EXPECT_EQ(rig.help.height(), 5055);
+    EXPECT_EQ(rig.help.timesShown, 2);
 
-    EXPECT_EQ(bench.heightAfterClick(form2::control::Check1), 3210);
-    EXPECT_EQ(bench.heightAfterClick(form2::control::Check1), 3310);
-    EXPECT_EQ(bench.heightAfterTicks(5), 3810);
-    EXPECT_EQ(bench.heightAfterClick(form2::control::Check1), 3210);
-    EXPECT_EQ(bench.heightAfterTicks(1), 3310); // the slide goes on
+    EXPECT_EQ(rig.heightAfterClick(form2::control::Check1), 3210);
+    EXPECT_EQ(rig.heightAfterClick(form2::control::Check1), 3310);
+    EXPECT_EQ(rig.heightAfterTicks(5), 3810);
+    EXPECT_EQ(rig.heightAfterClick(form2::control::Check1), 3210);
+    EXPECT_EQ(rig.heightAfterTicks(1), 3310); // the slide goes on
 }
 
 TEST(HelpWindow, LabelTicksTheBoxAndDoesWhatTheBoxDoes)
 {
-    HelpBench bench;
+    HelpBench rig;
     for (const auto& [ticked, height] : {std::pair{1, 3310}, {0, 3210}, {1, 3310}}) {
-        EXPECT_EQ(bench.heightAfterClick(form2::control::Label23), height);
-        EXPECT_EQ(bench.help.value(form2::control::Check1), ticked);
+        EXPECT_EQ(rig.heightAfterClick(form2::control::Label23), height);
+        EXPECT_EQ(rig.help.value(form2::control::Check1), ticked);
     }
 }
 
 TEST(Windows, AreHiddenByTheirButtonsAndFrames)
 {
-    Bench bench;
-    bench.click("about");
-    EXPECT_EQ(bench.about.timesShown, 1);
-    EXPECT_NE(bench.about.at(form3::control::Picture1).picture, nullptr);
-    bench.click(form3::control::Command1, form3::window);
-    bench.click(form3::control::Command2, form3::window);
-    bench.click(form2::control::Command1, form2::window);
+    Rig rig;
+    rig.click("about");
+    EXPECT_EQ(rig.about.timesShown, 1);
+    EXPECT_NE(rig.about.at(form3::control::Picture1).picture, nullptr);
+    rig.click(form3::control::Command1, form3::window);
+    rig.click(form3::control::Command2, form3::window);
+    rig.click(form2::control::Command1, form2::window);
     for (const Name window : {form2::window, form3::window, form4::window}) {
-        bench.close(window);
+        rig.close(window);
     }
-    EXPECT_EQ(bench.about.timesHidden, 3);
-    EXPECT_EQ(bench.help.timesHidden, 2);
-    EXPECT_EQ(bench.output.timesHidden, 1);
+    EXPECT_EQ(rig.about.timesHidden, 3);
+    EXPECT_EQ(rig.help.timesHidden, 2);
+    EXPECT_EQ(rig.output.timesHidden, 1);
 }

@@ -99,28 +99,27 @@ int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_
     return next(prompt, title).answer;
 }
 
-std::string ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
+std::optional<std::string> ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title,
+                                                     std::string_view preset)
 {
     EXPECT_EQ(preset, "10");
-    return next(prompt, title).text;
+    const Reply reply = next(prompt, title);
+    return reply.text.empty() ? std::nullopt : std::optional(reply.text);
 }
 
-std::string ScriptedDialogs::openFile()
+std::optional<std::string> ScriptedDialogs::choice(std::optional<std::string>& file)
 {
-    EXPECT_TRUE(fileToOpen) << "unexpected file dialog";
-    return std::exchange(fileToOpen, {}).value_or("");
+    EXPECT_TRUE(file) << "unexpected file dialog";
+    const std::string path = std::exchange(file, {}).value_or("");
+    return path.empty() ? std::nullopt : std::optional(path);
 }
 
-std::string ScriptedDialogs::saveFile(std::string_view name, std::string_view extension, std::string_view filter)
+std::optional<std::string> ScriptedDialogs::saveFile(std::string_view name, std::string_view extension,
+                                                     std::string_view filter)
 {
     lastName = name;
     lastFilter = std::string(extension) + ", " + std::string(filter);
-    EXPECT_TRUE(fileToSave) << "unexpected file dialog";
-    std::string path = std::exchange(fileToSave, {}).value_or("");
-    if (path.empty()) {
-        throw RuntimeError(Fault::dialogCancelled, "");
-    }
-    return path;
+    return choice(fileToSave);
 }
 
 void StandInPictures::note(const char* what, std::string_view path)
@@ -135,14 +134,14 @@ StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> 
 {
     for (const auto& some : {names, more}) {
         for (const Name name : some) {
-            m_controls.emplace(name, Control{});
+            m_controls.emplace(name.text(), Control{});
         }
     }
 }
 
-std::vector<Name> StandInWindow::names() const
+std::vector<std::string_view> StandInWindow::names() const
 {
-    std::vector<Name> all;
+    std::vector<std::string_view> all;
     for (const auto& [name, control] : m_controls) {
         all.emplace_back(name);
     }
@@ -165,16 +164,16 @@ void StandInWindow::printForm()
 
 void StandInWindow::popUp(Name menu, Point where)
 {
-    poppedUp = std::string(menu) + " " + place(where.x, where.y);
+    poppedUp = std::string(menu.text()) + " " + place(where.x, where.y);
 }
 
-void StandInWindow::addMenuItem(int depth, const MenuItem& item)
+void StandInWindow::addMenuItem(int depth, const MenuItem& row)
 {
-    menuRows.emplace_back(depth, item);
-    m_controls[std::string(item.name)].checked = item.look == Look::checked;
+    menuRows.emplace_back(depth, row);
+    m_controls[std::string(row.name.text())].checked = row.look == Look::checked;
 }
 
-Bench::Bench(Start start)
+Rig::Rig(Start start)
 {
     if (start == Start::atSplash) {
         form6::load(splash);
@@ -183,19 +182,19 @@ Bench::Bench(Start start)
     }
 }
 
-void Bench::choose(Name option)
+void Rig::choose(Name option)
 {
     window.at(option).value = 1;
     click(option);
 }
 
-void Bench::confirm(std::string_view text)
+void Rig::confirm(std::string_view text)
 {
     window.at(control::Text11).text = text;
-    typeInto(control::Text11, character::enter);
+    click(control::Command3);
 }
 
-void Bench::enter(const std::string& component)
+void Rig::enter(const std::string& component)
 {
     static const std::map<char, const char*> boxes{
         {'R', " RESISTANCE "}, {'I', " INDUCTANCE "}, {'C', " CAPACITANCE "}};
@@ -211,7 +210,7 @@ void Bench::enter(const std::string& component)
     confirm(component.substr(1));
 }
 
-std::string Bench::drawn()
+std::string Rig::drawn()
 {
     std::string lines;
     for (const std::string& line : std::exchange(surface.ink, {})) {
@@ -220,18 +219,18 @@ std::string Bench::drawn()
     return lines;
 }
 
-std::string Bench::pen() const
+std::string Rig::pen() const
 {
     return place(form.x, form.y);
 }
 
-std::string Bench::marker()
+std::string Rig::marker()
 {
     const auto& picture = window.at(control::Picture1);
     return place(picture.left, picture.top);
 }
 
-std::string Bench::outcome()
+std::string Rig::outcome()
 {
     return drawn() + "pen " + pen() + ", marker " + marker();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/canvas_state.h"
+#include "canvas/form1.h"
 #include "circuit/output_window.h"
 #include "platform/event.h"
 #include "platform/runtime_error.h"
@@ -64,14 +64,17 @@ public:
     void expectInput(const char* title, const std::string& text) { m_expected.push_front({title, {answer::no, text}}); }
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
-    std::string inputBox(std::string_view prompt, std::string_view title, std::string_view preset) override;
-    Color pickColor(std::string_view title) override
+    std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view preset) override;
+    std::optional<Color> pickColor(std::string_view title, Color first) override
     {
         lastTitle = title;
+        firstColor = first;
         return picked;
     }
-    std::string openFile() override;
-    std::string saveFile(std::string_view name, std::string_view extension, std::string_view filter) override;
+    std::optional<std::string> openFile() override { return choice(fileToOpen); }
+    std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
+                                        std::string_view filter) override;
 
     struct Reply {
         int answer = answer::no;
@@ -79,7 +82,8 @@ public:
     };
     std::optional<Reply> always;           ///< to every question, whatever its title
     std::function<void()> meanwhile;       ///< happens while the next box is open
-    Color picked = black;                  ///< what the colour dialog says
+    std::optional<Color> picked = black;   ///< what the colour dialog says
+    Color firstColor = black;              ///< what it was opened with
     std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
     std::optional<std::string> fileToSave;
     std::string lastFilter;
@@ -95,6 +99,7 @@ private:
     };
     Reply next(std::string_view prompt, std::string_view title);
     Reply expected(std::string_view title);
+    static std::optional<std::string> choice(std::optional<std::string>& file);
 
     std::deque<Expected> m_expected;
 };
@@ -110,6 +115,20 @@ public:
 
 private:
     void note(const char* what, std::string_view path);
+};
+
+inline void PrintTo(Name name, std::ostream* out)
+{
+    *out << name.text();
+}
+
+/// A name of the program's, or one that a test makes up.
+struct AnyName {
+    AnyName(Name name) : text(name.text()) {}
+    AnyName(std::string_view name) : text(name) {}
+    AnyName(const char* name) : text(name) {}
+
+    std::string_view text;
 };
 
 /// Every named control of the main window's form; a test of the form itself finds each of them there.
@@ -165,7 +184,7 @@ inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::contro
 inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
 
 /// Keeps what was set last.
-class StandInWindow final : public Window {
+class StandInWindow final : public MainWindow {
 public:
     struct Control {
         bool visible = true;
@@ -184,7 +203,7 @@ public:
     explicit StandInWindow(std::span<const Name> names, std::span<const Name> more = {});
 
     std::string caption;
-    std::string focused; ///< the control that was given the keyboard last
+    Name focused; ///< the control that was given the keyboard last
     Cursor cursor{};
     int timesEnded = 0;
     int timesShown = 0;
@@ -200,10 +219,10 @@ public:
     std::map<std::string, int, std::less<>> intervals;
 
     // A name that the program's windows do not have fails the test.
-    [[nodiscard]] Control& at(Name name) { return m_controls.at(std::string(name)); }
-    [[nodiscard]] const Control& at(Name name) const { return m_controls.at(std::string(name)); }
+    [[nodiscard]] Control& at(AnyName name) { return m_controls.at(std::string(name.text)); }
+    [[nodiscard]] const Control& at(AnyName name) const { return m_controls.at(std::string(name.text)); }
     /// Of all controls, menu items and toolbar buttons.
-    [[nodiscard]] std::vector<Name> names() const;
+    [[nodiscard]] std::vector<std::string_view> names() const;
 
     void setCaption(std::string_view title) override { caption = title; }
     void showWindow() override { ++timesShown; }
@@ -217,13 +236,13 @@ public:
     void endProgram() override { ++timesEnded; }
     void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override
     {
-        m_controls.emplace(key, Control{});
+        m_controls.emplace(key.text(), Control{});
     }
     void setSwatch(Name key, Color color) override { at(key).backColor = color; }
     void setCursor(const Cursor& pointer) override { cursor = pointer; }
     void popUp(Name menu, Point where) override;
-    void setChecked(Name item, bool checked) override { at(item).checked = checked; }
-    [[nodiscard]] bool checked(Name item) const override { return at(item).checked; }
+    void setChecked(Name changed, bool checked) override { at(changed).checked = checked; }
+    [[nodiscard]] bool checked(Name asked) const override { return at(asked).checked; }
     void setVisible(Name control, bool visible) override { at(control).visible = visible; }
     [[nodiscard]] bool visible(Name control) const override { return at(control).visible; }
     void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
@@ -247,7 +266,7 @@ public:
     {
         return place.x >= 0 && place.y >= 0 && place.x < canvas.x && place.y < canvas.y;
     }
-    void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer)] = milliseconds; }
+    void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer.text())] = milliseconds; }
 
 private:
     std::map<std::string, Control, std::less<>> m_controls;
@@ -258,7 +277,7 @@ std::string shortest(float number);
 std::string shortest(double number);
 
 /// The program without a toolkit, and what a user and the clock do to it.
-struct Bench {
+struct Rig {
     enum class Start { atSplash, behindIt };
 
     RecordingSurface surface;
@@ -270,20 +289,19 @@ struct Bench {
     StandInWindow output{form4::control::captions, form4::control::values};
     StandInWindow splash{splashControls};
     Form1 form{surface, window, dialogs, pictures, help, about, output, splash};
+    Events events{form};
 
-    explicit Bench(Start start = Start::behindIt);
+    explicit Rig(Start start = Start::behindIt);
 
-    void press(int key) { deliver(form, {.kind = Event::Kind::keyDown, .code = key}); }
-    void type(int character) { deliver(form, {.kind = Event::Kind::keyPress, .code = character}); }
-    void click(Name name, Name of = mainWindow) { deliver(form, {Event::Kind::click, of, name}); }
-    void tick(Name timer, Name of = mainWindow) { deliver(form, {Event::Kind::tick, of, timer}); }
-    void close(Name closed = mainWindow) { deliver(form, {Event::Kind::close, closed}); }
-    void hover(Name name) { deliver(form, {.kind = Event::Kind::hover, .name = name}); }
-    /// A key in one of the panel's controls.
-    void typeInto(Name name, int character) { deliver(form, {Event::Kind::keyPress, mainWindow, name, character}); }
+    void press(int key) { events.deliver({.kind = Event::Kind::keyDown, .code = key}); }
+    void type(int character) { events.deliver({.kind = Event::Kind::keyPress, .code = character}); }
+    void click(AnyName name, Name of = mainWindow) { events.deliver({Event::Kind::click, of.text(), name.text}); }
+    void tick(Name timer, Name of = mainWindow) { events.deliver({Event::Kind::tick, of.text(), timer.text()}); }
+    void close(Name closed = mainWindow) { events.deliver({Event::Kind::close, closed.text()}); }
+    void hover(AnyName name) { events.deliver({.kind = Event::Kind::hover, .name = name.text}); }
     void mouse(Event::Kind kind, int buttons, float x, float y)
     {
-        deliver(form, {kind, mainWindow, {}, buttons, {x, y}});
+        events.deliver({.kind = kind, .code = buttons, .place = {x, y}});
     }
     void mouseDown(int button, float x, float y) { mouse(Event::Kind::mouseDown, button, x, y); }
     void mouseMove(int buttons, float x, float y) { mouse(Event::Kind::mouseMove, buttons, x, y); }

@@ -9,8 +9,8 @@ namespace {
 constexpr Color red = 0x0000FF;
 
 /// Diodes and gates are red, and nothing is asked.
-struct RedBench : Bench {
-    RedBench()
+struct RedRig : Rig {
+    RedRig()
     {
         dialogs.picked = red;
         click("diodescolor");
@@ -23,28 +23,28 @@ struct RedBench : Bench {
 
 TEST(Library, OfTheDiodesOnlyAPNDiodeThatWasAskedForKeepsItsColour)
 {
-    for (const Name diode : {"diode", "pndoide", "npdiode", "tunneldiode"}) {
+    for (const std::string_view diode : {"diode", "pndoide", "npdiode", "tunneldiode"}) {
         for (const bool asked : {false, true}) {
-            RedBench bench;
+            RedRig rig;
             if (asked) {
-                bench.click("dii");
-                bench.dialogs.always = {answer::yes, ""};
+                rig.click("dii");
+                rig.dialogs.always = {answer::yes, ""};
             }
-            bench.click(diode);
-            EXPECT_EQ(bench.surface.foreColor, diode == "pndoide" && asked ? red : black) << diode << asked;
+            rig.click(diode);
+            EXPECT_EQ(rig.surface.foreColor, diode == "pndoide" && asked ? red : black) << diode << asked;
         }
     }
 }
 
 TEST(Library, GoesAheadAlsoWhereTheHeadingLetsNothingBeDrawn)
 {
-    RedBench bench;
-    bench.window.setLeft(control::Picture1, 77);
-    bench.form.heading = 7;
-    bench.click("not");
-    EXPECT_EQ(bench.outcome(), nothing); // the marker comes to the pen
-    EXPECT_EQ(bench.surface.foreColor, red);
-    bench.click("pndoide");
-    bench.click("npdiode");
-    EXPECT_EQ(bench.form.diodeCount, 2);
+    RedRig rig;
+    rig.window.setLeft(control::Picture1, 77);
+    rig.form.heading = 7;
+    rig.click("not");
+    EXPECT_EQ(rig.outcome(), nothing); // the marker comes to the pen
+    EXPECT_EQ(rig.surface.foreColor, red);
+    rig.click("pndoide");
+    rig.click("npdiode");
+    EXPECT_EQ(rig.form.diodeCount, 2);
 }

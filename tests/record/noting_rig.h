@@ -15,15 +15,15 @@ std::vector<Item> itemsOf(std::initializer_list<Name> menus);
 
 /// Notes questions among the ink and answers them all alike; has a colour of its own for each family, for wires, for
 /// the canvas and for what is drawn before a colour is chosen.
-struct NotingBench : Bench {
+struct NotingRig : Rig {
     static constexpr Color colorInHand = 100;
 
-    explicit NotingBench(int heading, int reply = answer::yes)
+    explicit NotingRig(int heading, int reply = answer::yes)
     {
         static const std::vector<Item> pickers = itemsOf({"cc", "fc"});
         dialogs.picked = colorInHand;
         for (const Item& item : pickers) {
-            ++dialogs.picked;
+            ++*dialogs.picked;
             click(item.name);
         }
         drawn();

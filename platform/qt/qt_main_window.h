@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/main_window.h"
+#include "platform/qt/menu_tree.h"
+#include "platform/qt/qt_window.h"
+
+class CanvasWidget;
+
+/// The window whose form has the canvas, a menu bar and a toolbar. What lies on the canvas moves in its places.
+class QtMainWindow final : public QtWindow, public MainWindow {
+    Q_OBJECT
+
+public:
+    QtMainWindow(QWidget& form, std::function<void(const Event&)> report);
+
+    void showWindow() override;
+    /// Without what only guides the hand.
+    void printForm() override;
+    // A control that goes away while it has the keyboard leaves that to the canvas.
+    void setVisible(Name control, bool visible) override;
+    void setEnabled(Name control, bool enabled) override;
+
+    void endProgram() override;
+    void addMenuItem(int depth, const MenuItem& item) override;
+    void popUp(Name menu, Point place) override;
+    void addToolButton(Name key, std::string_view tip, Look look) override;
+    void setSwatch(Name key, Color color) override;
+    void setChecked(Name item, bool checked) override;
+    [[nodiscard]] bool checked(Name item) const override;
+    void setCursor(const Cursor& cursor) override;
+    [[nodiscard]] bool isOnCanvas(Point place) const override;
+    void setLeft(Name control, double twips) override;
+    void setTop(Name control, double twips) override;
+    void placeAwayFrom(Name control, Point place, Name other) override;
+
+private:
+    void takeKeyboardFrom(Name control) const;
+
+    CanvasWidget& m_canvas;
+    std::string_view m_cursor;
+    MenuTree m_menus;
+};
