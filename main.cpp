@@ -16,6 +16,8 @@
 #include <QIcon>
 #include <QSettings>
 
+namespace schemlet {
+
 namespace {
 
 void prepareToolkit()
@@ -34,8 +36,11 @@ void prepareToolkit()
 
 } // namespace
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     const QApplication application(argc, argv);
     prepareToolkit();
 

@@ -16,6 +16,8 @@
 #include <QApplication>
 #include <benchmark/benchmark.h>
 
+namespace schemlet {
+
 namespace {
 
 template <typename View, typename Form> struct Made {
@@ -101,8 +103,11 @@ BENCHMARK(symbol)->ArgName("repaint")->Arg(0)->Arg(1);
 
 } // namespace
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);

@@ -1,5 +1,7 @@
 #include "canvas/canvas_state.h"
 
+namespace schemlet {
+
 std::string_view headingName(int heading)
 {
     switch (heading) {
@@ -10,3 +12,5 @@ std::string_view headingName(int heading)
     default: return {};
     }
 }
+
+} // namespace schemlet

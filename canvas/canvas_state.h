@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+namespace schemlet {
+
 /// Directions of the pen. A heading variable may hold other numbers too, as the File menu leaves its answers there:
 /// nothing is drawn for those.
 namespace heading {
@@ -145,3 +147,5 @@ struct CanvasState : Drawing {
     int acmotorAnswer = 0, dcmotorAnswer = 0, acgeneratorAnswer = 0, dcgeneratorAnswer = 0;
     int armatureAnswer = 0, fieldAnswer = 0;
 };
+
+} // namespace schemlet

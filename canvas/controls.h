@@ -2,6 +2,8 @@
 
 #include "platform/name.h"
 
+namespace schemlet {
+
 /// The controls on and around the canvas, by the names they have in the form.
 namespace control {
 inline constexpr Name Picture1 = "Picture1"; ///< the pen marker
@@ -53,3 +55,5 @@ inline constexpr Name sss = "sss"; ///< View > StatusBar
 inline constexpr Name toolbox = "toolbox";
 inline constexpr Name jj = "jj"; ///< Enable > Automatic Jumper
 } // namespace item
+
+} // namespace schemlet

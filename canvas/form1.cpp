@@ -2,6 +2,8 @@
 
 #include "canvas/pen_marker.h"
 
+namespace schemlet {
+
 void resetCanvas(Form1& form)
 {
     form.confirm.fill(1);
@@ -25,3 +27,5 @@ void resetCanvas(Form1& form)
     placeMarker(form, form.x);
     form.heading = heading::right;
 }
+
+} // namespace schemlet

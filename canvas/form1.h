@@ -6,6 +6,8 @@
 #include "platform/main_window.h"
 #include "platform/pictures.h"
 
+namespace schemlet {
+
 /// What every command gets: the state and the way to the screen.
 struct Form1 : CanvasState {
     Form1(Surface& canvas, MainWindow& main, Dialogs& boxes, Pictures& files, Window& help, Window& about,
@@ -31,3 +33,5 @@ using Handler = void (*)(Form1&);
 /// Sets the canvas's part of the state to its start values and puts the pen and the marker at their start. What it does
 /// not assign stays: the families' colours, the tool in hand, automatic jumpers.
 void resetCanvas(Form1& form);
+
+} // namespace schemlet

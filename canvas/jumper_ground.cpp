@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 struct Hop {
@@ -61,3 +63,5 @@ void ground(Form1& form)
 {
     drawGround(form.surface, form);
 }
+
+} // namespace schemlet

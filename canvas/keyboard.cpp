@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 struct ArrowKey {
@@ -97,3 +99,5 @@ void jj(Form1& form)
     form.window.flipChecked(item::jj);
     toggleAutoJumper(form);
 }
+
+} // namespace schemlet

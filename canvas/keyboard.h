@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 inline constexpr int stepLength = 50; ///< twips of wire for each arrow key
 
 /// Lays a step of wire along the heading, in the foreground colour, and moves the pen to its end. Does nothing for a
@@ -20,3 +22,5 @@ void toggleAutoJumper(Form1& form);
 
 /// The menu item for automatic jumpers: flips the setting and its own mark, which may disagree after the J key.
 void jj(Form1& form);
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include "canvas/pen_marker.h"
 #include "platform/event.h"
 
+namespace schemlet {
+
 namespace {
 
 struct Offset {
@@ -113,3 +115,5 @@ void eraser(Form1& form)
 {
     eraser1(form);
 }
+
+} // namespace schemlet

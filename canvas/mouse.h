@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 /// Mouse on the canvas; places in twips, buttons as in platform/event.h. A press of the left button puts the pen, a
 /// press of the right one opens the popup menu.
 void mouseDown(Form1& form, int button, Point place);
@@ -19,3 +21,5 @@ void linee(Form1& form);
 void rectan(Form1& form);
 void pencil1(Form1& form);
 void eraser(Form1& form);
+
+} // namespace schemlet

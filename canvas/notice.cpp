@@ -1,5 +1,7 @@
 #include "canvas/notice.h"
 
+namespace schemlet {
+
 void notify(Form1& form, std::string_view text)
 {
     constexpr int duration = 5000; // milliseconds
@@ -11,3 +13,5 @@ void tell(Form1& form, const RuntimeError& error)
 {
     form.dialogs.messageBox(error.what(), Box::okWarning, productName);
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include "canvas/form1.h"
 #include "platform/runtime_error.h"
 
+namespace schemlet {
+
 /// Names the program in the titles of its windows and boxes.
 inline constexpr std::string_view productName = "Schemlet 2.0";
 
@@ -16,3 +18,5 @@ void notify(Form1& form, std::string_view text);
 
 /// Tells the user in a message box what went wrong.
 void tell(Form1& form, const RuntimeError& error);
+
+} // namespace schemlet

@@ -1,5 +1,7 @@
 #include "canvas/pen_marker.h"
 
+namespace schemlet {
+
 void placeMarker(Form1& form, double left)
 {
     form.window.setLeft(control::Picture1, left);
@@ -14,3 +16,5 @@ void Timer2(Form1& form)
         form.blinkCount = 50; // a visible tick like 10000, so the wrap keeps the phase
     }
 }
+
+} // namespace schemlet

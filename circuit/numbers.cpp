@@ -10,6 +10,8 @@
 #include <sstream>
 #include <string>
 
+namespace schemlet {
+
 namespace {
 
 bool isDigit(char c)
@@ -131,3 +133,5 @@ double squareRoot(double number)
     }
     return std::sqrt(number);
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace schemlet {
+
 // Every conversion between texts and numbers. The decimal mark is a point, whatever the locale.
 
 /// The number that a text is: blanks around it are ignored; a sign, digits with at most one decimal point and an
@@ -21,3 +23,5 @@
 
 /// Throws invalidArgument below 0.
 [[nodiscard]] double squareRoot(double number);
+
+} // namespace schemlet

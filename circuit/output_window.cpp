@@ -4,6 +4,8 @@
 #include "circuit/numbers.h"
 #include "platform/runtime_error.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr double twoPi = 6.285714; // stands for two pi in every result, and must not be made more precise
@@ -96,3 +98,5 @@ void form4::printForm(Form1& form)
 {
     form.form4.printForm();
 }
+
+} // namespace schemlet

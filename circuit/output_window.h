@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 // The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
 // there before. Formulas and the figure for two pi are the product's own: they take the sum of the capacitances'
 // reciprocals wherever a capacitance enters, so only resistance (ohm), inductance (henry), capacitance (farad), voltage
@@ -53,3 +55,5 @@ void refreshOutput(Form1& form);
 
 /// Shows 0 for every value.
 void clearOutput(Form1& form);
+
+} // namespace schemlet

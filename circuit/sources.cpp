@@ -4,6 +4,8 @@
 #include "circuit/numbers.h"
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // The positive battery has its long plate first, the negative one its short one; their odd reaches are intended.
@@ -68,3 +70,5 @@ void place(Form1& form, const Source& source, double value)
         notify(form, source.sums ? countedOnly : noDirection);
     }
 }
+
+} // namespace schemlet

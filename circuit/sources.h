@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 /// A supply or a battery. It is drawn along the heading in black, which stays the foreground colour. The marker stays.
 struct Source {
     double CanvasState::*value; ///< a battery's last value, a supply's sum; volt or ampere
@@ -17,3 +19,5 @@ extern const Source currentSupply;
 /// Keeps the number, draws the source with it and moves the pen past it. Throws overflow if a sum is out of range; then
 /// nothing has changed.
 void place(Form1& form, const Source& source, double value);
+
+} // namespace schemlet

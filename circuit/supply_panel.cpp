@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, control::Option5};
@@ -197,3 +199,5 @@ void colorPanel(Form1& form)
     form.window.setBackColor(control::bat, form.canvasBackColor);
     form.window.setBackColor(control::sup, form.canvasBackColor);
 }
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 // Supplies and batteries are chosen and typed in a panel on the canvas. Both families may be open at once: one click
 // on its button then draws a battery and a supply, one after the other. Sources are black, which stays the foreground
 // colour, and leave the marker where it is.
@@ -39,3 +41,5 @@ void clearOptions(Form1& form);
 
 /// Gives the panel the canvas's colour, black too.
 void colorPanel(Form1& form);
+
+} // namespace schemlet

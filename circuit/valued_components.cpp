@@ -4,6 +4,8 @@
 #include "circuit/numbers.h"
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // The zig-zag to the right ends 40 above the axis; the dot stands apart from it.
@@ -105,3 +107,5 @@ void place(Form1& form, const ValuedComponent& component)
     form.surface.setForeColor(black);
     moveMarkerLeft(form);
 }
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 /// A component whose value is asked for, added to a total and printed beside it as typed.
 struct ValuedComponent {
     std::string_view prompt;
@@ -31,3 +33,5 @@ template <const ValuedComponent& component> void place(Form1& form)
 inline constexpr Handler resistanc = place<resistor>;
 inline constexpr Handler inductanc = place<inductor>;
 inline constexpr Handler capacitanc = place<capacitor>;
+
+} // namespace schemlet

@@ -7,6 +7,8 @@
 #include <optional>
 #include <regex>
 
+namespace schemlet {
+
 // What texts mean as numbers, against the C library and a regular expression that says which texts are numbers at all.
 
 namespace {
@@ -49,8 +51,11 @@ void checkWriting(double number)
 
 } // namespace
 
+} // namespace schemlet
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
+    using namespace schemlet;
     static const std::regex leading(R"(^[ \t\n\r]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
     static const std::regex trailing(R"([ \t\n\r]*)");
     if (size > 400) {

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+namespace schemlet {
+
 // A whole picture stays whole whatever follows it, and half of anything else is not whole.
 
 namespace {
@@ -35,8 +37,11 @@ bool mayEndWithFile(std::string_view bytes)
 
 } // namespace
 
+} // namespace schemlet
+
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
+    using namespace schemlet;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     const bool whole = isWhole(bytes);
     if (!mayEndWithFile(bytes)) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace schemlet {
+
 /// Buttons and icon of a message box.
 enum class Box {
     okOnly,
@@ -45,3 +47,5 @@ public:
     virtual std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
                                                 std::string_view filter) = 0;
 };
+
+} // namespace schemlet

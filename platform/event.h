@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+namespace schemlet {
+
 /// The keys that mean something on their way down; every other key reports 0.
 namespace key {
 inline constexpr int left = 37;
@@ -33,3 +35,5 @@ struct Event {
     int code = 0;            ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
     Point place{};           ///< mouse: where on the canvas
 };
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "platform/window.h"
 
+namespace schemlet {
+
 enum class Look {
     plain,
     unchecked, ///< a check item whose mark is off at start
@@ -57,3 +59,5 @@ public:
     /// Marks a menu item, or takes its mark away.
     void flipChecked(Name item);
 };
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace schemlet {
+
 /// The name of a window, a control, a menu item or a timer. Only a constant makes one: so a name may be kept, and a
 /// text is never taken for a name.
 class Name {
@@ -18,3 +20,5 @@ private:
 };
 
 inline constexpr Name mainWindow = "Form1";
+
+} // namespace schemlet

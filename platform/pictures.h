@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace schemlet {
+
 /// The canvas as picture files. Paths are UTF-8.
 class Pictures {
 public:
@@ -14,3 +16,5 @@ public:
     /// with the cause in few words; the file that was there before is then untouched.
     virtual void saveImage(std::string_view path) = 0;
 };
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace schemlet {
+
 /// What can go wrong while a command runs through no fault of the program. Each is told to the user in one message
 /// box; the command ends where it was thrown, and what it had done stays done.
 enum class Fault { typeMismatch, invalidArgument, overflow, invalidPicture, pictureNotSaved, printerError };
@@ -13,3 +15,5 @@ struct RuntimeError : std::runtime_error {
 
     Fault fault;
 };
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string_view>
 
+namespace schemlet {
+
 /// 0x00BBGGRR, eight bits a channel: 0 is black, 0xFFFFFF white.
 using Color = std::uint32_t;
 
@@ -58,3 +60,5 @@ public:
     [[nodiscard]] virtual Point current() const = 0;
     virtual void setCurrent(Point place) = 0;
 };
+
+} // namespace schemlet

@@ -1,5 +1,7 @@
 #include "platform/window.h"
 
+namespace schemlet {
+
 void Window::show(std::initializer_list<Name> controls)
 {
     for (const Name control : controls) {
@@ -32,3 +34,5 @@ void Window::flipVisible(Name control)
 {
     setVisible(control, !visible(control));
 }
+
+} // namespace schemlet

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+namespace schemlet {
+
 /// A top-level window and its named controls. A name that the window does not have is a fault of the program and ends
 /// it. Texts are UTF-8.
 class Window {
@@ -58,3 +60,5 @@ public:
     /// Shows a hidden control, hides a visible one.
     void flipVisible(Name control);
 };
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "shell/product_picture.h"
 
+namespace schemlet {
+
 void about(Form1& form)
 {
     form.form3.drawPicture(form3::control::Picture1, drawProductPicture);
@@ -12,3 +14,5 @@ void form3::Command1(Form1& form)
 {
     form.form3.hideWindow();
 }
+
+} // namespace schemlet

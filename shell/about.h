@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 /// The about window and its controls.
 namespace form3 {
 inline constexpr Name window = "Form3";
@@ -19,3 +21,5 @@ void Command1(Form1& form);
 
 /// Shows who made this program.
 void about(Form1& form);
+
+} // namespace schemlet

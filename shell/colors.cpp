@@ -3,6 +3,8 @@
 #include "canvas/notice.h"
 #include "circuit/supply_panel.h"
 
+namespace schemlet {
+
 void forec(Form1& form)
 {
     pickColor<colored::wires>(form);
@@ -30,3 +32,5 @@ void Thyristorscolor(Form1& form)
 {
     notify(form, "No effect: thyristors take the last color");
 }
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 // All colour commands share one dialog. After Cancel they take the colour that was picked last, by whichever of them.
 
 /// One colour variable, and what the dialog's title says of it.
@@ -43,3 +45,5 @@ void bc(Form1& form);
 // Menu items that set nothing.
 void batterycolor(Form1& form);
 void Thyristorscolor(Form1& form);
+
+} // namespace schemlet

@@ -25,6 +25,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 /// One row of the menu tree.
@@ -292,3 +294,5 @@ void keyPress(Form1& form, int character)
         letter->handler(form);
     }
 }
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+namespace schemlet {
+
 // Every way to a command stands in a table of commands.cpp: menus and popup menu, toolbar, toolbox, letters, buttons
 // and labels of all windows.
 
@@ -48,3 +50,5 @@ void runCommand(Form1& form, std::string_view window, std::string_view name);
 /// A typed character, a UTF-16 unit: runs the command of its letter, capital or small. Any character marks the drawing
 /// changed.
 void keyPress(Form1& form, int character);
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace schemlet {
+
 /// The menu items of the confirmation switches, in the order of the switches.
 inline constexpr std::array<Name, confirmCount> confirmItems = {"m",     "g",   "tr", "aar", "f",       "pnpt",  "npnt",
                                                                 "jfett", "thy", "gg", "dii", "buffer1", "opamp1"};
@@ -14,3 +16,5 @@ template <Confirm family> void toggleConfirm(Form1& form)
     form.confirm[family] = form.confirm[family] == 1 ? 0 : 1;
     form.window.flipChecked(confirmItems[family]);
 }
+
+} // namespace schemlet

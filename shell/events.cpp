@@ -16,6 +16,8 @@
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr NamedHandler timers[] = {
@@ -81,3 +83,5 @@ void Events::dispatch(const Event& event)
     case Event::Kind::close: return runRow(m_form, frames, event.window, {});
     }
 }
+
+} // namespace schemlet

@@ -8,6 +8,8 @@
 
 #include <filesystem>
 
+namespace schemlet {
+
 namespace {
 
 void askToSave(Form1& form)
@@ -135,3 +137,5 @@ void endf(Form1& form)
 {
     form.window.endProgram();
 }
+
+} // namespace schemlet

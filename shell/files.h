@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 /// What the title shows in place of a file's name.
 inline constexpr std::string_view noFile = " New File ";
 
@@ -33,3 +35,5 @@ void Command4(Form1& form);
 
 /// Ends the program.
 void endf(Form1& form);
+
+} // namespace schemlet

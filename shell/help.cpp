@@ -1,5 +1,7 @@
 #include "shell/help.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr int slideInterval = 100; // milliseconds
@@ -63,3 +65,5 @@ void showHelpAtStart(Form1& form)
     loadForm2(form);
     form.form2.showWithoutKeyboard();
 }
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 // The help window lists hints and can slide open downwards, to a list of all short-cut keys. It is never destroyed: the
 // next time it shows as it was left.
 
@@ -40,3 +42,5 @@ void htu(Form1& form);
 
 /// The same, but the keyboard stays where it is: for the help that nobody asked for.
 void showHelpAtStart(Form1& form);
+
+} // namespace schemlet

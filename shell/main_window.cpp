@@ -9,6 +9,8 @@
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
 
+namespace schemlet {
+
 namespace {
 
 /// What starts hidden, and the toolbox's colour until the canvas gets one.
@@ -53,3 +55,5 @@ void Timer1(Form1& form)
     form.window.setInterval(control::Timer1, 0);
     form.startShown = 1;
 }
+
+} // namespace schemlet

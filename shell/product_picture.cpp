@@ -8,6 +8,8 @@
 #include "symbols/diodes.h"
 #include "symbols/gates.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr Color passive = 0x2030A0; // dark red
@@ -94,3 +96,5 @@ void drawProductPicture(Surface& surface)
     drawGateAndItsLoad(stage);
     drawSource(surface, 3140, 350, 400); // for the gate's other input
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include "shell/main_window.h"
 #include "shell/product_picture.h"
 
+namespace schemlet {
+
 void form6::load(Window& splash)
 {
     splash.drawPicture(control::Picture1, drawProductPicture);
@@ -32,3 +34,5 @@ void form6::finish(Form1& form)
     openMainWindow(form);
     form.form6.unload();
 }
+
+} // namespace schemlet

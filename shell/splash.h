@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 // The splash stands alone for a second, fills its bar in another one and makes way for the main window.
 
 /// The splash and its controls.
@@ -27,3 +29,5 @@ void Timer2(Form1& form);
 void finish(Form1& form);
 
 } // namespace form6
+
+} // namespace schemlet

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <string>
 
+namespace schemlet {
+
 namespace {
 
 std::string_view headingText(int code)
@@ -146,3 +148,5 @@ void sss(Form1& form)
     form.window.flipVisible(control::statusBar);
     form.window.flipChecked(item::sss);
 }
+
+} // namespace schemlet

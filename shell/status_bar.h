@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+namespace schemlet {
+
 /// Brings what shows the state up to date: the status bar's panels behind the hint, the canvas's description, which
 /// tells the same to a screen reader, the toolbar's buttons, the pointer over the canvas, and the place of the panel of
 /// supplies and batteries, which stays away from the pen.
@@ -15,3 +17,5 @@ void endNotice(Form1& form);
 
 /// View > StatusBar.
 void sss(Form1& form);
+
+} // namespace schemlet

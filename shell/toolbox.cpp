@@ -3,6 +3,8 @@
 #include "canvas/keyboard.h"
 #include "shell/commands.h"
 
+namespace schemlet {
+
 namespace {
 
 template <typename Tool> void showHint(Form1& form, std::span<const Tool> tools, std::string_view name)
@@ -87,3 +89,5 @@ void Label1(Form1& form)
 {
     form.toolboxFollow = form.toolboxFollow == 1 ? 0 : 1;
 }
+
+} // namespace schemlet

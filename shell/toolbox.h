@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+namespace schemlet {
+
 // Toolbar and toolbox: how they are filled, shown, hidden and moved. Their buttons stand in commands.cpp.
 
 /// Fills toolbar and toolbox.
@@ -30,3 +32,5 @@ void HideToolbar(Form1& form);
 
 /// Picks the toolbox up, or puts it down.
 void Label1(Form1& form);
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // The ground bars are not centred on the lead that comes down to them.
@@ -60,3 +62,5 @@ constexpr Symbol pnpBase =
     transistor("This draws an PNP COMMON BASE", pnpConfirm, &CanvasState::base1Answer, base1Branches);
 constexpr Symbol pnpCollector =
     transistor("This draws an PNP COMMON COLLECTOR", pnpConfirm, &CanvasState::collector1Answer, collectorBranches);
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Bipolar transistors with the ground that their circuit ties them to, drawn the same way whatever the heading, in the
 // colour they share with the transformers. The marker's left edge follows the pen.
 
@@ -18,3 +20,5 @@ inline constexpr Handler collector = place<npnCollector>;
 inline constexpr Handler emitter1 = place<pnpEmitter>;
 inline constexpr Handler base1 = place<pnpBase>;
 inline constexpr Handler collector1 = place<pnpCollector>;
+
+} // namespace schemlet

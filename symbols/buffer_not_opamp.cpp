@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr auto bufferRight =
@@ -57,3 +59,5 @@ constexpr Symbol opAmp{.title = "This draws an OP-AMP",
                        .answer = &CanvasState::opampAnswer,
                        .color = &CanvasState::opampColor,
                        .branches = opampBranches};
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Triangles with one input, drawn along the heading. The pen leaves at the output or a little beyond it. The marker's
 // left edge follows the pen.
 extern const Symbol bufferSymbol;
@@ -12,3 +14,5 @@ extern const Symbol opAmp;
 inline constexpr Handler buffer = place<bufferSymbol>;
 inline constexpr Handler notgate = place<notGate>;
 inline constexpr Handler opamp = place<opAmp>;
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // The bar's lower end is 20 longer than its upper one.
@@ -56,3 +58,5 @@ constexpr Symbol npDiode = diodeSymbol("This draws a NP DIODE", &CanvasState::np
                                        ColorAfter::toBlack, &CanvasState::diodeCount);
 constexpr Symbol tunnelDiode = diodeSymbol("This draws a TUNNEL DIODE", &CanvasState::tunneldiodeAnswer, tunnelBranches,
                                            ColorAfter::toBlack, nullptr);
+
+} // namespace schemlet

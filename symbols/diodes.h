@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Diodes in the diodes' colour. Afterwards the foreground is black, except after a PN diode whose question was
 // answered. The marker stays. PN and NP diodes are counted even when the heading lets them draw nothing.
 
@@ -14,3 +16,5 @@ inline constexpr Handler diode = place<zenerDiode>;
 inline constexpr Handler diod = place<pnDiode>;
 inline constexpr Handler npdiode = place<npDiode>;
 inline constexpr Handler tunneldiode = place<tunnelDiode>;
+
+} // namespace schemlet

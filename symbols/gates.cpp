@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // A flat back, drawn twice in its lower part, and a chamfered nose; the top edge is 20 longer than the bottom one.
@@ -46,3 +48,5 @@ constexpr Symbol norGate = gate("This draws a NOR GATE", &CanvasState::norAnswer
 constexpr Symbol nandGate = gate("This draws a NAND GATE", &CanvasState::nandAnswer, nandBranches, Marker::leftFollows);
 constexpr Symbol exorGate = gate("This draws an EX-OR GATE", &CanvasState::exorAnswer, exorBranches, Marker::stays);
 constexpr Symbol exnorGate = gate("This draws an EX-NOR GATE", &CanvasState::exnorAnswer, exnorBranches, Marker::stays);
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // The two-input gates: bare outlines in the gates' colour; the pen leaves at the output.
 
 // These four draw only when the pen heads right. The marker's left edge follows the pen.
@@ -19,3 +21,5 @@ inline constexpr Handler nor = place<norGate>;
 inline constexpr Handler nand = place<nandGate>;
 inline constexpr Handler exor = place<exorGate>;
 inline constexpr Handler exnor = place<exnorGate>;
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 constexpr auto nRows = strokes(circle(0, 50, 50), label(150, -50, "D"), line(0, 100, 0, 650), line(0, 650, -300, 650),
@@ -26,3 +28,5 @@ constexpr Symbol pChannelJfet{.title = "This draws a P-CHANNEL JFET",
                               .answer = &CanvasState::pchannelAnswer,
                               .color = &CanvasState::transformerColor,
                               .branches = pBranches};
+
+} // namespace schemlet

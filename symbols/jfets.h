@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Junction field-effect transistors hang down from the pen whatever the heading, in the transistors' colour. The marker
 // stays.
 
@@ -10,3 +12,5 @@ extern const Symbol pChannelJfet;
 
 inline constexpr Handler nchannel = place<nChannelJfet>;
 inline constexpr Handler pchannel = place<pChannelJfet>;
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // About the machine's centre. No two of the terminal strokes are equally long.
@@ -65,3 +67,5 @@ constexpr Symbol fieldWinding{.title = "This draws a FIELD",
                               .answer = &CanvasState::fieldAnswer,
                               .color = &CanvasState::fieldColor,
                               .branches = fieldBranches};
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Electrical machines, drawn the same way whatever the heading: motors, generators and the armature downwards from the
 // pen, the field winding to the right. The foreground stays the family's colour, the marker stays where it was.
 
@@ -18,3 +20,5 @@ inline constexpr Handler acgenerator = place<acGenerator>;
 inline constexpr Handler dcgenerator = place<dcGenerator>;
 inline constexpr Handler armature = place<armatureWinding>;
 inline constexpr Handler field = place<fieldWinding>;
+
+} // namespace schemlet

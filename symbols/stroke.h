@@ -3,6 +3,8 @@
 #include <span>
 #include <string_view>
 
+namespace schemlet {
+
 /// A distance from the pen in whole twips: dx to the right, dy downwards.
 struct Offset {
     int dx = 0;
@@ -39,3 +41,5 @@ struct Branch {
     std::span<const Stroke> strokes;
     Offset after{}; ///< added to the pen after the strokes
 };
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 
+namespace schemlet {
+
 // Rows
 
 constexpr Stroke line(int x1, int y1, int x2, int y2, std::string_view text = {})
@@ -104,3 +106,5 @@ template <std::size_t N> constexpr Strokes<N> turned(const Strokes<N>& table)
 {
     return signsTurned(table, -1, -1);
 }
+
+} // namespace schemlet

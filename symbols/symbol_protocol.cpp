@@ -7,6 +7,8 @@
 #include <cctype>
 #include <string>
 
+namespace schemlet {
+
 namespace {
 
 void drawStroke(Surface& surface, const Stroke& stroke, const Pen& origin, std::string_view value)
@@ -106,3 +108,5 @@ void place(Form1& form, const Symbol& symbol)
         moveMarkerLeft(form);
     }
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include "canvas/form1.h"
 #include "symbols/stroke.h"
 
+namespace schemlet {
+
 /// What becomes of the pen marker.
 enum class Marker {
     stays,
@@ -45,3 +47,5 @@ template <const Symbol& symbol> void place(Form1& form)
 
 /// Moves the marker's left edge to the pen and leaves its top where it is.
 void moveMarkerLeft(Form1& form);
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // The triangle's top side is wider to the right.
@@ -48,3 +50,5 @@ constexpr Symbol scrThyristor = thyristor("This draws a SCR THYRISTOR", &CanvasS
 constexpr Symbol triacThyristor = thyristor("This draws a TRIAC THYRISTOR", &CanvasState::TRIACAnswer, triacBranches);
 constexpr Symbol diacThyristor = thyristor("This draws a DIAC THYRISTOR", &CanvasState::DIACAnswer, diacBranches);
 constexpr Symbol ujtThyristor = thyristor("This draws a UJT THYRISTOR", &CanvasState::UJTAnswer, ujtBranches);
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Thyristors and their relatives hang down from the pen whatever the heading. They are the one family without a colour
 // of its own: they are drawn in the current foreground colour. The marker stays.
 
@@ -14,3 +16,5 @@ inline constexpr Handler SCR = place<scrThyristor>;
 inline constexpr Handler TRIAC = place<triacThyristor>;
 inline constexpr Handler DIAC = place<diacThyristor>;
 inline constexpr Handler UJT = place<ujtThyristor>;
+
+} // namespace schemlet

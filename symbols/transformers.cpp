@@ -2,6 +2,8 @@
 
 #include "symbols/stroke_tables.h"
 
+namespace schemlet {
+
 namespace {
 
 // Five turns a winding, a radius apart; the primary is wound downwards, the secondary upwards.
@@ -32,3 +34,5 @@ constexpr Symbol centerTappedTransformer{.title = "This draws a CENTER TAPPED TR
                                          .answer = &CanvasState::centertappedAnswer,
                                          .color = &CanvasState::transformerColor,
                                          .branches = centerTappedBranches};
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "symbols/symbol_protocol.h"
 
+namespace schemlet {
+
 // Transformers hang down and to the right of the pen whatever the heading, in the colour they share with the
 // transistors. Pen and marker stay.
 
@@ -10,3 +12,5 @@ extern const Symbol centerTappedTransformer;
 
 inline constexpr Handler singlephase = place<singlePhaseTransformer>;
 inline constexpr Handler centertapped = place<centerTappedTransformer>;
+
+} // namespace schemlet

@@ -23,6 +23,8 @@
 #include <span>
 #include <vector>
 
+namespace schemlet {
+
 namespace {
 
 struct Entry {
@@ -238,8 +240,11 @@ QImage drawSheet()
 
 } // namespace
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     if (argc != 2) {

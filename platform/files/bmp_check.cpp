@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace schemlet {
+
 namespace picture {
 
 namespace {
@@ -110,3 +112,5 @@ void checkBmp(const Bytes& file)
 }
 
 } // namespace picture
+
+} // namespace schemlet

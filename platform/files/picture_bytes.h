@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace schemlet {
+
 /// How the check reads a picture file.
 namespace picture {
 
@@ -60,3 +62,5 @@ private:
 };
 
 } // namespace picture
+
+} // namespace schemlet

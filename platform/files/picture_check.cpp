@@ -3,6 +3,8 @@
 #include "platform/files/bmp_check.h"
 #include "platform/files/picture_bytes.h"
 
+namespace schemlet {
+
 namespace picture {
 
 namespace {
@@ -116,3 +118,5 @@ State check(std::string_view bytes)
 }
 
 } // namespace picture
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace schemlet {
+
 /// Whether a picture file is whole. Decoders fill what a BMP or JPEG lacks with grey or black and call that a success;
 /// half a drawing would replace the whole one at the next save.
 namespace picture {
@@ -17,3 +19,5 @@ enum class State {
 [[nodiscard]] State check(std::string_view bytes);
 
 } // namespace picture
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace schemlet {
+
 namespace ink {
 namespace {
 
@@ -79,3 +81,5 @@ void reconcile(const Image& canvas, const Image& finer, const Area& part)
 }
 
 } // namespace ink
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include "platform/ink/ink.h"
 
+namespace schemlet {
+
 /// A second image of the same canvas that has more pixels, for a sharp screen. Its scale says how many along each of
 /// the canvas's pixels, any number above 1. The part is of the canvas.
 namespace ink {
@@ -16,3 +18,5 @@ void enlarge(const Image& canvas, const Image& finer, const Area& part);
 void reconcile(const Image& canvas, const Image& finer, const Area& part);
 
 } // namespace ink
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace schemlet {
+
 namespace ink {
 namespace {
 
@@ -172,3 +174,5 @@ Area arc(const Image& image, const Pen& pen, Place centre, double radius, double
 }
 
 } // namespace ink
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace schemlet {
+
 /// Which pixels a round pen inks, exactly and without antialiasing: those whose centre lies within half the pen's
 /// width of the ideal path. So a line has round ends, a zero-length one is a dot, and a circle smaller than the pen
 /// is a disc. Paths are first fitted to the pixel grid, so that every shape looks the same wherever it is drawn, wires
@@ -47,3 +49,5 @@ Area circle(const Image& image, const Pen& pen, Place centre, double radius);
 Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end);
 
 } // namespace ink
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace schemlet {
+
 namespace {
 
 /// A widget without those of its children that only decorate it.
@@ -41,8 +43,10 @@ struct ClassRole {
 /// Whatever may have decorations, and what the toolkit takes for something else: a frame would be a window to a screen
 /// reader. A class is looked for before those it extends.
 constexpr ClassRole classes[] = {
-    {QLatin1String("CanvasWidget"), QAccessible::Canvas}, {QLatin1String("QDialog"), QAccessible::Dialog},
-    {QLatin1String("QFrame"), QAccessible::Grouping},     {QLatin1String("QToolBar"), QAccessible::ToolBar},
+    {QLatin1String("schemlet::CanvasWidget"), QAccessible::Canvas},
+    {QLatin1String("QDialog"), QAccessible::Dialog},
+    {QLatin1String("QFrame"), QAccessible::Grouping},
+    {QLatin1String("QToolBar"), QAccessible::ToolBar},
     {QLatin1String("QWidget"), QAccessible::Client},
 };
 
@@ -62,3 +66,5 @@ void installAccessibility()
 {
     QAccessible::installFactory(makeInterface);
 }
+
+} // namespace schemlet

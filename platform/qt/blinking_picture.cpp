@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace schemlet {
+
 BlinkingPicture::BlinkingPicture(QWidget* parent) : QLabel(parent)
 {
     QLabel::setVisible(true); // else its window would switch it on when it first shows
@@ -28,3 +30,5 @@ void BlinkingPicture::paintEvent(QPaintEvent* /*event*/)
         m_picture.paint(&painter, rect());
     }
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QLabel>
 
+namespace schemlet {
+
 /// A picture on the canvas that is shown and hidden all day. It stays in place for Qt and merely paints nothing while
 /// it is off: a repaint of its few pixels instead of the event, layout and focus work of a widget's hiding. An icon, as
 /// that is sharp on every screen.
@@ -26,3 +28,5 @@ private:
     QIcon m_picture;
     bool m_on = true;
 };
+
+} // namespace schemlet

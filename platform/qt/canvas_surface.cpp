@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace schemlet {
+
 namespace {
 
 /// The canvas may start between two pixels of the screen and then shows a part of one more at its end.
@@ -158,3 +160,5 @@ void CanvasSurface::enlarge(const QRegion& part)
         ink::enlarge(m_canvas.pixels(), m_screen->pixels(), area(rect));
     }
 }
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <QRegion>
 #include <memory>
 
+namespace schemlet {
+
 /// The canvas on screens of every sharpness. The picture is the image of one pixel per 15 twips: it is saved, opened
 /// and asked for colours, and it is the same whatever the screen. Where the screen has more pixels than that, a second
 /// image has as many and gets every stroke too; otherwise there is none.
@@ -59,3 +61,5 @@ private:
     std::unique_ptr<QtSurface> m_screen;
     QRegion m_changed; ///< by the stroke that is being drawn on both
 };
+
+} // namespace schemlet

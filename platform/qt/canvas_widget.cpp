@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <cmath>
 
+namespace schemlet {
+
 namespace {
 
 int buttonCode(Qt::MouseButtons buttons)
@@ -138,3 +140,5 @@ void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) con
             .place = {static_cast<float>(position.x() * twipsPerPixel),
                       static_cast<float>(position.y() * twipsPerPixel)}});
 }
+
+} // namespace schemlet

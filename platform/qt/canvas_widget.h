@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <functional>
 
+namespace schemlet {
+
 class HeldButtons;
 
 /// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed, and draws
@@ -42,3 +44,5 @@ private:
     HeldButtons* m_buttons; ///< reports their releases
     bool m_showsFocus = false;
 };
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace schemlet {
+
 namespace {
 
 /// The relative luminance of a colour, 0 to 1, as the web's contrast guidelines define it.
@@ -70,3 +72,5 @@ QPalette paletteOn(const QColor& ground)
     }
     return palette;
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <algorithm>
 
+namespace schemlet {
+
 void resizeOnScreen(QWidget& window, QSize size)
 {
     constexpr QSize frame(16, 48); // generous: window managers differ
@@ -25,3 +27,5 @@ QPoint placeBeside(QSize size, const QRect& mainWindow, const QRect& canvas, con
     }
     return {x, std::max(screen.top(), std::min(canvas.bottom() + 1 - size.height(), last.y()))};
 }
+
+} // namespace schemlet

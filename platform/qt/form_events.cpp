@@ -11,6 +11,8 @@
 #include <QResizeEvent>
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 /// As arrow keys do not move in a group of options, Tab must; the toolkit leaves it only the option with the focus.
@@ -176,3 +178,5 @@ bool KeyDetour::eventFilter(QObject* watched, QEvent* event)
     }
     return QObject::eventFilter(watched, event);
 }
+
+} // namespace schemlet

@@ -9,6 +9,8 @@
 class QLabel;
 class QWidget;
 
+namespace schemlet {
+
 /// Tells when the user wants a window to go away: by its frame, or by Esc in a dialog. The window itself stays as it
 /// is.
 class CloseWish final : public QObject {
@@ -106,3 +108,5 @@ public:
 private:
     QWidget& m_canvas;
 };
+
+} // namespace schemlet

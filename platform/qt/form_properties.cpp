@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <QWidget>
 
+namespace schemlet {
+
 void applyFormProperties(QWidget& control)
 {
     // It follows the desktop's font as far as there is room.
@@ -39,3 +41,5 @@ void applyFormProperties(QWidget& control)
         control.setSizePolicy(policy);
     }
 }
+
+} // namespace schemlet

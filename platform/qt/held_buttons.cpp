@@ -7,6 +7,8 @@
 #include <QStyleHints>
 #include <utility>
 
+namespace schemlet {
+
 HeldButtons::HeldButtons(QWidget& canvas, std::function<void(Qt::MouseButton, QPointF)> released)
     : QObject(&canvas), m_canvas(canvas), m_released(std::move(released))
 {
@@ -58,3 +60,5 @@ bool HeldButtons::onlyClosesAMenu(const QObject& watched, const QEvent& event) c
            qobject_cast<const QMenu*>(&watched) != nullptr &&
            QApplication::widgetAt(dynamic_cast<const QMouseEvent&>(event).globalPosition().toPoint()) == &m_canvas;
 }
+
+} // namespace schemlet

@@ -7,6 +7,8 @@ class QMouseEvent;
 class QPointF;
 class QWidget;
 
+namespace schemlet {
+
 /// The mouse buttons that went down on a canvas and are still held. The canvas learns of every release, though an open
 /// menu takes those that come while it shows, and a box lets none through.
 class HeldButtons final : public QObject {
@@ -32,3 +34,5 @@ private:
     Qt::MouseButtons m_held;
     quint64 m_lastPress = 0; ///< when, in milliseconds
 };
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QWidget>
 
+namespace schemlet {
+
 namespace {
 
 constexpr auto arrowsProperty = "ignoresArrows";
@@ -67,3 +69,5 @@ bool HeldKeys::isStray(const QKeyEvent& press)
     }
     return m_ignoresArrows && isArrow;
 }
+
+} // namespace schemlet

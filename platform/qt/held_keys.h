@@ -6,6 +6,8 @@
 
 class QKeyEvent;
 
+namespace schemlet {
+
 /// Keeps what was not typed at a box away from it: the repeats of a key that was down when it opened. Holds for every
 /// modal window of the program, the toolkit's own included.
 class HeldKeys final : public QObject {
@@ -27,3 +29,5 @@ private:
     std::pair<Key, quint64> m_lastRelease; ///< and its time in milliseconds
     bool m_ignoresArrows = false;
 };
+
+} // namespace schemlet

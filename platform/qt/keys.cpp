@@ -2,6 +2,8 @@
 
 #include "platform/event.h"
 
+namespace schemlet {
+
 namespace keys {
 
 bool isModifier(const QKeyEvent& event)
@@ -38,3 +40,5 @@ std::optional<int> character(const QKeyEvent& event)
 }
 
 } // namespace keys
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <optional>
 
+namespace schemlet {
+
 /// What a Qt key event is to the program.
 namespace keys {
 
@@ -16,3 +18,5 @@ namespace keys {
 [[nodiscard]] std::optional<int> character(const QKeyEvent& event);
 
 } // namespace keys
+
+} // namespace schemlet

@@ -6,6 +6,8 @@
 #include <QProxyStyle>
 #include <QShortcut>
 
+namespace schemlet {
+
 namespace {
 
 /// Leaves the keyboard alone when Alt is tapped or Esc closes a menu. It would go to the bar, where arrow keys draw
@@ -51,3 +53,5 @@ void MenuKeys::askForPopup()
     QContextMenuEvent event(QContextMenuEvent::Keyboard, place, asked->mapToGlobal(place));
     QCoreApplication::sendEvent(asked, &event);
 }
+
+} // namespace schemlet

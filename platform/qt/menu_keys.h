@@ -6,6 +6,8 @@
 class QMenuBar;
 class QWidget;
 
+namespace schemlet {
+
 /// The keys for a window's menus. F10 opens the first one of the menu bar. Menu and Shift+F10 open the popup menu of
 /// the control that has the keyboard, or ask for the window's own if that control has none.
 class MenuKeys final : public QObject {
@@ -24,3 +26,5 @@ private:
     QMenuBar& m_bar;
     std::function<void()> m_popupWanted;
 };
+
+} // namespace schemlet

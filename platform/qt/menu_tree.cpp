@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+namespace schemlet {
+
 MenuTree::MenuTree(QWidget& form, std::function<void(Name)> clicked) : m_form(form), m_clicked(std::move(clicked)) {}
 
 QAction& MenuTree::add(int depth, const MenuItem& item)
@@ -50,3 +52,5 @@ QWidget& MenuTree::menuAt(int depth)
     }
     return *parent.menu();
 }
+
+} // namespace schemlet

@@ -9,6 +9,8 @@
 class QAction;
 class QWidget;
 
+namespace schemlet {
+
 /// Builds the menus of a window with a menu bar, row by row.
 class MenuTree final : public QObject {
     Q_OBJECT
@@ -26,3 +28,5 @@ private:
     std::function<void(Name)> m_clicked;
     std::vector<QAction*> m_lastItems; ///< the last row of each depth
 };
+
+} // namespace schemlet

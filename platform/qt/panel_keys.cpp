@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 
+namespace schemlet {
+
 PanelKeys::PanelKeys(QWidget& panel, std::function<void()> escape)
     : QObject(&panel), m_panel(panel), m_escape(std::move(escape))
 {
@@ -59,3 +61,5 @@ QAbstractButton* PanelKeys::buttonFor(const QKeyEvent& key) const
     }
     return nullptr;
 }
+
+} // namespace schemlet

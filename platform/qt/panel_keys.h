@@ -7,6 +7,8 @@ class QAbstractButton;
 class QKeyEvent;
 class QWidget;
 
+namespace schemlet {
+
 /// The keys of a panel that lies open over a canvas, wherever in its window the focus is: mnemonics of its buttons,
 /// which go before those of the menu bar, and Esc.
 class PanelKeys final : public QObject {
@@ -25,3 +27,5 @@ private:
     QWidget& m_panel;
     std::function<void()> m_escape;
 };
+
+} // namespace schemlet

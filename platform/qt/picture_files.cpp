@@ -12,6 +12,8 @@
 #include <cerrno>
 #include <unistd.h>
 
+namespace schemlet {
+
 namespace {
 
 /// Qt asks for this much at most before it decodes a picture: four channels of 16 bits, as some PNGs have.
@@ -179,3 +181,5 @@ void savePicture(const QImage& image, const QString& path)
         refuseToSave(full ? QStringLiteral("disk full") : QStringLiteral("the disk takes no more"));
     }
 }
+
+} // namespace schemlet

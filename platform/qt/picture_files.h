@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QString>
 
+namespace schemlet {
+
 /// What a canvas may become by loading a picture: 8192 x 8192 pixels, or what a camera of 64 megapixels takes, which is
 /// a little more than 64 million. A picture this large takes 256 MB while it is open.
 inline constexpr int mostPixels = 64 << 20;
@@ -15,3 +17,5 @@ inline constexpr int mostPixels = 64 << 20;
 /// Writes a BMP of 24 bits and 96 dpi under exactly this path, in place of what was there. Throws
 /// RuntimeError(Fault::pictureNotSaved); then the old file is as it was, and nothing is left beside it.
 void savePicture(const QImage& image, const QString& path);
+
+} // namespace schemlet

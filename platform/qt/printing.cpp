@@ -11,6 +11,8 @@
 #include <functional>
 #include <memory>
 
+namespace schemlet {
+
 namespace {
 
 [[noreturn]] void fail(const QString& why)
@@ -118,3 +120,5 @@ void printPicture(const QImage& picture, const QString& title)
         fail("The printer " + queue + " did not get the job:\n" + cups.lastError());
     }
 }
+
+} // namespace schemlet

@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QTreeView>
 
+namespace schemlet {
+
 namespace {
 
 /// A box is as wide as its text; a longer title would be cut off in the middle.
@@ -194,3 +196,5 @@ std::optional<std::string> QtDialogs::saveFile(std::string_view name, std::strin
     dialog.selectFile(toQString(name));
     return chooseFile(dialog);
 }
+
+} // namespace schemlet

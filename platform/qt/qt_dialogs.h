@@ -10,6 +10,8 @@ class QDialog;
 class QFileDialog;
 class QWidget;
 
+namespace schemlet {
+
 /// Boxes in front of the program's windows. After all but warnings the keyboard is the canvas's, whatever had it
 /// before, so that the drawing goes on; a warning may be about what is typed, which can then be mended.
 class QtDialogs final : public Dialogs {
@@ -41,3 +43,5 @@ private:
     QString m_folder;                      ///< that the last chosen file is in
     QColorDialog* m_colorDialog = nullptr; ///< one for the whole run, made when it is first needed
 };
+
+} // namespace schemlet

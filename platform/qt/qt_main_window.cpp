@@ -22,6 +22,8 @@
 #include <tuple>
 #include <vector>
 
+namespace schemlet {
+
 namespace {
 
 constexpr QSize cursorSize(24, 24); // pixels
@@ -218,3 +220,5 @@ void QtMainWindow::placeAwayFrom(Name control, Point from, Name other)
         layout.setAlignment(&widget, best);
     }
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include "platform/qt/menu_tree.h"
 #include "platform/qt/qt_window.h"
 
+namespace schemlet {
+
 class CanvasWidget;
 
 /// The window whose form has the canvas, a menu bar and a toolbar. What lies on the canvas moves in its places.
@@ -40,3 +42,5 @@ private:
     std::string_view m_cursor;
     MenuTree m_menus;
 };
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include "platform/qt/picture_files.h"
 #include "platform/qt/text.h"
 
+namespace schemlet {
+
 void QtPictures::loadBackground(std::string_view path)
 {
     m_surface.setPicture(loadPicture(toQString(path)));
@@ -12,3 +14,5 @@ void QtPictures::saveImage(std::string_view path)
 {
     savePicture(m_surface.picture(), toQString(path));
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include "platform/pictures.h"
 #include "platform/qt/canvas_surface.h"
 
+namespace schemlet {
+
 /// The picture files of one canvas.
 class QtPictures final : public Pictures {
 public:
@@ -14,3 +16,5 @@ public:
 private:
     CanvasSurface& m_surface;
 };
+
+} // namespace schemlet

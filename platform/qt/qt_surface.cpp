@@ -10,6 +10,8 @@
 #include <QTextLayout>
 #include <cmath>
 
+namespace schemlet {
+
 namespace {
 
 /// In unscaled pixels.
@@ -186,3 +188,5 @@ void QtSurface::report(const ink::Area& area) const
         changed(QRect(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1)));
     }
 }
+
+} // namespace schemlet

@@ -7,6 +7,8 @@
 #include <QImage>
 #include <functional>
 
+namespace schemlet {
+
 /// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
 [[nodiscard]] QFont canvasFont();
 
@@ -63,3 +65,5 @@ private:
     int m_drawWidth = 2;
     Point m_current;
 };
+
+} // namespace schemlet

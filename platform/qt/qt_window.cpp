@@ -23,6 +23,8 @@
 #include <cmath>
 #include <vector>
 
+namespace schemlet {
+
 namespace {
 
 /// Whether an object belongs to this window and not to another one that the window owns.
@@ -204,3 +206,5 @@ void QtWindow::addNamed(Name name, QObject& object)
         qFatal("A second '%s' in '%s'", qPrintable(object.objectName()), qPrintable(m_form.objectName()));
     }
 }
+
+} // namespace schemlet

@@ -8,9 +8,12 @@
 #include <map>
 #include <string>
 
-class CloseWish;
 class QImage;
 class QWidget;
+
+namespace schemlet {
+
+class CloseWish;
 
 /// A window made from a form. Its controls are found by their object names.
 class QtWindow : public QObject, public virtual Window {
@@ -82,3 +85,5 @@ private:
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
 };
+
+} // namespace schemlet

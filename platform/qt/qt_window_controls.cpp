@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QProgressBar>
 
+namespace schemlet {
+
 void QtWindow::setVisible(Name control, bool visible)
 {
     // An option that nobody is to see is an action, which has nothing but its switches.
@@ -127,3 +129,5 @@ void QtWindow::drawPicture(Name control, void (*draw)(Surface&))
         find<QLabel>(control).setPixmap(picture);
     }
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <utility>
 
+namespace schemlet {
+
 namespace {
 
 // In the pictures' own units.
@@ -52,3 +54,5 @@ QIcon swatchIcon(const QIcon& picture, const QColor& color)
 {
     return QIcon(new SwatchEngine(picture, color));
 }
+
+} // namespace schemlet

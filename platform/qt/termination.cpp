@@ -7,6 +7,8 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
+namespace schemlet {
+
 namespace {
 
 int wakeUp = -1;
@@ -33,3 +35,5 @@ void endOnSignals()
         std::signal(signal, noteSignal);
     }
 }
+
+} // namespace schemlet

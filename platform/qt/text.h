@@ -5,6 +5,8 @@
 #include <QString>
 #include <string_view>
 
+namespace schemlet {
+
 /// The core's texts are UTF-8.
 inline QString toQString(std::string_view text)
 {
@@ -15,3 +17,5 @@ inline QString toQString(Name name)
 {
     return toQString(name.text());
 }
+
+} // namespace schemlet

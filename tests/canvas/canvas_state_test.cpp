@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 TEST(Load, GivesEveryVariableItsStartValue)
 {
     Rig rig;
@@ -29,3 +31,5 @@ TEST(Marker, BlinksOnAndOffAcrossTheCountersWrap)
         ASSERT_LT(rig.form.blinkCount, 10000);
     }
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr Color red = 0x0000FF;
@@ -67,3 +69,5 @@ TEST(OtherKeys, OnlyMarkTheDrawingChanged)
         }
     }
 }
+
+} // namespace schemlet

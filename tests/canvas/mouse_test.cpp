@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 TEST(Mouse, AnyButtonThatComesUpMarksTheDrawingChanged)
 {
     for (const int held : {button::left, button::right, button::middle}) {
@@ -57,3 +59,5 @@ TEST(Mouse, EraserOutlineFollowsTheMouseAndGoesWithTheNextMoveAfterEraseMode)
     rig.mouseMove(0, 1000, 1000);
     EXPECT_FALSE(outline.visible);
 }
+
+} // namespace schemlet

@@ -6,6 +6,8 @@
 #include <locale>
 #include <optional>
 
+namespace schemlet {
+
 namespace {
 
 std::optional<Fault> faultOf(std::string_view text)
@@ -89,3 +91,5 @@ TEST(Numbers, DoNotCareForTheLocale)
     EXPECT_EQ(toText(1234.5), "1234.5");
     std::locale::global(before);
 }
+
+} // namespace schemlet

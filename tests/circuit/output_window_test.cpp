@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+namespace schemlet {
+
 namespace {
 
 /// Enters a circuit such as "R10 I1 C4 V5", each component by its letter and value.
@@ -92,3 +94,5 @@ TEST(OutputWindow, TellsWhatCannotBeComputedAndShowsWhatComesBefore)
         EXPECT_EQ(rig.output.timesShown, 2); // the message takes the keyboard away from it
     }
 }
+
+} // namespace schemlet

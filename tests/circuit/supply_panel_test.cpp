@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 std::string shown(Rig& rig)
@@ -149,3 +151,5 @@ TEST(SupplyPanel, AnOverflowOfASumLeavesSumPenAndDrawingAndUsesTheChoicesUp)
     rig.enter("A5");
     EXPECT_EQ(rig.pen(), "2130 1500"); // no second battery
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr Color red = 0x0000FF;
@@ -56,3 +58,5 @@ TEST(ValuedComponents, BadTextBringsOneMessageAndChangesNothing)
         EXPECT_EQ(rig.form.capac, 0.2);
     }
 }
+
+} // namespace schemlet

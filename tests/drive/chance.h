@@ -9,6 +9,8 @@
 #include <random>
 #include <string>
 
+namespace schemlet {
+
 /// What nobody foresees, the same for the same seed.
 class Chance {
 public:
@@ -115,3 +117,5 @@ private:
 
     Chance& m_chance;
 };
+
+} // namespace schemlet

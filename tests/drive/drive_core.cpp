@@ -15,6 +15,8 @@
 #include <stdexcept>
 #include <tuple>
 
+namespace schemlet {
+
 namespace {
 
 void demand(bool holds, const char* what)
@@ -233,8 +235,11 @@ private:
 
 } // namespace
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     const std::vector<std::string> words(argv, argv + argc);
     if (words.size() != 3) {
         std::cerr << "drive_core SEED EVENTS\n";

@@ -14,6 +14,8 @@
 #include <vector>
 #include <xcb/xtest.h>
 
+namespace schemlet {
+
 namespace {
 
 /// Keys by their places on a PC's keyboard.
@@ -227,8 +229,11 @@ bool drive(const QString& program, std::uint64_t seed, int seconds, int growth)
 
 } // namespace
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     const QCoreApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
     if (words.size() != 5) {

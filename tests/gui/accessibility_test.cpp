@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // What a screen reader finds in the running program.
 
 namespace {
@@ -86,3 +88,5 @@ TEST(Program, TellsAScreenReaderWhereThePenIsAndWhatThePanelOffers)
             "Line");
     program.waitForText("Open works after the first arrow key");
 }
+
+} // namespace schemlet

@@ -8,6 +8,8 @@
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 
+namespace schemlet {
+
 namespace {
 
 constexpr auto connectionName = "accessibility";
@@ -145,3 +147,5 @@ std::vector<Accessible> AccessibilityBus::childrenOf(const Accessible& parent) c
     }
     return children;
 }
+
+} // namespace schemlet

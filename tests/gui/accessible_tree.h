@@ -8,6 +8,8 @@
 #include <QVariant>
 #include <vector>
 
+namespace schemlet {
+
 /// One thing that a program tells assistive programs about, and where to ask for more.
 struct Accessible {
     QString service;
@@ -54,3 +56,5 @@ private:
     QProcess m_launcher; ///< of the bus for accessibility, whose address it tells on the session's bus
     QProcess m_registry; ///< where programs say that they are there
 };
+
+} // namespace schemlet

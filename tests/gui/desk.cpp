@@ -3,6 +3,8 @@
 #include <QTest>
 #include <stdexcept>
 
+namespace schemlet {
+
 QByteArray waitForLine(QProcess& process)
 {
     while (!process.canReadLine()) {
@@ -48,3 +50,5 @@ Desk::~Desk()
     end(m_manager);
     end(m_server);
 }
+
+} // namespace schemlet

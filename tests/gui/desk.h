@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <functional>
 
+namespace schemlet {
+
 inline constexpr int patience = 15000; // milliseconds, for a busy machine; nothing waits that long by design
 
 /// Waits for the first line of a process that says so when it is ready.
@@ -25,3 +27,5 @@ private:
     QProcess m_server;
     QProcess m_manager;
 };
+
+} // namespace schemlet

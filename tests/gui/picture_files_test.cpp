@@ -13,6 +13,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace schemlet {
+
 namespace {
 
 /// Root may write anywhere; until this goes, the process is somebody else's.
@@ -67,7 +69,7 @@ protected:
 
     QString store(const QString& name, const QByteArray& bytes)
     {
-        ::store(path(name), bytes);
+        schemlet::store(path(name), bytes);
         return path(name);
     }
 
@@ -232,3 +234,5 @@ TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
     allow(".", 0700);
     EXPECT_EQ(contents(path("old.bmp")), old);
 }
+
+} // namespace schemlet

@@ -2,6 +2,8 @@
 
 #include <QImage>
 
+namespace schemlet {
+
 /// Looks at each pixel's place, row by row.
 template <typename Look> void visit(const QImage& image, Look look)
 {
@@ -38,3 +40,5 @@ inline QRect inkedPart(const QImage& image)
     visit(image, [&](int x, int y) { part |= isInked(image, x, y) ? QRect(x, y, 1, 1) : QRect(); });
     return part;
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <cups/cups.h>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 // In all of these, @ stands for the folder.
@@ -144,3 +146,5 @@ QImage printedPicture(const QString& file)
     EXPECT_EQ(QProcess::execute("pdfimages", {"-png", file, file}), 0);
     return QImage(file + "-000.png").convertToFormat(QImage::Format_RGB32);
 }
+
+} // namespace schemlet

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+namespace schemlet {
+
 /// A print service of our own with one queue, the default one, whose printer puts each job into a file. Its paper is
 /// A4, with margins of 18, 24, 24 and 36 points at the left, top, right and bottom. It has no network port and keeps to
 /// one folder, gone with this object. CUPS_SERVER shows this process and those it starts the way to it; afterwards it
@@ -29,7 +31,7 @@ public:
     /// From then on there is no printer at all.
     void removeQueue() { run("lpadmin", {"-x", queue}); }
     /// From then on nobody answers.
-    void end() { ::end(m_server); }
+    void end() { schemlet::end(m_server); }
 
     /// How many jobs wait to be printed.
     [[nodiscard]] int waitingJobs() const;
@@ -47,3 +49,5 @@ private:
 
 /// The picture as it lies in a printed file, before any printer scales it.
 [[nodiscard]] QImage printedPicture(const QString& file);
+
+} // namespace schemlet

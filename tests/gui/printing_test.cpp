@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 /// Pale, with a coloured square in each corner and a hairline in between.
@@ -124,3 +126,5 @@ TEST(Printing, TellsWhatKeepsAJobFromThePrinterAndWaitsForAStoppedOne)
     server.end();
     EXPECT_EQ(errorOfPrinting(), none);
 }
+
+} // namespace schemlet

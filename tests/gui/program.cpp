@@ -13,6 +13,8 @@
 #include <string_view>
 #include <utility>
 
+namespace schemlet {
+
 namespace {
 
 QString outputOf(const QString& program, const QStringList& words)
@@ -291,3 +293,5 @@ Program::Witness::~Witness()
     }
     std::cout << std::endl;
 }
+
+} // namespace schemlet

@@ -8,6 +8,8 @@
 #include <initializer_list>
 #include <optional>
 
+namespace schemlet {
+
 inline constexpr auto saveQuestion = "Do you want to save changes?";
 inline constexpr auto printQuestion = "Do you want to print this form?";
 
@@ -111,3 +113,5 @@ private:
     QRect m_canvas;   ///< on the screen
     Witness m_witness{*this};
 };
+
+} // namespace schemlet

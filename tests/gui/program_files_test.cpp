@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // Drawings on the disk.
 
 namespace {
@@ -179,3 +181,5 @@ TEST(Program, SavesReopensAndSavesAgainPixelForPixel)
     drawing.waitForTitle("large.bmp");
     EXPECT_TRUE(QImage(drawing.path("large.bmp")) == large);
 }
+
+} // namespace schemlet

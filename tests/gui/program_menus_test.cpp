@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // Menus and short-cuts, settings, colours and printing.
 
 namespace {
@@ -222,3 +224,5 @@ TEST(Program, PrintsTheCanvasWithItsLabelButWithoutMarkerAndEraserOutline)
     program.keys({"Return"});
     program.waitForMainWindow();
 }
+
+} // namespace schemlet

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <string_view>
 
+namespace schemlet {
+
 // Places are canvas pixels: the pen starts at (106, 100), a step is 3 1/3 pixels long.
 
 TEST(Program, StartsWithABlinkingMarkerOnAnEmptyCanvasAndEndsCleanly)
@@ -280,8 +282,11 @@ TEST(Program, InksEveryPointOfAFastStroke)
     });
 }
 
+} // namespace schemlet
+
 int main(int argc, char* argv[])
 {
+    using namespace schemlet;
     testing::InitGoogleTest(&argc, argv);
     if (GTEST_FLAG_GET(list_tests)) {
         return RUN_ALL_TESTS();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // The toolbar and the toolbox.
 
 TEST(Program, ToolbarAndToolboxHintAndWork)
@@ -78,3 +80,5 @@ TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
     waitForCorner({200, 200});
     program.waitForMark("View", "ToolBox", true);
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <string_view>
 
+namespace schemlet {
+
 // The windows beside the main one, as they come and go on a real screen.
 
 TEST(Program, SplashShowsProgressAndMakesWayForTheMainWindowEvenIfItIsClosed)
@@ -99,3 +101,5 @@ TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
         EXPECT_EQ(program.filesAtHome(), QStringList());
     }
 }
+
+} // namespace schemlet

@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 /// One event of a key, with its time in milliseconds.
@@ -126,3 +128,5 @@ TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
     EXPECT_EQ(afterEscape([&] { dialogs.pickColor("", black); }), &canvas);
     EXPECT_EQ(afterEscape([&] { dialogs.openFile(); }), &canvas);
 }
+
+} // namespace schemlet

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+namespace schemlet {
+
 namespace {
 
 /// 200 x 200 pixels, and what of them changed.
@@ -106,3 +108,5 @@ TEST(QtSurface, KeepsNothingOfAMillionStrokes)
     draw(1'000'000);
     EXPECT_LE(mallinfo2().uordblks, before + 1000);
 }
+
+} // namespace schemlet

@@ -13,6 +13,8 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // What the main window makes of keys and mouse where that takes better timing than a person has.
 
 namespace {
@@ -295,3 +297,5 @@ TEST(QtWindow, ShowsTheWholeNameOfADrawing)
     main.window->setCaption("plan [*] b");
     EXPECT_EQ(main.view.windowHandle()->title(), "plan [*] b");
 }
+
+} // namespace schemlet

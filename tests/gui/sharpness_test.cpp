@@ -7,6 +7,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // The canvas on screens that have more pixels than it.
 
 namespace {
@@ -217,3 +219,5 @@ TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
     const QSize size(qFloor(301 * ratio) - 1, qFloor(203 * ratio) - 1);
     EXPECT_EQ(differing(shown.copy(QRect(corner, size)), canvas.surface().screenImage()), 0);
 }
+
+} // namespace schemlet

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace schemlet {
+
 /// A window on the toolkit, with a note of every event in place of the program behind it.
 template <typename View, typename Form> struct Shown {
     View view;
@@ -42,3 +44,5 @@ template <typename View, typename Form> struct Shown {
         return text;
     }
 };
+
+} // namespace schemlet

@@ -17,6 +17,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 // Every control is there, whole, and every text can be read, whatever colours the user gives the canvas and the
 // desktop. Contrast is measured on the pixels.
 
@@ -300,3 +302,5 @@ TEST(Windows, ShowTheProductsPictureWhole)
     EXPECT_GT(inkedPart(picture).width(), 380);
     EXPECT_TRUE(picture.rect().adjusted(2, 2, -2, -2).contains(inkedPart(picture)));
 }
+
+} // namespace schemlet

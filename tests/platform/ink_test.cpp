@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr ink::Pen thin{1, 2};
@@ -114,3 +116,5 @@ TEST(Ink, ClipsWhatLiesOutsideHoweverFar)
     ink::circle(paper.image(), eraser, {5, 5}, 1);
     EXPECT_GT(inked(paper), 60);
 }
+
+} // namespace schemlet

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+namespace schemlet {
+
 namespace {
 
 using picture::State;
@@ -170,3 +172,5 @@ TEST(PictureCheck, BelievesNoHeader)
         EXPECT_EQ(picture::check(file), state) << testing::PrintToString(file.substr(0, 60));
     }
 }
+
+} // namespace schemlet

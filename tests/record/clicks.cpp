@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 // Everything that can be clicked, and what comes of it.
 
 namespace {
@@ -118,3 +120,5 @@ void recordClicks(Record& record)
     addMenus(record);
     addClicks(record);
 }
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace schemlet {
+
 namespace {
 
 constexpr std::array headings{heading::right, heading::left, heading::up, heading::down, 7};
@@ -177,3 +179,5 @@ void recordDrawing(Record& record)
     addMouse(record);
     addPictures(record);
 }
+
+} // namespace schemlet

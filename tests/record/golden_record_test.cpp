@@ -8,6 +8,8 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr const char* path = SCHEMLET_GOLDEN_RECORD;
@@ -74,3 +76,5 @@ TEST(GoldenRecord, EverythingIsDrawnAsRecorded)
     }
     EXPECT_EQ(now.size(), recorded.size());
 }
+
+} // namespace schemlet

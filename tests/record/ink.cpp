@@ -3,6 +3,8 @@
 #include "tests/support/paper.h"
 #include "tests/support/stand_ins.h"
 
+namespace schemlet {
+
 namespace {
 
 struct Shape {
@@ -68,3 +70,5 @@ void recordInk(Record& record)
         }
     }
 }
+
+} // namespace schemlet

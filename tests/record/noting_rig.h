@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace schemlet {
+
 /// An item of the menus that runs a command.
 struct Item {
     Name name;
@@ -72,3 +74,5 @@ struct NotingRig : Rig {
         surface.ink.push_back("asks |" + dialogs.lastTitle + "|" + dialogs.lastPrompt + "| " + styles.at(style));
     }
 };
+
+} // namespace schemlet

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace schemlet {
+
 /// All that the program draws, as texts that are compared with golden_record.txt.
 struct Section {
     std::string title, body;
@@ -14,3 +16,5 @@ using Record = std::vector<Section>;
 void recordDrawing(Record& record); ///< each call that reaches the canvas, and what it leaves there
 void recordClicks(Record& record);  ///< menus, hints and what follows a click
 void recordInk(Record& record);     ///< the pixels of strokes
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 TEST(Deliver, LeavesWhatHasNoCommand)
 {
     Rig rig;
@@ -181,3 +183,5 @@ TEST(Confirmations, AnyOtherValueBecomesOneAndTheMarkFlipsOnItsOwn)
     EXPECT_EQ(rig.form.confirm[gatesConfirm], 1);
     EXPECT_FALSE(rig.window.checked("gg"));
 }
+
+} // namespace schemlet

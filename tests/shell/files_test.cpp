@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr const char* newFile = " - Schemlet 2.0  New File ";
@@ -226,3 +228,5 @@ TEST(Exit, AlwaysAsksAndEndsAfterYesEvenIfSavingWasCancelled)
         }
     }
 }
+
+} // namespace schemlet

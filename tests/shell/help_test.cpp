@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 struct HelpBench : Rig {
@@ -82,3 +84,5 @@ TEST(Windows, AreHiddenByTheirButtonsAndFrames)
     EXPECT_EQ(rig.help.timesHidden, 2);
     EXPECT_EQ(rig.output.timesHidden, 1);
 }
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 TEST(Splash, FillsItsBarAndOpensTheMainWindowOnTheTickAfterItIsFull)
 {
     Rig rig(Rig::Start::atSplash);
@@ -37,3 +39,5 @@ TEST(Splash, MakesWayAtOnceWhenItIsClosed)
     EXPECT_EQ(rig.window.timesShown, 1);
     EXPECT_EQ(rig.splash.timesUnloaded, 1);
 }
+
+} // namespace schemlet

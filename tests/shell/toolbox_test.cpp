@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 TEST(Toolbox, FollowsTheMouseFromAClickOrAMoveOverItToTheNextOne)
 {
     Rig rig;
@@ -43,3 +45,5 @@ TEST(View, EachTogglesItsOwnMark)
         EXPECT_TRUE(rig.window.checked("toolbox"));
     }
 }
+
+} // namespace schemlet

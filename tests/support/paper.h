@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace schemlet {
+
 /// A small image, blank at first.
 struct Paper {
     int width = 0;
@@ -31,3 +33,5 @@ struct Paper {
         return out;
     }
 };
+
+} // namespace schemlet

@@ -7,6 +7,8 @@
 #include <QImageWriter>
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 /// A picture whose neighbouring pixels differ.
 inline QImage colourful(int width, int height)
 {
@@ -41,3 +43,5 @@ inline void store(const QString& path, const QByteArray& bytes)
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
+
+} // namespace schemlet

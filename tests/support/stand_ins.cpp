@@ -5,6 +5,8 @@
 #include <charconv>
 #include <utility>
 
+namespace schemlet {
+
 namespace {
 
 template <typename Number> std::string written(Number number)
@@ -234,3 +236,5 @@ std::string Rig::outcome()
 {
     return drawn() + "pen " + pen() + ", marker " + marker();
 }
+
+} // namespace schemlet

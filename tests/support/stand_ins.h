@@ -20,6 +20,8 @@
 #include <string>
 #include <vector>
 
+namespace schemlet {
+
 /// Notes one text line for each call that draws, such as "line 1600 1500 1600 1750".
 class RecordingSurface final : public Surface {
 public:
@@ -324,3 +326,5 @@ struct Rig {
 
 /// What a command leaves that does nothing right after start.
 inline constexpr const char* nothing = "pen 1600 1500, marker 1600 1200";
+
+} // namespace schemlet

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace schemlet {
+
 namespace {
 
 constexpr Color red = 0x0000FF;
@@ -48,3 +50,5 @@ TEST(Library, GoesAheadAlsoWhereTheHeadingLetsNothingBeDrawn)
     rig.click("npdiode");
     EXPECT_EQ(rig.form.diodeCount, 2);
 }
+
+} // namespace schemlet
