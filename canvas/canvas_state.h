@@ -10,8 +10,8 @@
 
 namespace schemlet {
 
-/// Directions of the pen. A heading variable may hold other numbers too, as the File menu leaves its answers there:
-/// nothing is drawn for those.
+/// Directions of the pen. The File menu stores answers of its question in the heading too; for those numbers nothing is
+/// drawn.
 namespace heading {
 inline constexpr int right = 1;
 inline constexpr int left = 2;
@@ -84,11 +84,11 @@ struct Drawing : Pen {
     double capacitiveReactance = 0;
 };
 
-/// Everything the program knows besides the ink: the drawing, and what belongs to the hand that draws it. One plain
-/// field per fact, 0 until something sets it; switches are 1 or 0; lengths are twips.
+/// Everything the program knows besides the ink: the drawing, and the tools and settings of the person who draws it.
+/// One plain field per fact, 0 until something sets it; switches are 1 or 0; lengths are twips.
 struct CanvasState : Drawing {
     int eraseMode = 0;
-    int eraseHint = 0; ///< nothing sets it, so the hint that it stands for never shows
+    int eraseHint = 0; ///< always 0, so the hint that it stands for never shows
     int lineTool = 0;  ///< at most one of the three tools is 1
     int rectTool = 0;
     int pencilTool = 0;
@@ -112,7 +112,7 @@ struct CanvasState : Drawing {
 
     int startShown = 0;     ///< 1 once the help window has shown itself at start
     int splashProgress = 0; ///< of the splash's bar, 0 to 100
-    int helpOpen = 0;       ///< 1 = the help window slides open when it loads; nothing sets it, so it opens collapsed
+    int helpOpen = 0;       ///< 1 = the help window slides open when it loads; always 0, so it opens collapsed
     int helpLoaded = 0;     ///< 1 once the help window was shown
     int form4Loaded = 0;    ///< 1 once the Output window was touched
 

@@ -6,12 +6,12 @@ namespace schemlet {
 
 inline constexpr int stepLength = 50; ///< twips of wire for each arrow key
 
-/// Lays a step of wire along the heading, in the foreground colour, and moves the pen to its end. Does nothing for a
-/// heading that is none.
+/// Lays a step of wire along the heading, in the foreground colour, and moves the pen to its end. Does nothing if
+/// the heading is no direction.
 void layStep(Surface& surface, Pen& pen);
 
-/// A key going down. Any key marks the drawing changed; the arrow keys turn the pen and, outside erase mode, lay
-/// a step of wire. Codes are those of platform/event.h.
+/// Handles a key that goes down; codes as in platform/event.h. Any key marks the drawing changed. An arrow key turns
+/// the pen and, outside erase mode, lays a step of wire.
 void keyDown(Form1& form, int code);
 
 /// Switches erase mode: pen width (2 or 10 pixels), mode and label flip each from its own state.

@@ -41,7 +41,7 @@ inline constexpr Name captions[] = {Label1, Label29, Label2, Label3, Label4, Lab
 inline constexpr Name values[] = {Label18, Label19, Label20, Label21, Label22, Label23, Label24, Label14, Label15};
 } // namespace control
 
-/// Prints the Output window. Throws printerError.
+/// Prints the Output window. Throws RuntimeError(Fault::printerError).
 void printForm(Form1& form);
 
 } // namespace form4
@@ -50,7 +50,7 @@ void printForm(Form1& form);
 /// and capacitance is negative, overflow if a result is out of range; the values before that are shown.
 void output(Form1& form);
 
-/// Fills the window without showing it. Throws the same.
+/// Fills the window without showing it. Throws RuntimeError as output() tells it.
 void refreshOutput(Form1& form);
 
 /// Shows 0 for every value.

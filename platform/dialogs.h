@@ -13,11 +13,11 @@ enum class Box {
     okOnly,
     okWarning,
     yesNoQuestion,
-    walkQuestion, ///< looks the same, but ignores the walk's arrow keys: they count only after another key
+    walkQuestion, ///< the same, but arrow keys do nothing until another key is pressed
     yesNoCancelWarning
 };
 
-/// What a message box answers. The numbers count: the answer about saving becomes the pen's heading.
+/// What a message box answers. The numbers matter: the answer about saving is stored in the pen's heading.
 namespace answer {
 inline constexpr int cancel = 2;
 inline constexpr int yes = 6;
@@ -36,14 +36,14 @@ public:
     virtual std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view preset) = 0;
 
-    /// Lets the user pick a colour, from this one on. None on Cancel.
+    /// Lets the user pick a colour; the dialog opens with the given one. None on Cancel.
     virtual std::optional<Color> pickColor(std::string_view title, Color first) = 0;
 
-    /// Asks for a picture file to open; its path. None on Cancel.
+    /// Asks for a picture file to open and returns its path, none on Cancel.
     virtual std::optional<std::string> openFile() = 0;
-    /// Asks for a file to write; its path. Proposes a name, which may be empty, in the folder used last. A name without
-    /// an extension gets this one; the filter is what the dialog says of the files, a bar, and their pattern. None
-    /// on Cancel.
+    /// Asks for a file to write and returns its path, none on Cancel. The dialog proposes this name, which may be
+    /// empty, in the folder used last. It adds the extension to a name that has none. The filter is a description of
+    /// the files, a bar and their pattern.
     virtual std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
                                                 std::string_view filter) = 0;
 };

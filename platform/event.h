@@ -7,7 +7,7 @@
 
 namespace schemlet {
 
-/// The keys that mean something on their way down; every other key reports 0.
+/// The codes of the keys that act when they go down; every other key reports 0.
 namespace key {
 inline constexpr int left = 37;
 inline constexpr int up = 38;

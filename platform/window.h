@@ -23,7 +23,7 @@ public:
     virtual void hideWindow() = 0;
     /// Closes it for good and ends its timers.
     virtual void unload() = 0;
-    /// The height inside the frame, in twips: the one last set, whatever the screen's pixels make of it.
+    /// The height inside the frame, in twips, exactly as it was set last.
     virtual void setHeight(int twips) = 0;
     [[nodiscard]] virtual int height() const = 0;
     /// Prints the window's image on the default printer. Throws RuntimeError(Fault::printerError).
@@ -37,10 +37,10 @@ public:
     virtual void focus(Name control) = 0;
     virtual void setText(Name control, std::string_view text) = 0;
     [[nodiscard]] virtual std::string text(Name control) const = 0;
-    /// What a screen reader says of a control after its name; said again when it changes.
+    /// What a screen reader says after a control's name, and again whenever it changes.
     virtual void setDescription(Name control, std::string_view text) = 0;
-    /// 1 for an option button that is chosen or a check box that is ticked, else 0; of a progress bar 0 to 100. Setting
-    /// it is no click.
+    /// 1 for an option button that is chosen or a check box that is ticked, else 0; for a progress bar 0 to 100.
+    /// Setting it does not count as a click.
     virtual void setValue(Name control, int value) = 0;
     [[nodiscard]] virtual int value(Name control) const = 0;
     /// Paints a control's ground, and its text so that it is readable there.

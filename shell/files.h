@@ -16,14 +16,15 @@ void setTitle(Form1& form, std::string_view file);
 /// Starts over, after a question if anything changed.
 void new_(Form1& form);
 
-/// Takes a picture file for the canvas. Only once the pen has moved since start or New. Throws invalidPicture.
+/// Takes a picture file for the canvas. Only once the pen has moved since start or New. Throws
+/// RuntimeError(Fault::invalidPicture).
 void open(Form1& form);
 
 /// Writes the canvas as a BMP picture. Cancelled or failed, it still counts as saved; cancelling brings a message,
 /// failing a notice.
 void save(Form1& form);
 
-/// Prints the canvas after a question. Throws printerError.
+/// Prints the canvas after a question. Throws RuntimeError(Fault::printerError).
 void print(Form1& form);
 
 /// Ends the program after a question.

@@ -40,7 +40,7 @@ void Command1(Form1& form);
 /// Shows the help window.
 void htu(Form1& form);
 
-/// The same, but the keyboard stays where it is: for the help that nobody asked for.
+/// Shows the help window at start, when nobody asked for it: the keyboard stays where it is.
 void showHelpAtStart(Form1& form);
 
 } // namespace schemlet

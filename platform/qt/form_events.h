@@ -26,7 +26,7 @@ private:
     std::function<void()> m_wished;
 };
 
-/// Makes a button of a label, for the mouse.
+/// Makes a label clickable with the mouse.
 class LabelClick final : public QObject {
     Q_OBJECT
 

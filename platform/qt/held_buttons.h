@@ -9,8 +9,8 @@ class QWidget;
 
 namespace schemlet {
 
-/// The mouse buttons that went down on a canvas and are still held. The canvas learns of every release, though an open
-/// menu takes those that come while it shows, and a box lets none through.
+/// The mouse buttons that went down on a canvas and are still held. Reports every release to the canvas, also those
+/// that an open menu takes and those that a modal box blocks.
 class HeldButtons final : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,8 @@ public:
 
     void press(const QMouseEvent& event);
     [[nodiscard]] Qt::MouseButtons held() const { return m_held; }
-    /// A double click on something that went away at the first one must not reach what lies below.
+    /// Whether the first press of this double click went to something else. If that press removed what it hit, the
+    /// second one must not reach the canvas below.
     [[nodiscard]] bool isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const;
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,8 +8,8 @@ class QKeyEvent;
 
 namespace schemlet {
 
-/// Keeps what was not typed at a box away from it: the repeats of a key that was down when it opened. Holds for every
-/// modal window of the program, the toolkit's own included.
+/// Drops the repeats of a key that was already down when a modal window opened. Works for every modal window of the
+/// program, the toolkit's own included.
 class HeldKeys final : public QObject {
 public:
     HeldKeys();

@@ -36,7 +36,7 @@ MenuKeys::MenuKeys(QWidget& window, std::function<void()> popupWanted)
 
 bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    // It comes here when nothing inside has a menu of its own. The mouse has its own way.
+    // It reaches the window if no control inside has a menu of its own. The mouse opens the popup menu by itself.
     if (event->type() == QEvent::ContextMenu &&
         dynamic_cast<const QContextMenuEvent&>(*event).reason() == QContextMenuEvent::Keyboard) {
         m_popupWanted();
@@ -45,7 +45,7 @@ bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// The toolkit knows the Menu key alone.
+/// Qt knows the Menu key but not Shift+F10.
 void MenuKeys::askForPopup()
 {
     QWidget* const asked = m_window.focusWidget() != nullptr ? m_window.focusWidget() : &m_window;

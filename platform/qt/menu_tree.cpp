@@ -22,7 +22,7 @@ QAction& MenuTree::add(int depth, const MenuItem& item)
     action->setVisible(item.look != Look::hidden);
     action->setObjectName(toQString(item.name));
     connect(action, &QAction::triggered, this, [this, action, name = item.name](bool checked) {
-        // A check item flips itself first, but its mark is the command's to flip.
+        // Qt has flipped a check item's mark already. Take that back: the command flips it.
         if (action->isCheckable()) {
             action->setChecked(!checked);
         }

@@ -21,7 +21,8 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event)
     } else if (watched == &m_panel && event->type() == QEvent::Hide) {
         QCoreApplication::instance()->removeEventFilter(this);
     }
-    // The first event asks whether somebody wants the key more than the short-cuts do, the second one is the key.
+    // A ShortcutOverride asks whether a widget wants the key before the short-cuts get it; a KeyPress is the key
+    // itself.
     const bool asks = event->type() == QEvent::ShortcutOverride;
     if ((!asks && event->type() != QEvent::KeyPress) || !isPanels(*watched)) {
         return QObject::eventFilter(watched, event);

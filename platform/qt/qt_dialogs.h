@@ -12,8 +12,8 @@ class QWidget;
 
 namespace schemlet {
 
-/// Boxes in front of the program's windows. After all but warnings the keyboard is the canvas's, whatever had it
-/// before, so that the drawing goes on; a warning may be about what is typed, which can then be mended.
+/// Boxes in front of the program's windows. Every dialog except a warning returns the focus to the canvas, so that the
+/// drawing goes on. A warning returns it to where it was: the text that is wrong may be there.
 class QtDialogs final : public Dialogs {
 public:
     QtDialogs(QWidget& owner, QWidget& canvas) : m_owner(owner), m_canvas(canvas) {}

@@ -16,7 +16,7 @@ namespace schemlet {
 
 void QtWindow::setVisible(Name control, bool visible)
 {
-    // An option that nobody is to see is an action, which has nothing but its switches.
+    // Option1 is never seen: it is an action, which has switches but no place in the window.
     if (auto* const action = findIf<QAction>(control)) {
         action->setVisible(visible);
     } else {
@@ -76,7 +76,7 @@ void QtWindow::setDescription(Name control, std::string_view text)
 {
     auto& widget = find<QWidget>(control);
     const QString description = toQString(text);
-    // Every setting counts as news, and a screen reader would say the same again.
+    // Qt announces every setting, even of the same text.
     if (widget.accessibleDescription() != description) {
         widget.setAccessibleDescription(description);
     }
@@ -107,7 +107,7 @@ void QtWindow::setBackColor(Name control, Color color)
 {
     auto& widget = find<QWidget>(control);
     QPalette palette = paletteOn(toQColor(color));
-    // The title of a group is painted as what is typed in a box, but on the group's ground.
+    // A group paints its title in the colour of typed text, but on its own ground.
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) {
         palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
     }

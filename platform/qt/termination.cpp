@@ -13,7 +13,7 @@ namespace {
 
 int wakeUp = -1;
 
-/// A handler may do next to nothing; the main loop does the rest.
+/// A signal handler may do very little; the main loop does the rest.
 void noteSignal(int /*signal*/)
 {
     const std::uint64_t one = 1;

@@ -11,7 +11,7 @@
 
 namespace schemlet {
 
-/// What nobody foresees, the same for the same seed.
+/// Seeded random source: the same seed gives the same sequence.
 class Chance {
 public:
     explicit Chance(std::uint64_t seed) : m_random(seed) {}
