@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace schemlet {
 
@@ -39,6 +40,17 @@ QColor mixed(const QColor& one, const QColor& other, double part)
                             mix(one.blueF(), other.blueF()));
 }
 
+/// The inside of a field or of an option's circle. On a dark ground it is dark, as the mark in it is light; it is the
+/// lighter one of the two where that leaves the mark readable.
+QColor insideOn(const QColor& ground)
+{
+    if (readableOn(ground) == Qt::black) {
+        return mixed(ground, Qt::white, 0.9);
+    }
+    constexpr double lastToLighten = 0.05;
+    return luminance(ground) > lastToLighten ? mixed(ground, Qt::black, 0.6) : mixed(ground, Qt::white, 0.15);
+}
+
 } // namespace
 
 QColor toQColor(Color color)
@@ -54,20 +66,24 @@ Color toColor(const QColor& color)
 QPalette paletteOn(const QColor& ground)
 {
     const QColor text = readableOn(ground);
-    // The style outlines fields and buttons darker than the ground, which is not to be seen on a dark one: they are
-    // nearly white everywhere, and so are never mixed up with their black marks.
-    const QColor inside = mixed(ground, Qt::white, 0.9);
-    QPalette palette(inside, ground);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, mixed(text, ground, 0.5));
+    // The style outlines a button darker than the ground, which is not to be seen on a dark one: it is nearly white
+    // everywhere.
+    const QColor button = mixed(ground, Qt::white, 0.9);
+    const QColor inside = insideOn(ground);
+    QPalette palette(button, ground);
     palette.setColor(QPalette::Base, inside);
-    for (const auto role : {QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, Qt::black);
-        palette.setColor(QPalette::Disabled, role, mixed(Qt::black, inside, 0.5));
+    const std::tuple<QPalette::ColorRole, QColor, QColor> marks[] = {{QPalette::WindowText, text, ground},
+                                                                     {QPalette::Text, text, inside},
+                                                                     {QPalette::ButtonText, Qt::black, button}};
+    for (const auto& [role, mark, behind] : marks) {
+        palette.setColor(role, mark);
+        palette.setColor(QPalette::Disabled, role, mixed(mark, behind, 0.5));
     }
+    // The style draws the ring of the focus a little darker.
     constexpr double visible = 3;
-    if (contrast(QGuiApplication::palette().color(QPalette::Highlight), inside) < visible) {
-        palette.setColor(QPalette::Highlight, Qt::black);
+    const QColor ring = QGuiApplication::palette().color(QPalette::Highlight).darker(125);
+    if (std::min(contrast(ring, inside), contrast(ring, ground)) < visible) {
+        palette.setColor(QPalette::Highlight, text);
         palette.setColor(QPalette::HighlightedText, inside);
     }
     return palette;

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 
 namespace schemlet {
 
@@ -110,6 +111,10 @@ void QtWindow::setBackColor(Name control, Color color)
     // A group paints its title in the colour of typed text, but on its own ground.
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) {
         palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+    }
+    // An option's circle is outlined a little darker than its ground, which the option does not paint.
+    if (qobject_cast<const QRadioButton*>(&widget) != nullptr) {
+        palette.setColor(QPalette::Window, palette.color(QPalette::WindowText));
     }
     widget.setPalette(palette);
 }
