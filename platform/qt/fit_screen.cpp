@@ -1,15 +1,47 @@
 #include "platform/qt/fit_screen.h"
 
+#include <QApplication>
+#include <QFontInfo>
+#include <QLayout>
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
 
 namespace schemlet {
 
-void resizeOnScreen(QWidget& window, QSize size)
+QSize roomOnScreen(const QWidget& window)
 {
     constexpr QSize frame(16, 48); // generous: window managers differ
-    window.resize(size.boundedTo(window.screen()->availableSize() - frame));
+    return window.screen()->availableSize() - frame;
+}
+
+void resizeOnScreen(QWidget& window, QSize size)
+{
+    window.resize(size.boundedTo(roomOnScreen(window)));
+}
+
+void fitFont(QWidget& window, int largest, int width)
+{
+    constexpr int smallest = 9; // still readable
+    QFont font = QApplication::font();
+    int size = QFontInfo(font).pixelSize();
+    while (size > smallest && (size > largest || window.sizeHint().width() > width)) {
+        font.setPixelSize(--size);
+        window.setFont(font);
+        for (QLayout* const layout : window.findChildren<QLayout*>()) {
+            layout->invalidate(); // those of a hidden window do not notice
+        }
+    }
+}
+
+void keepOnScreen(QWidget& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const int below = window.frameGeometry().bottom() - screen.bottom();
+    const int above = window.frameGeometry().top() - screen.top();
+    if (const int up = std::min(below, above); up > 0) {
+        window.move(window.pos() - QPoint(0, up));
+    }
 }
 
 QPoint placeBeside(QSize size, const QRect& mainWindow, const QRect& canvas, const QRect& screen)

@@ -1,6 +1,5 @@
 #include "platform/qt/form_properties.h"
 
-#include <QFontInfo>
 #include <QVariant>
 #include <QWidget>
 
@@ -8,13 +7,6 @@ namespace schemlet {
 
 void applyFormProperties(QWidget& control)
 {
-    // It follows the desktop's font as far as there is room.
-    if (const int pixels = control.property("largestFont").toInt();
-        pixels > 0 && QFontInfo(control.font()).pixelSize() > pixels) {
-        QFont font = control.font();
-        font.setPixelSize(pixels);
-        control.setFont(font);
-    }
     // A label keeps the size of the widest text it may show, which is its text in the form: a new text then repaints
     // the label and lays out nothing.
     if (control.property("fixedToText").toBool()) {

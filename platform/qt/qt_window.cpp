@@ -58,6 +58,9 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
             applyFormProperties(*control);
         }
     }
+    if (const int largest = form.property("largestFont").toInt(); largest > 0) {
+        fitFont(form, largest, roomOnScreen(form).width());
+    }
     connectControls();
     form.setAttribute(Qt::WA_KeyboardFocusChange); // what has the focus looks so from the start, not from the first Tab
 }
@@ -154,6 +157,9 @@ void QtWindow::setHeight(int twips)
 {
     m_height = twips;
     m_form.setFixedSize(m_form.sizeHint().width(), toPixels(twips));
+    if (m_form.isVisible()) {
+        keepOnScreen(m_form);
+    }
 }
 
 void QtWindow::print(const QImage& picture) const

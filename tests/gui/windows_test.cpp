@@ -253,7 +253,7 @@ TEST(Windows, StatusBarHasRoomForEveryTextAndOnlyTheHintGivesWay)
     }
 }
 
-TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktop)
+TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktopAndHelpNoWiderThanTheScreen)
 {
     useDesktop(desktops[0].first, desktops[0].second);
     const QFont before = QApplication::font();
@@ -262,13 +262,17 @@ TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktop)
         QFont font = before;
         font.setPointSize(points);
         QApplication::setFont(font);
-        const Shown<QDialog, Ui::Form2> help;
+        Shown<QDialog, Ui::Form2> help;
         help.window->setHeight(form2::openHeight);
         QCoreApplication::processEvents();
         expectWholeAndReadable(help.view, helpControls, 44);
         EXPECT_EQ(help.view.height(), 337);
-        EXPECT_LE(help.view.width(), 1264);
-        EXPECT_EQ(QFontInfo(help.form.Label5->font()).pixelSize(), std::min(QFontInfo(font).pixelSize(), 20));
+        EXPECT_LE(help.view.width(), help.view.screen()->availableSize().width());
+        for (const QWidget* const one :
+             std::initializer_list<QWidget*>{help.form.Check1, help.form.Label23, help.form.Label9, help.form.Frame2}) {
+            EXPECT_EQ(one->fontInfo().pixelSize(), help.form.Label5->fontInfo().pixelSize());
+            EXPECT_GE(one->fontInfo().pixelSize(), 12);
+        }
         Shown<QMainWindow, Ui::Form1> main;
         main.window->hideWindow();
         main.window->addMenuItem(0, {"file", "  &File  "});
@@ -278,6 +282,19 @@ TEST(Windows, GrowInWidthOnlyWithTheFontOfTheDesktop)
         EXPECT_GE(main.view.width(), main.form.menuBar->sizeHint().width());
     }
     QApplication::setFont(before);
+}
+
+TEST(Windows, StayOnTheScreenWhenTheyGrow)
+{
+    Shown<QDialog, Ui::Form2> help;
+    const QRect screen = help.view.screen()->availableGeometry();
+    help.window->setHeight(form2::collapsedHeight);
+    help.view.move(0, screen.bottom() + 1 - help.view.frameGeometry().height());
+    const QPoint before = help.view.pos();
+    help.window->setHeight(form2::collapsedHeight);
+    EXPECT_EQ(help.view.pos(), before);
+    help.window->setHeight(form2::openHeight);
+    EXPECT_EQ(help.view.frameGeometry().bottom(), screen.bottom());
 }
 
 TEST(Windows, HelpLiesBesideTheMainOneOrAtTheEndOfItsCanvas)
