@@ -18,6 +18,7 @@
 #include <QRegion>
 #include <QStyle>
 #include <QToolBar>
+#include <QToolButton>
 #include <algorithm>
 #include <tuple>
 #include <vector>
@@ -38,6 +39,16 @@ QIcon toolPicture(Name key)
     return QIcon(":/pictures/toolbar/" + toQString(key) + ".svg");
 }
 
+/// The toolkit's own button in a narrow window has no name, and its picture is black on any desktop.
+void labelOverflow(const QWidget& form, const char* button, const char* name)
+{
+    if (auto* const overflow = form.findChild<QToolButton*>(button)) {
+        overflow->setAccessibleName(name);
+        overflow->setText("»");
+        overflow->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    }
+}
+
 } // namespace
 
 QtMainWindow::QtMainWindow(QWidget& form, std::function<void(const Event&)> report)
@@ -49,9 +60,8 @@ QtMainWindow::QtMainWindow(QWidget& form, std::function<void(const Event&)> repo
             new KeyDetour(*button, m_canvas);
         }
     }
-    if (auto* const rest = form.findChild<QWidget*>("qt_toolbar_ext_button")) {
-        rest->setAccessibleName("More tools"); // the toolkit's own button in a narrow window, nameless
-    }
+    labelOverflow(form, "qt_toolbar_ext_button", "More tools");
+    labelOverflow(form, "qt_menubar_ext_button", "More menus");
     m_canvas.report = [this](const Event& event) { this->report(event); };
     m_canvas.setFocus();
 }
