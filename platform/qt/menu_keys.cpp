@@ -1,7 +1,9 @@
 #include "platform/qt/menu_keys.h"
 
+#include <QAction>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProxyStyle>
 #include <QShortcut>
@@ -30,7 +32,7 @@ MenuKeys::MenuKeys(QWidget& window, std::function<void()> popupWanted)
     style->setParent(this);
     m_bar.setStyle(style);
     window.installEventFilter(this);
-    new QShortcut(Qt::Key_F10, &window, this, [this] { m_bar.setActiveAction(m_bar.actions().first()); });
+    new QShortcut(Qt::Key_F10, &window, this, [this] { openFirst(); });
     new QShortcut(Qt::SHIFT | Qt::Key_F10, &window, this, [this] { askForPopup(); });
 }
 
@@ -43,6 +45,14 @@ bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+/// With an item marked, as every other key that opens a menu does.
+void MenuKeys::openFirst()
+{
+    QAction* const first = m_bar.actions().first();
+    m_bar.setActiveAction(first);
+    first->menu()->setActiveAction(first->menu()->actions().first());
 }
 
 /// Qt knows the Menu key but not Shift+F10.

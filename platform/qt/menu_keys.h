@@ -20,6 +20,7 @@ public:
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void openFirst();
     void askForPopup();
 
     QWidget& m_window;

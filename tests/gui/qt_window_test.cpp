@@ -116,6 +116,7 @@ TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
     QApplication::activePopupWidget()->close();
     QTest::keyClick(main.view.windowHandle(), Qt::Key_F10);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "fileMenu");
+    EXPECT_NE(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).activeAction(), nullptr);
     QTest::keyClick(main.view.windowHandle(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), main.form.Text11);
     EXPECT_EQ(main.noted(), "");
