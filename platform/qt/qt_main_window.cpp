@@ -221,7 +221,7 @@ void QtMainWindow::placeAwayFrom(Name control, Point from, Name other)
     const auto badness = [&](Qt::Alignment corner) {
         const QRect there = QStyle::alignedRect(Qt::LeftToRight, corner, size, m_canvas.rect());
         const QPoint away = there.center() - place;
-        return std::tuple(there.contains(place), hidden.intersects(there), there.intersects(taken),
+        return std::tuple(there.contains(place), there.intersects(taken), hidden.intersects(there),
                           -QPoint::dotProduct(away, away));
     };
     const Qt::Alignment best = *std::ranges::min_element(corners, {}, badness);

@@ -148,6 +148,7 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
         QPoint pen;
         bool toolbox = false;
         Qt::Alignment corner;
+        bool helpBelow = false;
     };
     const Case cases[] = {{{1, 1}, {100, 100}, false, Qt::AlignBottom | Qt::AlignRight},
                           {{1, 1}, {6000, 100}, false, Qt::AlignBottom | Qt::AlignLeft},
@@ -155,10 +156,15 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
                           {{1, 1}, {6000, 6000}, false, Qt::AlignTop | Qt::AlignLeft},
                           {{784, 552}, {106, 100}, true, Qt::AlignBottom | Qt::AlignLeft},
                           {{784, 552}, {50, 500}, true, Qt::AlignTop | Qt::AlignLeft},
-                          {{1000, 700}, {106, 100}, true, Qt::AlignBottom | Qt::AlignRight}};
-    for (const auto& [size, pen, toolbox, corner] : cases) {
+                          {{784, 552}, {106, 100}, true, Qt::AlignBottom | Qt::AlignLeft, true},
+                          {{1000, 700}, {106, 100}, true, Qt::AlignBottom | Qt::AlignRight},
+                          {{1000, 700}, {106, 600}, false, Qt::AlignTop | Qt::AlignRight, true}};
+    QDialog help(&main.view);
+    for (const auto& [size, pen, toolbox, corner, helpBelow] : cases) {
         SCOPED_TRACE(std::to_string(pen.x()) + ' ' + std::to_string(pen.y()));
         main.view.resize(size);
+        help.setGeometry(QRect(main.form.Canvas->mapToGlobal(QPoint(0, size.height() - 300)), QSize(1000, 300)));
+        help.setVisible(helpBelow);
         main.window->setVisible(control::Frame2, toolbox);
         main.window->placeAwayFrom(control::panel, {static_cast<float>(15 * pen.x()), static_cast<float>(15 * pen.y())},
                                    control::Frame2);
