@@ -116,13 +116,6 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event)
     reportMouse(Event::Kind::mouseDown, buttonCode(event->button()), event->position());
 }
 
-void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (!m_buttons->isSecondOfAPressElsewhere(*event)) {
-        mousePressEvent(event);
-    }
-}
-
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event)
 {
     reportMouse(Event::Kind::mouseMove, buttonCode(event->buttons() & m_buttons->held()), event->position());

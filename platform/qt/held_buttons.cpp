@@ -1,10 +1,9 @@
 #include "platform/qt/held_buttons.h"
 
-#include <QApplication>
 #include <QCursor>
-#include <QMenu>
+#include <QGuiApplication>
 #include <QMouseEvent>
-#include <QStyleHints>
+#include <QWidget>
 #include <utility>
 
 namespace schemlet {
@@ -17,14 +16,7 @@ HeldButtons::HeldButtons(QWidget& canvas, std::function<void(Qt::MouseButton, QP
 
 void HeldButtons::press(const QMouseEvent& event)
 {
-    m_lastPress = event.timestamp();
     m_held |= event.button();
-}
-
-bool HeldButtons::isSecondOfAPressElsewhere(const QMouseEvent& doubleClick) const
-{
-    const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    return doubleClick.timestamp() > m_lastPress + interval;
 }
 
 bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
@@ -38,9 +30,6 @@ bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
             release(pointing->globalPosition());
         }
     }
-    if (onlyClosesAMenu(*watched, *event)) {
-        m_lastPress = dynamic_cast<const QMouseEvent&>(*event).timestamp();
-    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -51,14 +40,6 @@ void HeldButtons::release(QPointF place)
     for (auto left = up.toInt(); left != 0; left &= left - 1) {
         m_released(static_cast<Qt::MouseButton>(left & -left), m_canvas.mapFromGlobal(place));
     }
-}
-
-/// A press on the canvas beside an open menu. The menu takes it, but a second press soon after is meant for the canvas.
-bool HeldButtons::onlyClosesAMenu(const QObject& watched, const QEvent& event) const
-{
-    return (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick) &&
-           qobject_cast<const QMenu*>(&watched) != nullptr &&
-           QApplication::widgetAt(dynamic_cast<const QMouseEvent&>(event).globalPosition().toPoint()) == &m_canvas;
 }
 
 } // namespace schemlet

@@ -3,6 +3,7 @@
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/colors.h"
+#include "platform/qt/double_clicks.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/form_events.h"
 #include "platform/qt/swatch_icon.h"
@@ -62,6 +63,7 @@ QtMainWindow::QtMainWindow(QWidget& form, std::function<void(const Event&)> repo
     }
     labelOverflow(form, "qt_toolbar_ext_button", "More tools");
     labelOverflow(form, "qt_menubar_ext_button", "More menus");
+    new DoubleClicks(m_canvas);
     m_canvas.report = [this](const Event& event) { this->report(event); };
     m_canvas.setFocus();
 }
