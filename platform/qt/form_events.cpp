@@ -29,6 +29,11 @@ bool isOver(const QWidget& widget, QPoint place)
     return widget.rect().contains(place) && widget.childAt(place) == nullptr;
 }
 
+bool takesNoRoom(const QWidget& widget)
+{
+    return widget.isHidden() && !widget.sizePolicy().retainSizeWhenHidden();
+}
+
 } // namespace
 
 CloseWish::CloseWish(QWidget& window, std::function<void()> wished) : QObject(&window), m_wished(std::move(wished))
@@ -146,15 +151,20 @@ void Floating::place(QPoint place)
     m_control.move(place);
 }
 
-ShowsWith::ShowsWith(QWidget& part, QWidget& frame) : QObject(&part), m_part(part)
+ShowsWith::ShowsWith(QWidget& part, QWidget& frame) : QObject(&part), m_part(part), m_frame(frame)
 {
     frame.installEventFilter(this);
+    for (QWidget* const content : m_part.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        content->installEventFilter(this);
+    }
 }
 
 bool ShowsWith::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-        m_part.setVisible(event->type() == QEvent::ShowToParent);
+        const auto contents = m_part.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        const bool empty = std::ranges::all_of(contents, [](const QWidget* each) { return takesNoRoom(*each); });
+        m_part.setVisible(!m_frame.isHidden() && !empty);
     }
     return QObject::eventFilter(watched, event);
 }

@@ -80,7 +80,8 @@ private:
     QSize m_roomAtDrop;
 };
 
-/// A part of a frame that lies elsewhere: it shows while the frame does.
+/// A part of a frame that lies elsewhere: it shows while the frame does, unless there is nothing in it to show. An
+/// empty part would leave a gap.
 class ShowsWith final : public QObject {
     Q_OBJECT
 
@@ -92,6 +93,7 @@ public:
 
 private:
     QWidget& m_part;
+    const QWidget& m_frame;
 };
 
 /// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc

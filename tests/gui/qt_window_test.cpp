@@ -183,6 +183,23 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
     }
 }
 
+TEST(QtWindow, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
+{
+    ShownMain main;
+    using namespace control;
+    main.window->show({panel, sup, bat, Text11});
+    const QRect field = main.form.Text11->geometry();
+    for (const auto& [cancel, hidden] : {std::pair{main.form.Command7, Command8}, {main.form.Command8, Command7}}) {
+        main.window->show({Command3, Command7, Command8});
+        main.window->hide({hidden});
+        QCoreApplication::processEvents();
+        const QRect place({cancel->mapTo(main.form.panel, QPoint()), cancel->size()});
+        EXPECT_EQ(place.right(), field.right());
+        EXPECT_LT(place.left() - main.form.Command3->geometry().right(), 12);
+        EXPECT_EQ(main.form.Text11->geometry(), field);
+    }
+}
+
 TEST(QtWindow, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
 {
     ShownMain main;
