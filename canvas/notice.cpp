@@ -9,6 +9,12 @@ void notify(Form1& form, std::string_view text)
     form.window.setInterval(control::noticeTimer, duration);
 }
 
+void forgetNotice(Form1& form)
+{
+    form.notice.clear();
+    form.window.setInterval(control::noticeTimer, 0);
+}
+
 void tell(Form1& form, const RuntimeError& error)
 {
     form.dialogs.messageBox(error.what(), Box::okWarning, productName);

@@ -16,6 +16,9 @@ inline constexpr std::string_view countedOnly = "Counted but not drawn: no direc
 /// it. In a few words: a narrow window has room for about 40 letters.
 void notify(Form1& form, std::string_view text);
 
+/// Ends it. The status bar follows.
+void forgetNotice(Form1& form);
+
 /// Tells the user in a message box what went wrong.
 void tell(Form1& form, const RuntimeError& error);
 

@@ -40,6 +40,13 @@ constexpr NamedHandler frames[] = {
     {form4::window, {}, hideOutput}, {form6::window, {}, form6::finish},
 };
 
+/// Not the clock, nor a mouse that only moves, nor the end of a press.
+bool isCommand(Event::Kind kind)
+{
+    using enum Event::Kind;
+    return kind != tick && kind != mouseMove && kind != hover && kind != mouseUp;
+}
+
 } // namespace
 
 void Events::deliver(const Event& event)
@@ -59,6 +66,9 @@ void Events::deliver(const Event& event)
 
 void Events::handle(const Event& event)
 {
+    if (!m_form.notice.empty() && isCommand(event.kind)) {
+        forgetNotice(m_form); // it speaks of the command before
+    }
     try {
         dispatch(event);
     } catch (const RuntimeError& error) {

@@ -17,13 +17,6 @@ void askToSave(Form1& form)
     form.heading = form.dialogs.messageBox("Do you want to save changes?", Box::yesNoCancelWarning, productName);
 }
 
-/// Also while it is still a notice.
-void forgetSaveFault(Form1& form)
-{
-    form.saveFault.clear();
-    form.notice.clear();
-}
-
 std::string withoutFolder(std::string_view path)
 {
     return std::filesystem::path(path).filename().string();
@@ -40,7 +33,7 @@ void new_(Form1& form)
 {
     form.penMoved = 0;
     if (form.savedMark != 0) {
-        forgetSaveFault(form);
+        form.saveFault.clear();
         return Command4(form);
     }
     askToSave(form);
@@ -48,7 +41,7 @@ void new_(Form1& form)
     if (reply == answer::yes) {
         save(form); // if it fails, that is said: the drawing is lost
     } else if (reply == answer::no) {
-        forgetSaveFault(form);
+        form.saveFault.clear();
     }
     if (reply == answer::yes || reply == answer::no) {
         Command4(form);
@@ -94,7 +87,7 @@ void save(Form1& form)
     }
     form.fileTitle = withoutFolder(*path);
     setTitle(form, form.fileTitle);
-    forgetSaveFault(form);
+    form.saveFault.clear();
 }
 
 void print(Form1& form)

@@ -1,5 +1,6 @@
 #include "shell/status_bar.h"
 
+#include "canvas/notice.h"
 #include "circuit/supply_panel.h"
 #include "shell/toolbox.h"
 
@@ -129,8 +130,7 @@ void showStatus(Form1& form)
 
 void endNotice(Form1& form)
 {
-    form.notice.clear();
-    form.window.setInterval(control::noticeTimer, 0);
+    forgetNotice(form);
     showNotice(form); // alone: without it, the canvas's description is no news
 }
 

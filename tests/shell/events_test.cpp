@@ -156,6 +156,25 @@ TEST(StatusBar, SaysForSomeSecondsWhyACommandDrewNothing)
     }
 }
 
+TEST(StatusBar, EndsANoticeWithTheNextCommand)
+{
+    for (const auto& next : std::initializer_list<std::function<void(Rig&)>>{
+             [](Rig& rig) { rig.click("linee"); }, [](Rig& rig) { rig.type('j'); },
+             [](Rig& rig) { rig.press(key::down); }, [](Rig& rig) { rig.mouseDown(button::left, 3000, 1500); }}) {
+        Rig rig;
+        rig.click("open");
+        rig.mouseMove(0, 1500, 1500);
+        rig.mouseUp(button::right, 1500, 1500);
+        rig.hover("Image1");
+        rig.tick(control::statusTimer);
+        EXPECT_TRUE(rig.window.visible(control::sbNotice));
+        next(rig);
+        rig.tick(control::statusTimer);
+        EXPECT_FALSE(rig.window.visible(control::sbNotice));
+        EXPECT_EQ(rig.window.intervals["noticeTimer"], 0);
+    }
+}
+
 TEST(Colors, CanvasColourWipesTheDrawingAndReachesToolboxAndPanelBlackOnlyThePanel)
 {
     Rig rig;
