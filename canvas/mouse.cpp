@@ -44,6 +44,7 @@ void choose(Form1& form, int CanvasState::*tool)
 
 void mouseDown(Form1& form, int button, Point place)
 {
+    form.pointer = place; // a menu that was open kept the moves to itself
     if (button == button::left) {
         form.x = place.x;
         form.y = place.y;
@@ -74,6 +75,7 @@ void mouseMove(Form1& form, int buttons, Point place)
 
 void mouseUp(Form1& form, int button, Point place)
 {
+    form.pointer = form.window.isOnCanvas(place) ? std::optional(place) : std::nullopt;
     form.savedMark = 0;
     form.mouseUpX = place.x;
     form.mouseUpY = place.y;

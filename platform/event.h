@@ -31,9 +31,11 @@ struct Event {
 
     Kind kind;
     std::string_view window = mainWindow.text();
-    std::string_view name{}; ///< what was clicked, hovered over (none: the mouse left the canvas) or ticked
-    int code = 0;            ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
-    Point place{};           ///< mouse: where on the canvas
+    /// What was clicked, ticked or hovered over. None: the mouse is not over the canvas; the canvas: it is there again
+    /// and has not moved.
+    std::string_view name{};
+    int code = 0;  ///< keyDown: a key; keyPress: a UTF-16 unit of what was typed; mouse: button or buttons
+    Point place{}; ///< mouse, hover over the canvas: where on it
 };
 
 } // namespace schemlet

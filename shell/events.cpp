@@ -88,7 +88,7 @@ void Events::dispatch(const Event& event)
     case Event::Kind::mouseMove: return mouseMove(m_form, event.code, event.place);
     case Event::Kind::mouseUp: return mouseUp(m_form, event.code, event.place);
     case Event::Kind::click: return runCommand(m_form, event.window, event.name);
-    case Event::Kind::hover: return hover(m_form, event.name);
+    case Event::Kind::hover: return hover(m_form, event.name, event.place);
     case Event::Kind::tick: return runRow(m_form, timers, event.window, event.name);
     case Event::Kind::close: return runRow(m_form, frames, event.window, {});
     }

@@ -61,8 +61,7 @@ std::string penText(const CanvasState& state)
 /// In the canvas's pixels, for whoever measures.
 std::string pointerText(const CanvasState& state)
 {
-    // Both want the room, and the notice is soon gone.
-    if (!state.pointer || !state.notice.empty()) {
+    if (!state.pointer) {
         return {};
     }
     const auto pixel = [](double twips) {

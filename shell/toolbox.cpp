@@ -42,9 +42,12 @@ void showTools(Form1& form)
     }
 }
 
-void hover(Form1& form, std::string_view name)
+void hover(Form1& form, std::string_view name, Point place)
 {
     form.pointer.reset();
+    if (name == control::Canvas.text()) {
+        form.pointer = place;
+    }
     if (name.empty()) {
         return;
     }

@@ -15,8 +15,9 @@ void addTools(Form1& form);
 /// show them.
 void showTools(Form1& form);
 
-/// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself; no name: away from the canvas.
-void hover(Form1& form, std::string_view name);
+/// The mouse moved over a toolbar button, a toolbox picture, or the toolbox itself, away from the canvas (no name), or
+/// what lay over the canvas has gone.
+void hover(Form1& form, std::string_view name, Point place);
 
 void lll(Form1& form);     ///< View > ToolBar
 void toolbox(Form1& form); ///< View > ToolBox

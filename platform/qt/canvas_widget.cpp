@@ -3,6 +3,7 @@
 #include "platform/qt/held_buttons.h"
 #include "platform/qt/keys.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -83,6 +84,8 @@ void CanvasWidget::resizeEvent(QResizeEvent* /*event*/)
 void CanvasWidget::focusInEvent(QFocusEvent* event)
 {
     showFocus(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+    // A menu or a box is gone, and with it perhaps what lay over the mouse. It is gone from the screen a moment later.
+    QMetaObject::invokeMethod(this, &CanvasWidget::reportPointer, Qt::QueuedConnection);
 }
 
 void CanvasWidget::focusOutEvent(QFocusEvent* /*event*/)
@@ -126,9 +129,18 @@ void CanvasWidget::leaveEvent(QEvent* /*event*/)
     report({.kind = Event::Kind::hover});
 }
 
-void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position) const
+void CanvasWidget::reportPointer() const
+{
+    const QPoint place = QCursor::pos();
+    if (QApplication::widgetAt(place) == this) {
+        reportMouse(Event::Kind::hover, 0, mapFromGlobal(place), "Canvas");
+    }
+}
+
+void CanvasWidget::reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name) const
 {
     report({.kind = kind,
+            .name = name,
             .code = code,
             .place = {static_cast<float>(position.x() * twipsPerPixel),
                       static_cast<float>(position.y() * twipsPerPixel)}});

@@ -37,7 +37,8 @@ private:
     void drawInk(const QRegion& region);
     void drawFocus();
     void showFocus(bool shown);
-    void reportMouse(Event::Kind kind, int code, QPointF position) const;
+    void reportPointer() const;
+    void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
     CanvasSurface m_surface;
     HeldButtons* m_buttons; ///< reports their releases

@@ -61,6 +61,17 @@ TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
     EXPECT_EQ(main.noted(), "mouseDown 1\n");
     box.close();
     EXPECT_EQ(main.noted(), "mouseUp 1\n");
+
+    const QPoint before = QCursor::pos();
+    QCursor::setPos(main.form.Canvas->mapToGlobal(QPoint(100, 200)));
+    QFocusEvent keyboardIsBack(QEvent::FocusIn, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(main.form.Canvas, &keyboardIsBack);
+    main.events.clear();
+    QCoreApplication::processEvents();
+    QCursor::setPos(before);
+    ASSERT_FALSE(main.events.empty());
+    EXPECT_EQ(main.events.back().place.y, 3000);
+    EXPECT_EQ(main.noted(), "hover Canvas0\n");
 }
 
 TEST(QtWindow, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
