@@ -13,14 +13,10 @@ void applyFormProperties(QWidget& control)
         control.ensurePolished();
         control.setFixedSize(control.sizeHint());
     }
-    // The same where a text may ask for more, or where the window may be too narrow.
+    // The same where a text may ask for more.
     if (control.property("atLeastItsText").toBool()) {
         control.ensurePolished();
         control.setMinimumSize(control.sizeHint());
-    }
-    if (control.property("atMostItsText").toBool()) {
-        control.ensurePolished();
-        control.setMaximumSize(control.sizeHint());
     }
     // It lies on the canvas, which gets the mouse all the same.
     if (control.property("mouseGoesThrough").toBool()) {

@@ -5,6 +5,7 @@
 #include "platform/qt/form_events.h"
 #include "platform/qt/form_properties.h"
 #include "platform/qt/panel_keys.h"
+#include "platform/qt/panel_room.h"
 #include "platform/qt/printing.h"
 #include "platform/qt/text.h"
 
@@ -89,6 +90,8 @@ void QtWindow::connectControl(std::string_view name, QObject& control)
         new ShowsWith(dynamic_cast<QWidget&>(control), find<QWidget>(frame.toString().toStdString()));
     } else if (control.property("isPanel").toBool()) {
         new PanelKeys(dynamic_cast<QWidget&>(control), [this, name] { reportClick(name); });
+    } else if (control.property("isStatusBar").toBool()) {
+        new PanelRoom(dynamic_cast<QWidget&>(control));
     }
 }
 
