@@ -58,7 +58,7 @@ TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
     program.waitForText("1700, 1500");
     program.moveMouse(300, 250); // it does not follow yet
     program.waitForText("Press F1 for Help");
-    EXPECT_TRUE(program.canvas().copy(rest) == before);
+    waitUntil("the canvas as it was", [&] { return program.canvas().copy(rest) == before; });
 
     program.clickOn("label", "Click once and drag");
     program.moveMouse(300, 300);
