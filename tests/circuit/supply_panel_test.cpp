@@ -57,10 +57,10 @@ TEST(SupplyPanel, ShowsWhatEachStepNeedsAndGivesTheKeyboardToTheValue)
 TEST(SupplyPanel, CancelDrawsAndSumsNothingAndKeepsTheText)
 {
     struct Family {
-        char letter;
+        char letter{};
         Name option, cancel;
-        const char* other;
-        const char* pen; ///< after the other kind alone
+        const char* other{};
+        const char* pen{}; ///< after the other kind alone
     };
     for (const auto& [letter, option, cancel, other, pen] :
          {Family{'s', control::Option2, control::Command8, "+5", "1720 1500"},

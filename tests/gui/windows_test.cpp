@@ -254,15 +254,15 @@ TEST(Windows, StatusBarCutsNoTextButDropsWhatMattersLeast)
             {control::sbTool, "Rectangle"}};
         main.view.resize(1280, 600);
         main.view.resize(c.width, 600);
-        for (const auto& [panel, text] : texts) {
-            main.window->setText(panel, text);
-            main.window->setVisible(panel, *text != 0);
+        for (const auto& [part, text] : texts) {
+            main.window->setText(part, text);
+            main.window->setVisible(part, *text != 0);
         }
         QCoreApplication::processEvents();
         EXPECT_EQ(main.view.width(), c.width);
         int shown = 0;
-        for (const auto& [panel, text] : texts) {
-            const auto& label = *main.view.findChild<QLabel*>(toQString(panel));
+        for (const auto& [part, text] : texts) {
+            const auto& label = *main.view.findChild<QLabel*>(toQString(part));
             const int width = label.isVisible() ? label.width() : 0;
             shown += width > 0 ? 1 : 0;
             EXPECT_TRUE(width == 0 || width >= label.sizeHint().width()) << text;
