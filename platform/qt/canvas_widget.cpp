@@ -85,7 +85,8 @@ void CanvasWidget::focusInEvent(QFocusEvent* event)
 {
     showFocus(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
     // A menu or a box is gone, and with it perhaps what lay over the mouse. It is gone from the screen a moment later.
-    QMetaObject::invokeMethod(this, "reportPointer", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { reportPointer(); }, Qt::QueuedConnection);
 }
 
 void CanvasWidget::focusOutEvent(QFocusEvent* /*event*/)

@@ -37,7 +37,7 @@ private:
     void drawInk(const QRegion& region);
     void drawFocus();
     void showFocus(bool shown);
-    Q_INVOKABLE void reportPointer() const;
+    void reportPointer() const;
     void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
     CanvasSurface m_surface;

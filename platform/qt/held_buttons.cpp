@@ -26,8 +26,8 @@ bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
         // is the end of the box.
         if (event->type() == QEvent::WindowUnblocked) {
             release(QCursor::pos());
-        } else if (const auto* const pointing = dynamic_cast<const QSinglePointEvent*>(event)) {
-            release(pointing->globalPosition());
+        } else if (event->isSinglePointEvent()) {
+            release(dynamic_cast<const QSinglePointEvent&>(*event).globalPosition());
         }
     }
     return QObject::eventFilter(watched, event);

@@ -10,19 +10,12 @@
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
-#include <QAction>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
-#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace schemlet {
 
