@@ -1,11 +1,8 @@
 #pragma once
 
-#include "platform/dialogs.h"
-#include "platform/pictures.h"
-#include "platform/runtime_error.h"
+#include "platform/surface.h"
 
 #include <array>
-#include <functional>
 #include <random>
 #include <string>
 
@@ -51,71 +48,10 @@ public:
         }
     }
 
-    std::string path() { return oneIn(4) ? "" : of(std::array{"", "/", "/no/such/", "a."}) + text(); }
+    std::string path() { return oneIn(4) ? "" : of(std::array{"", "/", "/broken/", "a."}) + text(); }
 
 private:
     std::mt19937_64 m_random;
-};
-
-/// Answers with whatever the boxes let through.
-class RandomDialogs final : public Dialogs {
-public:
-    explicit RandomDialogs(Chance& chance) : m_chance(chance) {}
-
-    std::function<void()> meanwhile; ///< while a box is open, the clocks go on
-
-    int messageBox(std::string_view /*prompt*/, Box style, std::string_view /*title*/) override
-    {
-        meanwhile();
-        switch (style) {
-        case Box::yesNoQuestion:
-        case Box::walkQuestion: return m_chance.of(std::array{answer::yes, answer::no});
-        case Box::yesNoCancelWarning: return m_chance.of(std::array{answer::yes, answer::no, answer::cancel});
-        default: return answer::no;
-        }
-    }
-    std::optional<std::string> inputBox(std::string_view /*prompt*/, std::string_view /*title*/,
-                                        std::string_view preset) override
-    {
-        meanwhile();
-        return m_chance.oneIn(2) ? m_chance.text() : std::string(preset);
-    }
-    std::optional<Color> pickColor(std::string_view /*title*/, Color /*first*/) override
-    {
-        return m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
-    }
-    std::optional<std::string> openFile() override { return pathOrNone(); }
-    std::optional<std::string> saveFile(std::string_view /*name*/, std::string_view /*extension*/,
-                                        std::string_view /*filter*/) override
-    {
-        return pathOrNone();
-    }
-
-private:
-    std::optional<std::string> pathOrNone()
-    {
-        return m_chance.oneIn(3) ? std::nullopt : std::optional<std::string>(m_chance.path());
-    }
-
-    Chance& m_chance;
-};
-
-/// Fails half of the time.
-class RandomPictures final : public Pictures {
-public:
-    explicit RandomPictures(Chance& chance) : m_chance(chance) {}
-    void loadBackground(std::string_view /*path*/) override { fail(Fault::invalidPicture); }
-    void saveImage(std::string_view /*path*/) override { fail(Fault::pictureNotSaved); }
-
-private:
-    void fail(Fault fault)
-    {
-        if (m_chance.oneIn(2)) {
-            throw RuntimeError(fault, "");
-        }
-    }
-
-    Chance& m_chance;
 };
 
 } // namespace schemlet

@@ -3,9 +3,8 @@
 
 #include "circuit/output_window.h"
 #include "shell/confirmations.h"
-#include "shell/events.h"
 #include "tests/drive/chance.h"
-#include "tests/support/stand_ins.h"
+#include "tests/support/rig.h"
 
 #include <cmath>
 #include <iostream>
@@ -26,32 +25,29 @@ void demand(bool holds, const char* what)
     }
 }
 
-class Drive {
+class Drive : Rig {
 public:
-    explicit Drive(std::uint64_t seed) : m_chance(seed)
+    explicit Drive(std::uint64_t seed) : Rig(Start::atSplash), m_chance(seed)
     {
-        m_surface.recording = false;
-        m_dialogs.meanwhile = [this] {
+        ink.kept = changes.kept = false;
+        dialogs.replyTo = [this](Asked asked) {
             if (const Event event = tick(); !event.name.empty()) {
-                m_events.deliver(event);
+                events.deliver(event); // while the box is open
             }
+            return reply(asked);
         };
-        m_output.addToolButton(form4::control::print, "", Look::plain);
-        form6::load(m_splash);
+        output.addToolButton(form4::control::print, "", Look::plain);
     }
 
     void step()
     {
-        prepare();
-        const bool splash = m_splash.timesUnloaded == 0;
-        m_event = splash ? splashEvent() : event();
-        const Pen before = m_form;
-        m_events.deliver(m_event);
-        if (splash && m_splash.timesUnloaded != 0) {
-            for (Actor& actor : m_actors) {
-                actor.names = actor.window.names();
-            }
-        } else if (!splash) {
+        surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
+        window.hasPrinter = output.hasPrinter = m_chance.oneIn(2);
+        const bool atSplash = !splash.intervals.empty();
+        m_event = atSplash ? splashEvent() : event();
+        const Pen before = form;
+        events.deliver(m_event);
+        if (!atSplash) {
             checkPen(before);
             checkSwitches();
             checkNumbers();
@@ -61,22 +57,20 @@ public:
     [[nodiscard]] const Event& lastEvent() const { return m_event; }
 
 private:
-    struct Actor {
-        std::string_view name;
-        StandInWindow& window;
-        std::vector<std::string_view> names; ///< of everything in it
-    };
-
     /// What moved the pen: the event's kind, name and code and the heading before.
     using Cause = std::tuple<Event::Kind, std::string_view, int, int>;
 
-    /// Sets what the event may meet. Of the windows' past nothing is kept.
-    void prepare()
+    std::string reply(Asked asked)
     {
-        m_surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
-        m_window.printFault = m_output.printFault =
-            m_chance.oneIn(2) ? std::optional(Fault::printerError) : std::nullopt;
-        m_help.heights.erase(m_help.heights.begin(), m_help.heights.end() - (m_help.heights.empty() ? 0 : 1));
+        if (m_chance.oneIn(3)) {
+            return "cancel";
+        }
+        switch (asked) {
+        case Asked::box: return m_chance.of(std::array{"yes", "no"});
+        case Asked::text: return m_chance.text();
+        case Asked::color: return written(m_chance.color());
+        default: return m_chance.path();
+        }
     }
 
     Event splashEvent()
@@ -87,7 +81,7 @@ private:
     Event event()
     {
         switch (m_chance.below(100)) {
-        case 0: return {.kind = Event::Kind::close, .window = m_chance.of(m_actors).name};
+        case 0: return {.kind = Event::Kind::close, .window = m_chance.of(m_windows).first};
         case 1: return {.kind = Event::Kind::click, .name = control::Command3.text()};
         case 2: return {.kind = Event::Kind::click, .name = control::panel.text()};
         default: break;
@@ -98,7 +92,7 @@ private:
         case 2: return {.kind = Event::Kind::keyDown, .code = key::left + m_chance.below(4)};
         case 3: return typed();
         case 4: return tick();
-        case 5: return {.kind = Event::Kind::hover, .name = m_chance.of(m_actors.front().names)};
+        case 5: return {.kind = Event::Kind::hover, .name = m_chance.of(window.names())};
         case 6:
         case 7: return click();
         default: return mouse();
@@ -122,27 +116,27 @@ private:
     /// The toolkit changes a control before it tells of the click.
     Event click()
     {
-        const Actor& actor = m_chance.of(m_actors);
-        const std::string_view clicked = m_chance.of(actor.names);
-        actor.window.at(clicked).value = m_chance.below(2);
-        m_window.at(control::Text11).text = m_chance.text();
-        return {Event::Kind::click, actor.name, clicked};
+        const auto& [name, clicked] = m_chance.of(m_windows);
+        const std::string_view control = m_chance.of(clicked.names());
+        clicked.at(control).value = m_chance.below(2);
+        window.at("Text11").text = m_chance.text();
+        return {Event::Kind::click, name, control};
     }
 
     /// One of the clocks that run.
     Event tick()
     {
         std::vector<Event> running;
-        const auto add = [&](std::string_view name, const StandInWindow& window) {
-            for (const auto& [timer, interval] : window.intervals) {
+        const auto add = [&running](std::string_view name, const StandInWindow& ticking) {
+            for (const auto& [timer, interval] : ticking.intervals) {
                 if (interval != 0) {
                     running.push_back({Event::Kind::tick, name, timer});
                 }
             }
         };
-        add(form6::window.text(), m_splash);
-        for (const Actor& actor : m_actors) {
-            add(actor.name, actor.window);
+        add(form6::window.text(), splash);
+        for (const auto& [name, each] : m_windows) {
+            add(name, each);
         }
         return running.empty() ? Event{.kind = Event::Kind::tick} : m_chance.of(running);
     }
@@ -151,17 +145,17 @@ private:
     /// the same command and heading, or stays.
     void checkPen(const Pen& before)
     {
-        demand(std::isfinite(m_form.x) && std::isfinite(m_form.y), "the pen is nowhere");
+        demand(std::isfinite(form.x) && std::isfinite(form.y), "the pen is nowhere");
         if (m_event.kind == Event::Kind::mouseDown && m_event.code == button::left) {
-            return demand(m_form.x == m_event.place.x && m_form.y == m_event.place.y, "the pen is not at the mouse");
+            return demand(form.x == m_event.place.x && form.y == m_event.place.y, "the pen is not at the mouse");
         }
-        const double dx = m_form.x - before.x;
-        const double dy = m_form.y - before.y;
+        const double dx = form.x - before.x;
+        const double dy = form.y - before.y;
         if (dx == 0 && dy == 0) {
             return;
         }
         if (m_event.name == "new" || m_event.name == "New") {
-            return demand(m_form.x == 1600 && m_form.y == 1500, "New leaves the pen elsewhere");
+            return demand(form.x == 1600 && form.y == 1500, "New leaves the pen elsewhere");
         }
         demand(m_event.kind == Event::Kind::keyDown || m_event.kind == Event::Kind::keyPress ||
                    m_event.kind == Event::Kind::click,
@@ -182,53 +176,43 @@ private:
     void checkSwitches()
     {
         for (std::size_t i = 0; i < confirmCount; ++i) {
-            demand(m_form.confirm[i] == 0 || m_form.confirm[i] == 1, "a question is neither on nor off");
-            demand(m_window.checked(confirmItems[i]) == (m_form.confirm[i] == 1), "a question's mark is wrong");
+            demand(form.confirm[i] == 0 || form.confirm[i] == 1, "a question is neither on nor off");
+            demand(window.checked(confirmItems[i]) == (form.confirm[i] == 1), "a question's mark is wrong");
         }
-        for (const int value : {m_form.lineTool, m_form.rectTool, m_form.pencilTool, m_form.eraseMode,
-                                m_form.autoJumper, m_form.toolboxFollow, m_form.penMoved}) {
+        for (const int value : {form.lineTool, form.rectTool, form.pencilTool, form.eraseMode, form.autoJumper,
+                                form.toolboxFollow, form.penMoved}) {
             demand(value == 0 || value == 1, "a switch is neither on nor off");
         }
-        demand(m_form.lineTool + m_form.rectTool + m_form.pencilTool <= 1, "more than one tool is on");
-        demand(m_surface.drawWidth() == (m_form.eraseMode == 1 ? 10 : 2), "the pen has the wrong width");
-        demand(m_window.visible(control::Label27) == (m_form.eraseMode == 1), "the erase label is wrong");
-        demand(m_window.visible(control::panel) == (m_window.visible(control::sup) || m_window.visible(control::bat)),
+        demand(form.lineTool + form.rectTool + form.pencilTool <= 1, "more than one tool is on");
+        demand(surface.drawWidth() == (form.eraseMode == 1 ? 10 : 2), "the pen has the wrong width");
+        demand(window.visible(control::Label27) == (form.eraseMode == 1), "the erase label is wrong");
+        demand(window.visible(control::panel) == (window.visible(control::sup) || window.visible(control::bat)),
                "the panel does not follow its families");
-        demand((m_form.statusDue == 1) == (m_window.intervals.at(std::string(control::statusTimer.text())) != 0),
-               "the status bar waits for no clock");
+        demand((form.statusDue == 1) == (window.intervals.at("statusTimer") != 0), "the status bar waits for no clock");
     }
 
     void checkNumbers() const
     {
-        demand((m_form.heading >= 1 && m_form.heading <= 4) || m_form.heading == 6 || m_form.heading == 7,
-               "no such heading");
-        demand(m_form.savedMark == 0 || m_form.savedMark == 100, "neither saved nor changed");
-        demand(m_form.blinkCount >= 0 && m_form.blinkCount < 10000 && m_form.blinkCount % 25 == 0, "the blink is lost");
-        const int help = m_help.height();
-        demand(help == 0 || (help >= form2::collapsedHeight && help <= form2::openHeight),
+        demand((form.heading >= 1 && form.heading <= 4) || form.heading == 6 || form.heading == 7, "no such heading");
+        demand(form.savedMark == 0 || form.savedMark == 100, "neither saved nor changed");
+        demand(form.blinkCount >= 0 && form.blinkCount < 10000 && form.blinkCount % 25 == 0, "the blink is lost");
+        const int height = help.height();
+        demand(height == 0 || (height >= form2::collapsedHeight && height <= form2::openHeight),
                "the help window has a wrong height");
         for (const double number :
-             {m_form.resist, m_form.induc, m_form.capac, m_form.supplyValue, m_form.supplyVoltage, m_form.supplyCurrent,
-              m_form.batteryPositive, m_form.batteryNegative, m_form.resonanceDenominator, m_form.resonanceFrequency,
-              m_form.qualityFactor, m_form.frequencyCopy, m_form.angularFrequency, m_form.frequencyCapac,
-              m_form.capacitiveReactance}) {
+             {form.resist, form.induc, form.capac, form.supplyValue, form.supplyVoltage, form.supplyCurrent,
+              form.batteryPositive, form.batteryNegative, form.resonanceDenominator, form.resonanceFrequency,
+              form.qualityFactor, form.frequencyCopy, form.angularFrequency, form.frequencyCapac,
+              form.capacitiveReactance}) {
             demand(std::isfinite(number), "a sum or a result is no number");
         }
     }
 
     Chance m_chance;
-    RecordingSurface m_surface;
-    StandInWindow m_window{formControls};
-    RandomDialogs m_dialogs{m_chance};
-    RandomPictures m_pictures{m_chance};
-    StandInWindow m_help{helpControls};
-    StandInWindow m_about{aboutControls};
-    StandInWindow m_output{form4::control::captions, form4::control::values};
-    StandInWindow m_splash{splashControls};
-    Form1 m_form{m_surface, m_window, m_dialogs, m_pictures, m_help, m_about, m_output, m_splash};
-    Events m_events{m_form};
-    std::array<Actor, 4> m_actors{Actor{mainWindow.text(), m_window, {}}, Actor{form2::window.text(), m_help, {}},
-                                  Actor{form3::window.text(), m_about, {}}, Actor{form4::window.text(), m_output, {}}};
+    const std::array<std::pair<std::string_view, StandInWindow&>, 4> m_windows{{{mainWindow.text(), window},
+                                                                                {form2::window.text(), help},
+                                                                                {form3::window.text(), about},
+                                                                                {form4::window.text(), output}}};
     Event m_event{};
     std::map<Cause, std::set<std::pair<long, long>>> m_advances;
 };

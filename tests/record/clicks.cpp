@@ -35,59 +35,19 @@ void addMenus(Record& record)
     record.push_back({"Colors in this record", colors + "100 what was in hand before\n"});
 }
 
-std::string hint(std::string_view name)
-{
-    Rig rig;
-    rig.window.setText(control::sb, "");
-    rig.hover(name);
-    return rig.window.at(control::sb).text;
-}
-
-/// Whatever the window shows otherwise than before.
-std::string changes(StandInWindow& before, StandInWindow& after)
-{
-    std::string text;
-    for (const std::string_view name : before.names()) {
-        const auto& was = before.at(name);
-        const auto& is = after.at(name);
-        const std::string label = ", " + std::string(name);
-        text += was.visible == is.visible ? "" : label + (is.visible ? " shown" : " hidden");
-        text += was.enabled == is.enabled ? "" : label + (is.enabled ? " enabled" : " disabled");
-        text += was.checked == is.checked ? "" : label + (is.checked ? " checked" : " unchecked");
-        text += was.text == is.text ? "" : label + " |" + is.text + "|";
-    }
-    return text;
-}
-
-std::string clicked(std::string_view name)
-{
-    NotingRig untouched(heading::right, answer::no);
-    NotingRig rig(heading::right, answer::no);
-    for (NotingRig* const each : {&untouched, &rig}) {
-        each->form.penMoved = 1; // Open does something only then
-        each->dialogs.fileToOpen = each->dialogs.fileToSave = "";
-        each->dialogs.picked = 200;
-    }
-    const std::string outcome = rig.after([&](Rig& user) { user.click(name); });
-    untouched.tick(control::statusTimer);
-    rig.tick(control::statusTimer);
-    const Cursor& cursor = rig.window.cursor;
-    return outcome + "cursor " + std::string(cursor.picture) + " " + std::to_string(cursor.hotX) + " " +
-           std::to_string(cursor.hotY) + changes(untouched.window, rig.window) +
-           (rig.form.wireColor == 200 ? ", wires 200" : "") + (rig.form.canvasBackColor == 200 ? ", canvas 200" : "") +
-           (rig.help.timesShown > 0 ? ", help" : "") + (rig.about.timesShown > 0 ? ", about" : "") +
-           (rig.output.timesShown > 0 ? ", output" : "") + "\n";
-}
-
 void addClicks(Record& record)
 {
-    const std::string nothingElse = clicked("");
-    const Rig rig;
-    for (const std::string_view name : rig.window.names()) {
-        const std::string hinted = hint(name);
-        std::string body = hinted.empty() ? "" : "hint |" + hinted + "|\n";
-        body += clicked(name);
-        if (body != nothingElse) {
+    const Rig program;
+    for (const std::string_view name : program.window.names()) {
+        std::string body;
+        for (const std::string verb : {"hover ", "click "}) {
+            NotingRig rig(heading::right, "no");
+            rig.form.penMoved = 1; // Open does something only then
+            const std::string event = verb + std::string(name);
+            const std::string facts = played(rig, event + "; tick statusTimer");
+            body += facts.empty() ? "" : "> " + event + "\n" + facts;
+        }
+        if (!body.empty()) {
             record.push_back({"Click on " + std::string(name), body});
         }
     }

@@ -31,27 +31,30 @@ template <typename Body> void addByHeading(Record& record, const std::string& ti
     record.insert(record.end(), sections.begin(), sections.end());
 }
 
+bool isAsked(const std::string& outcome)
+{
+    return outcome.starts_with("asks ");
+}
+
 /// The switches that keep an item from asking.
-std::string silencers(Name asking)
+std::string silencers(const Item& asking)
 {
     std::string names;
     for (const Item& silencer : itemsOf({"askc"})) {
         NotingRig rig(heading::right);
-        rig.click(silencer.name);
-        rig.click(asking);
-        names += rig.dialogs.lastTitle.empty() ? " " + silencer.title + "," : "";
+        rig.run(silencer.click());
+        names += isAsked(rig.after(asking.click())) ? "" : " " + silencer.title + ",";
     }
     return names;
 }
 
 /// Twice in a row: the second time nothing is asked that can be switched off.
-std::string placedTwice(Name item, int heading)
+std::string placedTwice(const std::string& script, int heading)
 {
-    const auto place = [&](Rig& rig) { rig.click(item); };
     NotingRig rig(heading);
-    const std::string first = rig.after(place);
+    const std::string first = rig.after(script);
     rig.form.confirm.fill(0);
-    return first + rig.after(place);
+    return first + rig.after(script);
 }
 
 void addComponents(Record& record)
@@ -59,31 +62,22 @@ void addComponents(Record& record)
     std::vector<Item> items = itemsOf({"electricalcomponents", "electroniccomponets"});
     items.insert(items.begin(), {{"ground", "Ground"}, {"jumper", "Jumper"}});
     for (const Item& item : items) {
-        NotingRig refused(heading::right, answer::no);
-        const std::string outcome = refused.after([&](Rig& rig) { rig.click(item.name); });
-        if (refused.window.visible(control::panel)) {
+        NotingRig refusing(heading::right, "no");
+        const std::string refused = refusing.after(item.click());
+        if (refusing.window.visible(control::panel)) {
             continue; // its kinds are below
         }
-        addByHeading(record, item.title, [&](int heading) { return placedTwice(item.name, heading); });
-        if (!refused.dialogs.lastTitle.empty()) {
+        addByHeading(record, item.title, [&](int heading) { return placedTwice(item.click(), heading); });
+        if (isAsked(refused)) {
             record.push_back(
-                {item.title + ", refused", outcome + "switched off by" + silencers(item.name) + " nothing else\n"});
+                {item.title + ", refused", refused + "switched off by" + silencers(item) + " nothing else\n"});
         }
     }
-}
-
-void addSources(Record& record)
-{
-    for (const auto& source : {std::pair{"Current supply", "A 4.70x"},
-                               {"Voltage supply", "V 4.70x"},
-                               {"Positive battery", "+ 4.70x"},
-                               {"Negative battery", "- 4.70x"}}) {
-        addByHeading(record, source.first, [&](int heading) {
-            const auto place = [&](Rig& rig) { rig.enter(source.second); };
-            NotingRig rig(heading);
-            const std::string first = rig.after(place);
-            return first + rig.after(place);
-        });
+    for (const auto& source : {std::pair{"Current supply", "source A 4.70x"},
+                               {"Voltage supply", "source V 4.70x"},
+                               {"Positive battery", "source + 4.70x"},
+                               {"Negative battery", "source - 4.70x"}}) {
+        addByHeading(record, source.first, [&](int heading) { return placedTwice(source.second, heading); });
     }
 }
 
@@ -91,25 +85,24 @@ struct Ahead {
     const char* title = "";
     int autoJumper = 0;
     std::optional<Color> color; ///< none: the canvas ends
-    int reply = answer::no;
+    const char* reply = "no";
     int eraseMode = 0;
 };
 
 void addArrowKeys(Record& record)
 {
     const Color wire = NotingRig(heading::right).form.wireColor;
-    for (const Ahead& ahead : {Ahead{"a wire ahead", 0, wire}, Ahead{"a wire ahead, jumper", 1, wire, answer::yes},
+    for (const Ahead& ahead : {Ahead{"a wire ahead", 0, wire}, Ahead{"a wire ahead, jumper", 1, wire, "yes"},
                                Ahead{"a wire ahead, no jumper", 1, wire}, Ahead{"other ink ahead", 1, wire + 1},
-                               Ahead{"the edge ahead", 1, {}}, Ahead{"erase mode", 1, wire, answer::yes, 1}}) {
-        for (const auto& arrow :
-             {std::pair{"Right", key::right}, {"Left", key::left}, {"Up", key::up}, {"Down", key::down}}) {
+                               Ahead{"the edge ahead", 1, {}}, Ahead{"erase mode", 1, wire, "yes", 1}}) {
+        for (const auto& arrow : {std::pair{"Right", "right"}, {"Left", "left"}, {"Up", "up"}, {"Down", "down"}}) {
             NotingRig rig(heading::right, ahead.reply);
             rig.form.autoJumper = ahead.autoJumper;
             rig.form.eraseMode = ahead.eraseMode;
             rig.surface.underPoint = ahead.color;
             std::string body;
             for (int i = 0; i < 2; ++i) {
-                body += rig.after([&](Rig& pressed) { pressed.press(arrow.second); });
+                body += rig.after(arrow.second);
                 body += "heading " + wayOf(rig.form.heading) + ", looked at " + rig.surface.probedAt + "\n";
             }
             record.push_back({std::string(arrow.first) + " arrow, " + ahead.title, body});
@@ -117,32 +110,30 @@ void addArrowKeys(Record& record)
     }
 }
 
-std::string dragged(const std::vector<Name>& tools, int held)
+std::string dragged(const char* tools, const std::string& held)
 {
     NotingRig rig(heading::right);
-    for (const Name tool : tools) {
-        rig.click(tool);
+    rig.run(tools);
+    rig.changes.take();
+    std::string body;
+    for (const std::string& motion : {"press " + held + " 1000 1010", "move " + held + " 2000 1500",
+                                      "move " + held + " 2050.5 1500", "release " + held + " 3000 2000"}) {
+        body += rig.after(motion);
     }
-    std::string body = rig.after([&](Rig& user) { user.mouseDown(held, 1000, 1010); });
-    for (const float x : {2000.0F, 2050.5F}) {
-        body += rig.after([&](Rig& user) { user.mouseMove(held, x, 1500); });
-    }
-    body += rig.after([&](Rig& user) { user.mouseUp(held, 3000, 2000); });
-    const auto& outline = rig.window.at(control::Shape1);
-    return body + "menu |" + rig.window.poppedUp + "|, eraser " +
-           (outline.visible ? shortest(outline.left) + " " + shortest(outline.top) : "hidden") + ", up at " +
-           shortest(rig.form.mouseUpX) + " " + shortest(rig.form.mouseUpY) + "\n";
+    return body + rig.changes.take() + "up at " + placed(rig.form.mouseUpX, rig.form.mouseUpY) + "\n";
 }
 
 void addMouse(Record& record)
 {
-    const std::pair<const char*, std::vector<Name>> hands[] = {
-        {"no tool", {}},         {"line", {"linee"}},    {"rectangle", {"rectan"}},
-        {"pencil", {"pencil1"}}, {"eraser", {"eraser"}}, {"pencil and eraser", {"pencil1", "eraser"}}};
-    for (const auto& [title, tools] : hands) {
-        for (const auto& [held, buttons] :
-             {std::pair{button::left, "left button"}, {button::right, "right"}, {button::middle, "middle"}}) {
-            record.push_back({std::string("Mouse, ") + title + ", " + buttons, dragged(tools, held)});
+    for (const auto& [hand, tools] : {std::pair{"no tool", "hover"},
+                                      {"line", "click linee"},
+                                      {"rectangle", "click rectan"},
+                                      {"pencil", "click pencil1"},
+                                      {"eraser", "click eraser"},
+                                      {"pencil and eraser", "click pencil1; click eraser"}}) {
+        for (const auto& [held, button] :
+             {std::pair{"left", "left button"}, {"right", "right"}, {"middle", "middle"}}) {
+            record.push_back({std::string("Mouse, ") + hand + ", " + button, dragged(tools, held)});
         }
     }
 }
@@ -152,9 +143,8 @@ void addMouse(Record& record)
 std::string drawnBy(void (*picture)(Surface&))
 {
     Rig rig;
-    rig.surface.notesColors = true;
     picture(rig.surface);
-    return rig.drawn();
+    return rig.ink.take();
 }
 
 void addPictures(Record& record)
@@ -166,7 +156,7 @@ void addPictures(Record& record)
         }
     }
     const Rig start(Rig::Start::atSplash);
-    record.push_back({"Product picture", drawnBy(start.splash.at(form6::control::Picture1).picture)});
+    record.push_back({"Product picture", drawnBy(start.splash.at("Picture1").picture)});
 }
 
 } // namespace
@@ -174,7 +164,6 @@ void addPictures(Record& record)
 void recordDrawing(Record& record)
 {
     addComponents(record);
-    addSources(record);
     addArrowKeys(record);
     addMouse(record);
     addPictures(record);

@@ -44,7 +44,7 @@ std::string shownFiner(const Shape& shape, double penWidth, double scale)
     Paper finer{static_cast<int>(19 * scale), static_cast<int>(15 * scale) + 1, scale};
     ink::line(canvas.image(), {2, 5}, {9, 0}, {9, 15});
     ink::enlarge(canvas.image(), finer.image(), {0, 0, 18, 15});
-    std::string text = "with " + shortest(scale) + " times the pixels\n";
+    std::string text = "with " + written(scale) + " times the pixels\n";
     for (const auto& [pixel, aside] : {std::pair{1U, 0.0}, {3U, 0.2}}) {
         for (Paper* const paper : {&canvas, &finer}) {
             draw(*paper, {pixel, penWidth}, shape, aside);
@@ -63,7 +63,7 @@ void recordInk(Record& record)
         for (const double width : {2.0, 10.0}) {
             Paper paper{18, 15};
             const ink::Area area = draw(paper, {1, width}, shape);
-            record.push_back({std::string("Ink, ") + shape.title + ", " + shortest(width) + " pixels wide",
+            record.push_back({std::string("Ink, ") + shape.title + ", " + written(width) + " pixels wide",
                               "changes " + std::to_string(area.left) + " " + std::to_string(area.top) + " to " +
                                   std::to_string(area.right) + " " + std::to_string(area.bottom) + "\n" + paper.text() +
                                   shownFiner(shape, width, 1.5) + shownFiner(shape, width, 2.25)});

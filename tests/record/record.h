@@ -13,8 +13,9 @@ struct Section {
 using Record = std::vector<Section>;
 
 // Each adds its sections.
-void recordDrawing(Record& record); ///< each call that reaches the canvas, and what it leaves there
-void recordClicks(Record& record);  ///< menus, hints and what follows a click
-void recordInk(Record& record);     ///< the pixels of strokes
+void recordDrawing(Record& record);   ///< each call that reaches the canvas, and what it leaves there
+void recordClicks(Record& record);    ///< menus, hints and what follows a click
+void recordInk(Record& record);       ///< the pixels of strokes
+void recordScenarios(Record& record); ///< what the program decides, event by event
 
 } // namespace schemlet

@@ -1,62 +1,59 @@
 #include "tests/support/stand_ins.h"
 
-#include "shell/main_window.h"
-
-#include <charconv>
-#include <utility>
+#include <algorithm>
 
 namespace schemlet {
 
-namespace {
-
-template <typename Number> std::string written(Number number)
+void Notes::change(const std::string& thing, const std::string& before, const std::string& now)
 {
-    std::array<char, 32> text{};
-    return {text.begin(), std::to_chars(text.begin(), text.end(), number).ptr};
+    const auto known = thing.empty() ? m_notes.end() : std::ranges::find(m_notes, thing, &Note::thing);
+    if (known != m_notes.end()) {
+        known->now = now;
+    } else if (kept) {
+        m_notes.push_back({thing, before, now});
+    }
 }
 
-std::string place(double x, double y)
+std::vector<std::string> Notes::takeLines()
 {
-    return written(x) + " " + written(y);
+    std::vector<std::string> lines;
+    for (const auto& [thing, before, now] : std::exchange(m_notes, {})) {
+        if (before != now) {
+            lines.push_back(now);
+        }
+    }
+    return lines;
 }
 
-} // namespace
-
-std::string shortest(float number)
+std::string Notes::take()
 {
-    return written(number);
-}
-
-std::string shortest(double number)
-{
-    return written(number);
+    std::string text;
+    for (const std::string& line : takeLines()) {
+        text += line + "\n";
+    }
+    return text;
 }
 
 void RecordingSurface::note(const char* what, std::initializer_list<float> numbers, std::string_view text)
 {
-    if (!recording) {
+    if (!m_notes.kept) {
         return;
     }
-    if (notesColors && m_notedColor != foreColor) {
-        m_notedColor = foreColor;
-        ink.push_back("color " + std::to_string(foreColor));
+    if (notedColor != foreColor) {
+        notedColor = foreColor;
+        m_notes.add("color " + std::to_string(foreColor));
     }
     std::string call = what;
     for (const float number : numbers) {
-        call += " " + shortest(number);
+        call += " " + written(number);
     }
-    ink.push_back(call + std::string(text));
+    m_notes.add(call + std::string(text));
 }
 
 void RecordingSurface::stroke(const char* what, Point from, Point to)
 {
     note(what, {from.x, from.y, to.x, to.y});
     m_current = to;
-}
-
-void RecordingSurface::arc(Point centre, float radius, float start, float end)
-{
-    note("arc", {centre.x, centre.y, radius, start, end});
 }
 
 void RecordingSurface::print(std::string_view text, bool endLine)
@@ -68,75 +65,78 @@ void RecordingSurface::print(std::string_view text, bool endLine)
 
 std::optional<Color> RecordingSurface::point(Point probed) const
 {
-    probedAt = recording ? place(probed.x, probed.y) : "";
+    probedAt = m_notes.kept ? placed(probed.x, probed.y) : "";
     return underPoint;
 }
 
-ScriptedDialogs::Reply ScriptedDialogs::expected(std::string_view title)
+std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)
 {
-    if (m_expected.empty()) {
-        ADD_FAILURE() << "unexpected question: " << title;
-        return {};
-    }
-    const Expected next = m_expected.front();
-    m_expected.pop_front();
-    EXPECT_EQ(title, next.title);
-    return next.reply;
-}
-
-ScriptedDialogs::Reply ScriptedDialogs::next(std::string_view prompt, std::string_view title)
-{
-    lastPrompt = prompt;
-    lastTitle = title;
-    Reply reply = always ? *always : expected(title);
+    m_notes.add(question);
     if (const auto happens = std::exchange(meanwhile, {})) {
         happens();
     }
-    return reply;
+    std::string text = "cancel";
+    if (replyTo) {
+        text = replyTo(asked);
+    } else if (replies.empty()) {
+        ADD_FAILURE() << "no reply: " << question;
+    } else {
+        text = replies.front();
+        replies.pop_front();
+    }
+    return text == "cancel" ? std::nullopt : std::optional(text);
 }
 
 int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_view title)
 {
-    lastStyle = style;
-    return next(prompt, title).answer;
+    constexpr std::array styles{" OK", " warning, OK", " question, Yes No", " question of the walk, Yes No",
+                                " warning, Yes No Cancel"};
+    const std::string question =
+        "asks " + written(title) + std::string(prompt) + "|" + styles.at(static_cast<std::size_t>(style));
+    if (style == Box::okOnly || style == Box::okWarning) {
+        m_notes.add(question);
+        return answer::no;
+    }
+    const std::string pressed = reply(Asked::box, question).value_or("cancel");
+    return pressed == "yes"                                          ? answer::yes
+           : pressed == "cancel" && style == Box::yesNoCancelWarning ? answer::cancel
+                                                                     : answer::no;
 }
 
 std::optional<std::string> ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title,
                                                      std::string_view preset)
 {
     EXPECT_EQ(preset, "10");
-    const Reply reply = next(prompt, title);
-    return reply.text.empty() ? std::nullopt : std::optional(reply.text);
+    return reply(Asked::text, "asks " + written(title) + std::string(prompt) + "| OK");
 }
 
-std::optional<std::string> ScriptedDialogs::choice(std::optional<std::string>& file)
+std::optional<Color> ScriptedDialogs::pickColor(std::string_view title, Color first)
 {
-    EXPECT_TRUE(file) << "unexpected file dialog";
-    const std::string path = std::exchange(file, {}).value_or("");
-    return path.empty() ? std::nullopt : std::optional(path);
+    const auto picked = reply(Asked::color, "asks " + written(title) + " a color, first " + written(first));
+    return picked ? std::optional(static_cast<Color>(std::stoul(*picked))) : std::nullopt;
 }
 
 std::optional<std::string> ScriptedDialogs::saveFile(std::string_view name, std::string_view extension,
                                                      std::string_view filter)
 {
-    lastName = name;
-    lastFilter = std::string(extension) + ", " + std::string(filter);
-    return choice(fileToSave);
+    return reply(Asked::file,
+                 "asks for a file to save " + written(name) + std::string(extension) + "|" + std::string(filter));
 }
 
-void StandInPictures::note(const char* what, std::string_view path)
+void StandInPictures::note(const char* what, std::string_view path, Fault fault)
 {
-    notes += what + std::string(path) + "\n";
-    if (const auto thrown = std::exchange(fault, {})) {
-        throw RuntimeError(*thrown, "Invalid picture");
+    m_notes.add(what + std::string(path));
+    if (path.starts_with("/broken/")) {
+        throw RuntimeError(fault, "the folder is broken");
     }
 }
 
-StandInWindow::StandInWindow(std::span<const Name> names, std::span<const Name> more)
+StandInWindow::StandInWindow(Notes& notes, Name window, std::span<const Name> names, std::span<const Name> more)
+    : m_notes(notes), m_prefix(window == mainWindow ? "" : std::string(window.text()) + " ")
 {
     for (const auto& some : {names, more}) {
         for (const Name name : some) {
-            m_controls.emplace(name.text(), Control{});
+            m_controls[name.text()];
         }
     }
 }
@@ -150,91 +150,67 @@ std::vector<std::string_view> StandInWindow::names() const
     return all;
 }
 
+void StandInWindow::setSwitch(Name name, bool Control::*aspect, bool on, const char* off, const char* onWord)
+{
+    if (std::exchange(at(name.text()).*aspect, on) != on && m_notes.kept) {
+        const std::string what = m_prefix + std::string(name.text()) + " ";
+        m_notes.change(what + off, what + (on ? off : onWord), what + (on ? onWord : off));
+    }
+}
+
+void StandInWindow::drawPicture(Name name, void (*draw)(Surface&))
+{
+    at(name.text()).picture = draw;
+    note(std::string(name.text()) + " drawn");
+}
+
 void StandInWindow::unload()
 {
-    ++timesUnloaded;
+    note("window unloaded");
     intervals.clear();
+}
+
+void StandInWindow::setHeight(int twips)
+{
+    m_height = twips;
+    note("height " + std::to_string(twips));
 }
 
 void StandInWindow::printForm()
 {
-    ++timesPrinted;
-    if (printFault) {
-        throw RuntimeError(*printFault, "Printer error");
+    note("window printed");
+    if (!hasPrinter) {
+        throw RuntimeError(Fault::printerError, "Printer error");
     }
-}
-
-void StandInWindow::popUp(Name menu, Point where)
-{
-    poppedUp = std::string(menu.text()) + " " + place(where.x, where.y);
 }
 
 void StandInWindow::addMenuItem(int depth, const MenuItem& row)
 {
     menuRows.emplace_back(depth, row);
-    m_controls[std::string(row.name.text())].checked = row.look == Look::checked;
+    m_controls[row.name.text()].checked = row.look == Look::checked;
 }
 
-Rig::Rig(Start start)
+void StandInWindow::setCursor(const Cursor& pointer)
 {
-    if (start == Start::atSplash) {
-        form6::load(splash);
-    } else {
-        openMainWindow(form);
-    }
+    const std::string next = "cursor " + std::string(pointer.picture) + " " + placed(pointer.hotX, pointer.hotY);
+    m_notes.change("cursor", std::exchange(m_cursor, next), next);
 }
 
-void Rig::choose(Name option)
+void StandInWindow::popUp(Name menu, Point where)
 {
-    window.at(option).value = 1;
-    click(option);
+    note("menu " + std::string(menu.text()) + " " + placed(where.x, where.y));
 }
 
-void Rig::confirm(std::string_view text)
+void StandInWindow::placeAwayFrom(Name name, Point where, Name other)
 {
-    window.at(control::Text11).text = text;
-    click(control::Command3);
+    set(name, &Control::awayFrom, placed(where.x, where.y) + " and " + std::string(other.text()), "away from ");
 }
 
-void Rig::enter(const std::string& component)
+void StandInWindow::setInterval(Name timer, int milliseconds)
 {
-    static const std::map<char, const char*> boxes{
-        {'R', " RESISTANCE "}, {'I', " INDUCTANCE "}, {'C', " CAPACITANCE "}};
-    static const std::map<char, Name> sources{
-        {'A', control::Option2}, {'V', control::Option3}, {'+', control::Option4}, {'-', control::Option5}};
-    const char kind = component.front();
-    if (const auto box = boxes.find(kind); box != boxes.end()) {
-        dialogs.expectInput(box->second, component.substr(1));
-        return type(kind);
-    }
-    type(kind == 'A' || kind == 'V' ? 'S' : 'b');
-    choose(sources.at(kind));
-    confirm(component.substr(1));
-}
-
-std::string Rig::drawn()
-{
-    std::string lines;
-    for (const std::string& line : std::exchange(surface.ink, {})) {
-        lines += line + "\n";
-    }
-    return lines;
-}
-
-std::string Rig::pen() const
-{
-    return place(form.x, form.y);
-}
-
-std::string Rig::marker()
-{
-    const auto& picture = window.at(control::Picture1);
-    return place(picture.left, picture.top);
-}
-
-std::string Rig::outcome()
-{
-    return drawn() + "pen " + pen() + ", marker " + marker();
+    const std::string what = m_prefix + std::string(timer.text()) + " every ";
+    const int before = std::exchange(intervals[timer.text()], milliseconds);
+    m_notes.change(what, what + written(before) + " ms", what + written(milliseconds) + " ms");
 }
 
 } // namespace schemlet

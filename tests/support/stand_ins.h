@@ -2,14 +2,13 @@
 
 #include "canvas/form1.h"
 #include "circuit/output_window.h"
-#include "platform/event.h"
 #include "platform/runtime_error.h"
 #include "shell/about.h"
-#include "shell/events.h"
 #include "shell/help.h"
 #include "shell/splash.h"
 
 #include <array>
+#include <charconv>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
@@ -18,16 +17,53 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace schemlet {
 
-/// Notes one text line for each call that draws, such as "line 1600 1500 1600 1750".
+/// A text in bars, or the shortest text that no other number has.
+template <typename Value> std::string written(const Value& value)
+{
+    if constexpr (std::is_arithmetic_v<Value>) {
+        std::array<char, 32> text{};
+        return {text.begin(), std::to_chars(text.begin(), text.end(), value).ptr};
+    } else {
+        return "|" + std::string(value) + "|";
+    }
+}
+
+/// A place, such as "1600 1500".
+inline std::string placed(double x, double y)
+{
+    return written(x) + " " + written(y);
+}
+
+/// What the program did, one text line each, such as "line 1600 1500 1600 1750" or "Label27 shown".
+class Notes {
+public:
+    bool kept = true; ///< off for long walks
+
+    void add(const std::string& line) { change("", "", line); }
+    /// A fact that replaces another about the same thing. One that comes back to what it was is no change.
+    void change(const std::string& thing, const std::string& before, const std::string& now);
+    /// Those since the last call.
+    std::vector<std::string> takeLines();
+    std::string take();
+
+private:
+    struct Note {
+        std::string thing, before, now;
+    };
+    std::vector<Note> m_notes;
+};
+
 class RecordingSurface final : public Surface {
 public:
-    std::vector<std::string> ink;
-    bool recording = true;           ///< off for long walks: then nothing is kept
-    bool notesColors = false;        ///< before the first thing that is drawn in a colour, a line for that
+    explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
+
+    std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
     std::optional<Color> underPoint; ///< what point() finds, anywhere
     mutable std::string probedAt;    ///< where point() looked last
     Color foreColor = black;
@@ -35,7 +71,10 @@ public:
     void line(Point from, Point to) override { stroke("line", from, to); }
     void box(Point from, Point to) override { stroke("box", from, to); }
     void circle(Point centre, float radius) override { note("circle", {centre.x, centre.y, radius}); }
-    void arc(Point centre, float radius, float start, float end) override;
+    void arc(Point centre, float radius, float start, float end) override
+    {
+        note("arc", {centre.x, centre.y, radius, start, end});
+    }
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override { note("clear", {}); }
@@ -50,73 +89,48 @@ private:
     void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
     void stroke(const char* what, Point from, Point to);
 
+    Notes& m_notes;
     int m_drawWidth = 2;
     Point m_current;
-    std::optional<Color> m_notedColor;
 };
 
-/// Gives queued answers; an unexpected question or one left over fails the test.
+enum class Asked { box, text, color, file };
+
+/// Notes what it is asked. A question without a reply fails the test.
 class ScriptedDialogs final : public Dialogs {
 public:
-    ~ScriptedDialogs() override { EXPECT_TRUE(m_expected.empty()) << "not asked: " << m_expected.front().title; }
+    explicit ScriptedDialogs(Notes& notes) : m_notes(notes) {}
 
-    /// The next question must have this title, and is answered so.
-    void expect(const char* title, int answer) { m_expected.push_back({title, {answer, {}}}); }
-    /// Before all others an input box must have this title; "" is Cancel.
-    void expectInput(const char* title, const std::string& text) { m_expected.push_front({title, {answer::no, text}}); }
+    std::deque<std::string> replies;           ///< to the next questions; a box that has only OK takes none
+    std::function<std::string(Asked)> replyTo; ///< if set, it replies to all; "cancel" is Cancel, or else No
+    std::function<void()> meanwhile;           ///< happens while the next box is open
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
                                         std::string_view preset) override;
-    std::optional<Color> pickColor(std::string_view title, Color first) override
-    {
-        lastTitle = title;
-        firstColor = first;
-        return picked;
-    }
-    std::optional<std::string> openFile() override { return choice(fileToOpen); }
+    std::optional<Color> pickColor(std::string_view title, Color first) override;
+    std::optional<std::string> openFile() override { return reply(Asked::file, "asks for a file to open"); }
     std::optional<std::string> saveFile(std::string_view name, std::string_view extension,
                                         std::string_view filter) override;
 
-    struct Reply {
-        int answer = answer::no;
-        std::string text;
-    };
-    std::optional<Reply> always;           ///< to every question, whatever its title
-    std::function<void()> meanwhile;       ///< happens while the next box is open
-    std::optional<Color> picked = black;   ///< what the colour dialog says
-    Color firstColor = black;              ///< what it was opened with
-    std::optional<std::string> fileToOpen; ///< what the file dialogs say; "" is Cancel, none fails the test
-    std::optional<std::string> fileToSave;
-    std::string lastFilter;
-    std::string lastName;  ///< proposed to save by
-    std::string lastTitle; ///< of any box
-    std::string lastPrompt;
-    Box lastStyle = Box::okOnly;
-
 private:
-    struct Expected {
-        std::string title;
-        Reply reply;
-    };
-    Reply next(std::string_view prompt, std::string_view title);
-    Reply expected(std::string_view title);
-    static std::optional<std::string> choice(std::optional<std::string>& file);
+    std::optional<std::string> reply(Asked asked, const std::string& question);
 
-    std::deque<Expected> m_expected;
+    Notes& m_notes;
 };
 
-/// Notes what is asked of it.
+/// Cannot read or write anything in the folder /broken/.
 class StandInPictures final : public Pictures {
 public:
-    std::string notes;
-    std::optional<Fault> fault; ///< thrown by the next call
+    explicit StandInPictures(Notes& notes) : m_notes(notes) {}
 
-    void loadBackground(std::string_view path) override { note("load ", path); }
-    void saveImage(std::string_view path) override { note("save ", path); }
+    void loadBackground(std::string_view path) override { note("loads ", path, Fault::invalidPicture); }
+    void saveImage(std::string_view path) override { note("saves ", path, Fault::pictureNotSaved); }
 
 private:
-    void note(const char* what, std::string_view path);
+    void note(const char* what, std::string_view path, Fault fault);
+
+    Notes& m_notes;
 };
 
 inline void PrintTo(Name name, std::ostream* out)
@@ -124,68 +138,18 @@ inline void PrintTo(Name name, std::ostream* out)
     *out << name.text();
 }
 
-/// A name of the program's, or one that a test makes up.
-struct AnyName {
-    AnyName(Name name) : text(name.text()) {}
-    AnyName(std::string_view name) : text(name) {}
-    AnyName(const char* name) : text(name) {}
-
-    std::string_view text;
-};
-
-/// Every named control of the main window's form; a test of the form itself finds each of them there.
-inline constexpr Name formControls[] = {control::Canvas,
-                                        control::Picture1,
-                                        control::Shape1,
-                                        control::Label27,
-                                        control::sb,
-                                        control::sbPen,
-                                        control::sbHeading,
-                                        control::sbTool,
-                                        control::sbErase,
-                                        control::sbJumpers,
-                                        control::sbNotice,
-                                        control::sbPointer,
-                                        control::sbOffCanvas,
-                                        control::panel,
-                                        control::sup,
-                                        control::bat,
-                                        control::Label11,
-                                        control::Label12,
-                                        control::Label13,
-                                        control::Label28,
-                                        control::Option1,
-                                        control::Option2,
-                                        control::Option3,
-                                        control::Option4,
-                                        control::Option5,
-                                        control::Text11,
-                                        control::Command3,
-                                        control::Command7,
-                                        control::Command8,
-                                        control::Toolbar1,
-                                        control::Frame2,
-                                        control::Label1,
-                                        control::statusBar,
-                                        "Image1",
-                                        "Image2",
-                                        "Image3",
-                                        "Image4",
-                                        "Image5",
-                                        "Image15",
-                                        "Image16",
-                                        "Image17",
-                                        "Image18",
-                                        "Image19",
-                                        "Image20",
-                                        "Image7"};
-
-// The same of the other windows' forms.
+// Every named control of a form; a test of the forms themselves finds each of them there.
+inline constexpr Name formControls[] = {
+    "Canvas",    "Picture1", "Shape1",    "Label27",     "sb",        "sbPen",    "sbHeading", "sbTool",  "sbErase",
+    "sbJumpers", "sbNotice", "sbPointer", "sbOffCanvas", "statusBar", "Toolbar1", "panel",     "sup",     "bat",
+    "Label11",   "Label12",  "Label13",   "Label28",     "Option1",   "Option2",  "Option3",   "Option4", "Option5",
+    "Text11",    "Command3", "Command7",  "Command8",    "Frame2",    "Label1",   "Image1",    "Image2",  "Image3",
+    "Image4",    "Image5",   "Image15",   "Image16",     "Image17",   "Image18",  "Image19",   "Image20", "Image7"};
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
 inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::control::Command1, form3::control::Command2};
 inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
 
-/// Keeps what was set last.
+/// Notes what changes. A name that the program's windows do not have fails the test.
 class StandInWindow final : public MainWindow {
 public:
     struct Control {
@@ -199,132 +163,79 @@ public:
         void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
-        Point awayFrom; ///< the place that it keeps away from
+        std::string awayFrom; ///< the place that it keeps away from
     };
 
-    explicit StandInWindow(std::span<const Name> names, std::span<const Name> more = {});
+    StandInWindow(Notes& notes, Name window, std::span<const Name> names, std::span<const Name> more = {});
 
-    std::string caption;
-    Name focused; ///< the control that was given the keyboard last
-    Cursor cursor{};
-    int timesEnded = 0;
-    int timesShown = 0;
-    int timesShownWithoutKeyboard = 0;
-    int timesHidden = 0;
-    int timesUnloaded = 0;
-    std::vector<int> heights; ///< in the order in which they were set
-    int timesPrinted = 0;
-    std::optional<Fault> printFault;                ///< thrown by every printForm()
-    std::string poppedUp;                           ///< the menu and its place, such as "rc 1600 1500"
+    bool hasPrinter = true;
     Point canvas{9000, 6000};                       ///< its size
     std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
-    std::map<std::string, int, std::less<>> intervals;
+    std::map<std::string_view, int> intervals;
 
-    // A name that the program's windows do not have fails the test.
-    [[nodiscard]] Control& at(AnyName name) { return m_controls.at(std::string(name.text)); }
-    [[nodiscard]] const Control& at(AnyName name) const { return m_controls.at(std::string(name.text)); }
+    [[nodiscard]] Control& at(std::string_view name) { return m_controls.at(name); }
+    [[nodiscard]] const Control& at(std::string_view name) const { return m_controls.at(name); }
     /// Of all controls, menu items and toolbar buttons.
     [[nodiscard]] std::vector<std::string_view> names() const;
 
-    void setCaption(std::string_view title) override { caption = title; }
-    void showWindow() override { ++timesShown; }
-    void showWithoutKeyboard() override { ++timesShownWithoutKeyboard; }
-    void hideWindow() override { ++timesHidden; }
+    void setCaption(std::string_view title) override { note("caption " + written(title)); }
+    void showWindow() override { note("window shown"); }
+    void showWithoutKeyboard() override { note("window shown without the keyboard"); }
+    void hideWindow() override { note("window hidden"); }
     void unload() override;
-    void setHeight(int twips) override { heights.push_back(twips); }
-    [[nodiscard]] int height() const override { return heights.empty() ? 0 : heights.back(); }
+    void setHeight(int twips) override;
+    [[nodiscard]] int height() const override { return m_height; }
     void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
-    void endProgram() override { ++timesEnded; }
-    void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override
-    {
-        m_controls.emplace(key.text(), Control{});
-    }
-    void setSwatch(Name key, Color color) override { at(key).backColor = color; }
-    void setCursor(const Cursor& pointer) override { cursor = pointer; }
+    void endProgram() override { note("program ended"); }
+    void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override { m_controls[key.text()]; }
+    void setSwatch(Name key, Color color) override { setBackColor(key, color); }
+    void setCursor(const Cursor& pointer) override;
     void popUp(Name menu, Point where) override;
-    void setChecked(Name changed, bool checked) override { at(changed).checked = checked; }
-    [[nodiscard]] bool checked(Name asked) const override { return at(asked).checked; }
-    void setVisible(Name control, bool visible) override { at(control).visible = visible; }
-    [[nodiscard]] bool visible(Name control) const override { return at(control).visible; }
-    void setEnabled(Name control, bool enabled) override { at(control).enabled = enabled; }
-    [[nodiscard]] bool enabled(Name control) const override { return at(control).enabled; }
-    void focus(Name control) override
+    void setChecked(Name item, bool on) override { setSwitch(item, &Control::checked, on, "unchecked", "checked"); }
+    [[nodiscard]] bool checked(Name item) const override { return at(item.text()).checked; }
+    void setVisible(Name name, bool on) override { setSwitch(name, &Control::visible, on, "hidden", "shown"); }
+    [[nodiscard]] bool visible(Name name) const override { return at(name.text()).visible; }
+    void setEnabled(Name name, bool on) override { setSwitch(name, &Control::enabled, on, "disabled", "enabled"); }
+    [[nodiscard]] bool enabled(Name name) const override { return at(name.text()).enabled; }
+    void focus(Name name) override { note(std::string(name.text()) + " focused"); }
+    void setText(Name name, std::string_view text) override { set(name, &Control::text, std::string(text), ""); }
+    [[nodiscard]] std::string text(Name name) const override { return at(name.text()).text; }
+    void setDescription(Name name, std::string_view text) override
     {
-        (void)at(control);
-        focused = control;
+        set(name, &Control::description, std::string(text), "described ");
     }
-    void setText(Name control, std::string_view text) override { at(control).text = text; }
-    [[nodiscard]] std::string text(Name control) const override { return at(control).text; }
-    void setDescription(Name control, std::string_view text) override { at(control).description = text; }
-    void setValue(Name control, int value) override { at(control).value = value; }
-    [[nodiscard]] int value(Name control) const override { return at(control).value; }
-    void setBackColor(Name control, Color color) override { at(control).backColor = color; }
-    void drawPicture(Name control, void (*draw)(Surface&)) override { at(control).picture = draw; }
-    void setLeft(Name control, double twips) override { at(control).left = twips; }
-    void setTop(Name control, double twips) override { at(control).top = twips; }
-    void placeAwayFrom(Name control, Point place, Name /*other*/) override { at(control).awayFrom = place; }
+    void setValue(Name name, int value) override { set(name, &Control::value, value, "value "); }
+    [[nodiscard]] int value(Name name) const override { return at(name.text()).value; }
+    void setBackColor(Name name, Color color) override { set(name, &Control::backColor, color, "color "); }
+    void drawPicture(Name name, void (*draw)(Surface&)) override;
+    void setLeft(Name name, double twips) override { set(name, &Control::left, twips, "left "); }
+    void setTop(Name name, double twips) override { set(name, &Control::top, twips, "top "); }
+    void placeAwayFrom(Name name, Point place, Name other) override;
     [[nodiscard]] bool isOnCanvas(Point place) const override
     {
         return place.x >= 0 && place.y >= 0 && place.x < canvas.x && place.y < canvas.y;
     }
-    void setInterval(Name timer, int milliseconds) override { intervals[std::string(timer.text())] = milliseconds; }
+    void setInterval(Name timer, int milliseconds) override;
 
 private:
-    std::map<std::string, Control, std::less<>> m_controls;
-};
-
-/// The shortest text that no other number has.
-std::string shortest(float number);
-std::string shortest(double number);
-
-/// The program without a toolkit, and what a user and the clock do to it.
-struct Rig {
-    enum class Start { atSplash, behindIt };
-
-    RecordingSurface surface;
-    StandInWindow window{formControls};
-    ScriptedDialogs dialogs;
-    StandInPictures pictures;
-    StandInWindow help{helpControls};
-    StandInWindow about{aboutControls};
-    StandInWindow output{form4::control::captions, form4::control::values};
-    StandInWindow splash{splashControls};
-    Form1 form{surface, window, dialogs, pictures, help, about, output, splash};
-    Events events{form};
-
-    explicit Rig(Start start = Start::behindIt);
-
-    void press(int key) { events.deliver({.kind = Event::Kind::keyDown, .code = key}); }
-    void type(int character) { events.deliver({.kind = Event::Kind::keyPress, .code = character}); }
-    void click(AnyName name, Name of = mainWindow) { events.deliver({Event::Kind::click, of.text(), name.text}); }
-    void tick(Name timer, Name of = mainWindow) { events.deliver({Event::Kind::tick, of.text(), timer.text()}); }
-    void close(Name closed = mainWindow) { events.deliver({Event::Kind::close, closed.text()}); }
-    void hover(AnyName name) { events.deliver({.kind = Event::Kind::hover, .name = name.text}); }
-    void mouse(Event::Kind kind, int buttons, float x, float y)
+    void note(const std::string& what) { m_notes.add(m_prefix + what); }
+    void setSwitch(Name name, bool Control::*aspect, bool on, const char* off, const char* onWord);
+    template <typename Value>
+    void set(Name name, Value Control::*aspect, const std::type_identity_t<Value>& value, const char* words)
     {
-        events.deliver({.kind = kind, .code = buttons, .place = {x, y}});
+        const Value before = std::exchange(at(name.text()).*aspect, value);
+        if (m_notes.kept && before != value) {
+            const std::string what = m_prefix + std::string(name.text()) + " " + words;
+            m_notes.change(what, what + written(before), what + written(value));
+        }
     }
-    void mouseDown(int button, float x, float y) { mouse(Event::Kind::mouseDown, button, x, y); }
-    void mouseMove(int buttons, float x, float y) { mouse(Event::Kind::mouseMove, buttons, x, y); }
-    void mouseUp(int button, float x, float y) { mouse(Event::Kind::mouseUp, button, x, y); }
 
-    /// As the toolkit does it: the option is on before its click is reported.
-    void choose(Name option);
-    /// Types a text into the panel and ends it with Enter.
-    void confirm(std::string_view text);
-    /// Adds a component, such as "R4.7": its letter, R, I or C, or of a source V, A, + or -, and its value.
-    void enter(const std::string& component);
-
-    /// The ink since the last call, one line each.
-    std::string drawn();
-    [[nodiscard]] std::string pen() const; ///< such as "1600 1500"
-    [[nodiscard]] std::string marker();    ///< left and top, such as "1600 1200"
-    /// All of that, such as "line 0 0 9 9\npen 1600 1500, marker 1600 1200".
-    std::string outcome();
+    Notes& m_notes;
+    std::string m_prefix; ///< none for the main window
+    int m_height = 0;
+    std::string m_cursor;
+    std::map<std::string_view, Control> m_controls;
 };
-
-/// What a command leaves that does nothing right after start.
-inline constexpr const char* nothing = "pen 1600 1500, marker 1600 1200";
 
 } // namespace schemlet

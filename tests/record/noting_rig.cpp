@@ -1,0 +1,155 @@
+#include "tests/record/noting_rig.h"
+
+#include "shell/confirmations.h"
+
+#include <algorithm>
+
+namespace schemlet {
+
+namespace {
+
+using State = CanvasState;
+
+constexpr std::pair<const char*, int State::*> switches[] = {
+    {"heading", &State::heading},       {"penMoved", &State::penMoved},     {"savedMark", &State::savedMark},
+    {"eraseMode", &State::eraseMode},   {"lineTool", &State::lineTool},     {"rectTool", &State::rectTool},
+    {"pencilTool", &State::pencilTool}, {"autoJumper", &State::autoJumper}, {"toolboxFollow", &State::toolboxFollow},
+    {"diodeCount", &State::diodeCount}, {"blinkCount", &State::blinkCount}};
+constexpr std::pair<const char*, Color State::*> colors[] = {
+    {"wireColor", &State::wireColor},
+    {"pickedColor", &State::pickedColor},
+    {"probeColor", &State::probeColor},
+    {"paperColor", &State::paperColor},
+    {"canvasBackColor", &State::canvasBackColor},
+};
+constexpr std::pair<const char*, std::string State::*> texts[] = {
+    {"fileTitle", &State::fileTitle},     {"saveFault", &State::saveFault},     {"notice", &State::notice},
+    {"resistValue", &State::resistValue}, {"inductValue", &State::inductValue}, {"capacValue", &State::capacValue}};
+constexpr std::pair<const char*, double State::*> sums[] = {
+    {"resist", &State::resist},
+    {"induc", &State::induc},
+    {"capac", &State::capac},
+    {"supplyValue", &State::supplyValue},
+    {"supplyVoltage", &State::supplyVoltage},
+    {"supplyCurrent", &State::supplyCurrent},
+    {"batteryPositive", &State::batteryPositive},
+    {"batteryNegative", &State::batteryNegative},
+};
+constexpr std::pair<const char*, double State::*> results[] = {
+    {"resonanceDenominator", &State::resonanceDenominator},
+    {"resonanceFrequency", &State::resonanceFrequency},
+    {"qualityFactor", &State::qualityFactor},
+    {"frequencyCopy", &State::frequencyCopy},
+    {"angularFrequency", &State::angularFrequency},
+    {"frequencyCapac", &State::frequencyCapac},
+    {"capacitiveReactance", &State::capacitiveReactance},
+};
+
+/// The fields that are otherwise than before.
+std::string differences(const State& before, const State& now)
+{
+    std::string text;
+    const auto add = [&text](const std::string& name, const auto& was, const auto& is) {
+        text += was == is ? "" : name + " = " + written(is) + "\n";
+    };
+    const auto addAll = [&](const auto&... tables) {
+        const auto addTable = [&](const auto& table) {
+            for (const auto& [name, field] : table) {
+                add(name, before.*field, now.*field);
+            }
+        };
+        (addTable(tables), ...);
+    };
+    addAll(switches, colors, texts, sums, results);
+    for (std::size_t i = 0; i < confirmCount; ++i) {
+        add("confirm " + std::string(confirmItems[i].text()), before.confirm[i], now.confirm[i]);
+    }
+    return text;
+}
+
+std::string totals(const State& state)
+{
+    constexpr const char* names[] = {"resistance", "inductance", "1/capacitance",    "",
+                                     "voltage",    "current",    "positive battery", "negative battery"};
+    std::string text;
+    for (std::size_t i = 0; i < std::size(names); ++i) {
+        const double sum = state.*sums[i].second;
+        text += sum == 0 || *names[i] == '\0' ? "" : std::string(", ") + names[i] + " " + written(sum);
+    }
+    return text + (state.diodeCount == 0 ? "" : ", diodes " + std::to_string(state.diodeCount));
+}
+
+/// Where the next text goes, and how the next stroke looks.
+std::string nextInk(const RecordingSurface& surface)
+{
+    const int width = surface.drawWidth();
+    return "text " + placed(surface.current().x, surface.current().y) + ", color " + std::to_string(surface.foreColor) +
+           (width == 2 ? "" : ", width " + std::to_string(width));
+}
+
+std::string penAndInk(const Rig& rig)
+{
+    return "pen " + placed(rig.form.x, rig.form.y) + ", " + nextInk(rig.surface) + "\n";
+}
+
+/// Strokes only where they are few: the record has those of every component in sections of their own.
+std::string inShort(const std::vector<std::string>& ink)
+{
+    const auto isStroke = [](const std::string& line) {
+        constexpr std::array calls{"line ", "box ", "circle ", "arc "};
+        return std::ranges::any_of(calls, [&line](const char* call) { return line.starts_with(call); });
+    };
+    constexpr int few = 2;
+    const auto count = std::ranges::count_if(ink, isStroke);
+    std::string text = count > few ? std::to_string(count) + " strokes\n" : "";
+    for (const std::string& line : ink) {
+        text += count > few && isStroke(line) ? "" : line + "\n";
+    }
+    return text;
+}
+
+} // namespace
+
+NotingRig::NotingRig(int heading, const char* reply)
+{
+    for (Color color = colorInHand; const Item& item : itemsOf({"cc", "fc"})) {
+        dialogs.replyTo = [&color](Asked /*color*/) { return written(color); };
+        ++color;
+        run(item.click());
+    }
+    dialogs.replyTo = [reply = std::string(reply)](Asked asked) {
+        switch (asked) {
+        case Asked::box: return reply;
+        case Asked::text: return std::string(reply == "yes" ? "4.70" : "cancel");
+        case Asked::color: return std::string("200");
+        default: return std::string("cancel");
+        }
+    };
+    surface.setForeColor(colorInHand);
+    window.setLeft(control::Picture1, 77);
+    form.heading = heading;
+    run("tick statusTimer");
+    surface.notedColor.reset();
+    ink.take();
+    changes.take();
+}
+
+std::string NotingRig::after(std::string_view script)
+{
+    run(script);
+    const auto& marker = window.at("Picture1");
+    return ink.take() + "pen " + placed(form.x, form.y) + ", marker " + placed(marker.left, marker.top) + ", " +
+           nextInk(surface) + totals(form) + "\n";
+}
+
+std::string played(Rig& rig, std::string_view event)
+{
+    const CanvasState before = rig.form;
+    const std::string placeBefore = penAndInk(rig);
+    rig.run(event);
+    const std::string place = penAndInk(rig);
+    return inShort(rig.ink.takeLines()) + (place == placeBefore ? "" : place) + rig.changes.take() +
+           differences(before, rig.form);
+}
+
+} // namespace schemlet
