@@ -160,10 +160,8 @@ private:
         demand(m_event.kind == Event::Kind::keyDown || m_event.kind == Event::Kind::keyPress ||
                    m_event.kind == Event::Kind::click,
                "the pen moves by itself");
-        const std::pair advance{std::lround(dx), std::lround(dy)};
-        demand(std::abs(dx - static_cast<double>(advance.first)) < 1e-6 &&
-                   std::abs(dy - static_cast<double>(advance.second)) < 1e-6,
-               "the pen moves by parts of a twip");
+        const std::pair advance{std::round(dx), std::round(dy)};
+        demand(std::hypot(dx - advance.first, dy - advance.second) < 1e-6, "the pen moves by parts of a twip");
         const bool arrow = m_event.kind == Event::Kind::keyDown;
         auto& known = m_advances[{m_event.kind, m_event.name, m_event.code, arrow ? 0 : before.heading}];
         known.insert(advance);
@@ -214,7 +212,7 @@ private:
                                                                                 {form3::window.text(), about},
                                                                                 {form4::window.text(), output}}};
     Event m_event{};
-    std::map<Cause, std::set<std::pair<long, long>>> m_advances;
+    std::map<Cause, std::set<std::pair<double, double>>> m_advances;
 };
 
 } // namespace

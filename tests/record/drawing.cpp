@@ -31,11 +31,6 @@ template <typename Body> void addByHeading(Record& record, const std::string& ti
     record.insert(record.end(), sections.begin(), sections.end());
 }
 
-bool isAsked(const std::string& outcome)
-{
-    return outcome.starts_with("asks ");
-}
-
 /// The switches that keep an item from asking.
 std::string silencers(const Item& asking)
 {
@@ -43,7 +38,7 @@ std::string silencers(const Item& asking)
     for (const Item& silencer : itemsOf({"askc"})) {
         NotingRig rig(heading::right);
         rig.run(silencer.click());
-        names += isAsked(rig.after(asking.click())) ? "" : " " + silencer.title + ",";
+        names += rig.after(asking.click()).starts_with("asks ") ? "" : " " + silencer.title + ",";
     }
     return names;
 }
@@ -68,7 +63,7 @@ void addComponents(Record& record)
             continue; // its kinds are below
         }
         addByHeading(record, item.title, [&](int heading) { return placedTwice(item.click(), heading); });
-        if (isAsked(refused)) {
+        if (refused.starts_with("asks ")) {
             record.push_back(
                 {item.title + ", refused", refused + "switched off by" + silencers(item) + " nothing else\n"});
         }
@@ -138,25 +133,21 @@ void addMouse(Record& record)
     }
 }
 
-// The program's own pictures
-
-std::string drawnBy(void (*picture)(Surface&))
-{
-    Rig rig;
-    picture(rig.surface);
-    return rig.ink.take();
-}
-
+/// The program's own.
 void addPictures(Record& record)
 {
-    const Rig rig;
-    for (const std::string_view name : rig.window.names()) {
-        if (const auto picture = rig.window.at(name).picture) {
-            record.push_back({"Toolbox, " + std::string(name), drawnBy(picture)});
+    const Rig program;
+    const auto add = [&record](const std::string& title, void (*picture)(Surface&)) {
+        Rig rig;
+        picture(rig.surface);
+        record.push_back({title, rig.ink.take()});
+    };
+    for (const std::string_view name : program.window.names()) {
+        if (const auto picture = program.window.at(name).picture) {
+            add("Toolbox, " + std::string(name), picture);
         }
     }
-    const Rig start(Rig::Start::atSplash);
-    record.push_back({"Product picture", drawnBy(start.splash.at("Picture1").picture)});
+    add("Product picture", program.splash.at("Picture1").picture);
 }
 
 } // namespace

@@ -29,11 +29,11 @@ constexpr std::pair<const char*, double State::*> sums[] = {
     {"resist", &State::resist},
     {"induc", &State::induc},
     {"capac", &State::capac},
-    {"supplyValue", &State::supplyValue},
     {"supplyVoltage", &State::supplyVoltage},
     {"supplyCurrent", &State::supplyCurrent},
     {"batteryPositive", &State::batteryPositive},
     {"batteryNegative", &State::batteryNegative},
+    {"supplyValue", &State::supplyValue},
 };
 constexpr std::pair<const char*, double State::*> results[] = {
     {"resonanceDenominator", &State::resonanceDenominator},
@@ -45,36 +45,35 @@ constexpr std::pair<const char*, double State::*> results[] = {
     {"capacitiveReactance", &State::capacitiveReactance},
 };
 
+template <typename Fields> std::string changed(const Fields& fields, const State& before, const State& now)
+{
+    std::string text;
+    for (const auto& [name, field] : fields) {
+        text += before.*field == now.*field ? "" : std::string(name) + " = " + written(now.*field) + "\n";
+    }
+    return text;
+}
+
 /// The fields that are otherwise than before.
 std::string differences(const State& before, const State& now)
 {
-    std::string text;
-    const auto add = [&text](const std::string& name, const auto& was, const auto& is) {
-        text += was == is ? "" : name + " = " + written(is) + "\n";
-    };
-    const auto addAll = [&](const auto&... tables) {
-        const auto addTable = [&](const auto& table) {
-            for (const auto& [name, field] : table) {
-                add(name, before.*field, now.*field);
-            }
-        };
-        (addTable(tables), ...);
-    };
-    addAll(switches, colors, texts, sums, results);
+    std::string text = changed(switches, before, now) + changed(colors, before, now) + changed(texts, before, now) +
+                       changed(sums, before, now) + changed(results, before, now);
     for (std::size_t i = 0; i < confirmCount; ++i) {
-        add("confirm " + std::string(confirmItems[i].text()), before.confirm[i], now.confirm[i]);
+        const std::string name(confirmItems[i].text());
+        text += before.confirm[i] == now.confirm[i] ? "" : "confirm " + name + " = " + written(now.confirm[i]) + "\n";
     }
     return text;
 }
 
 std::string totals(const State& state)
 {
-    constexpr const char* names[] = {"resistance", "inductance", "1/capacitance",    "",
-                                     "voltage",    "current",    "positive battery", "negative battery"};
+    constexpr std::array names{"resistance", "inductance",       "1/capacitance",   "voltage",
+                               "current",    "positive battery", "negative battery"};
     std::string text;
-    for (std::size_t i = 0; i < std::size(names); ++i) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
         const double sum = state.*sums[i].second;
-        text += sum == 0 || *names[i] == '\0' ? "" : std::string(", ") + names[i] + " " + written(sum);
+        text += sum == 0 ? "" : std::string(", ") + names[i] + " " + written(sum);
     }
     return text + (state.diodeCount == 0 ? "" : ", diodes " + std::to_string(state.diodeCount));
 }
@@ -96,8 +95,8 @@ std::string penAndInk(const Rig& rig)
 std::string inShort(const std::vector<std::string>& ink)
 {
     const auto isStroke = [](const std::string& line) {
-        constexpr std::array calls{"line ", "box ", "circle ", "arc "};
-        return std::ranges::any_of(calls, [&line](const char* call) { return line.starts_with(call); });
+        const auto call = split(line, " ").front();
+        return call == "line" || call == "box" || call == "circle" || call == "arc";
     };
     constexpr int few = 2;
     const auto count = std::ranges::count_if(ink, isStroke);
@@ -117,14 +116,10 @@ NotingRig::NotingRig(int heading, const char* reply)
         ++color;
         run(item.click());
     }
-    dialogs.replyTo = [reply = std::string(reply)](Asked asked) {
-        switch (asked) {
-        case Asked::box: return reply;
-        case Asked::text: return std::string(reply == "yes" ? "4.70" : "cancel");
-        case Asked::color: return std::string("200");
-        default: return std::string("cancel");
-        }
-    };
+    const bool agrees = std::string_view(reply) == "yes";
+    const std::map<Asked, std::string> replies{
+        {Asked::box, reply}, {Asked::text, agrees ? "4.70" : "cancel"}, {Asked::color, "200"}, {Asked::file, "cancel"}};
+    dialogs.replyTo = [replies](Asked asked) { return replies.at(asked); };
     surface.setForeColor(colorInHand);
     window.setLeft(control::Picture1, 77);
     form.heading = heading;

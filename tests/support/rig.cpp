@@ -19,11 +19,8 @@ Event eventOf(std::span<const std::string_view> words)
     using enum Event::Kind;
     static const std::map<std::string_view, int> arrows{
         {"left", key::left}, {"up", key::up}, {"right", key::right}, {"down", key::down}};
-    static const std::map<std::string_view, int> buttons{{"none", 0},
-                                                         {"left", button::left},
-                                                         {"right", button::right},
-                                                         {"middle", button::middle},
-                                                         {"left+right", button::left + button::right}};
+    static const std::map<std::string_view, int> buttons{
+        {"none", 0}, {"left", button::left}, {"right", button::right}, {"middle", button::middle}, {"left+right", 3}};
     static const std::map<std::string_view, Event::Kind> kinds{
         {"key", keyDown}, {"char", keyPress}, {"press", mouseDown}, {"move", mouseMove}, {"release", mouseUp},
         {"click", click}, {"hover", hover},   {"tick", tick},       {"close", close}};
@@ -93,9 +90,7 @@ void Rig::happen(std::string_view line)
     auto words = split(line, " ");
     words.resize(4);
     const std::string_view verb = words[0];
-    if (verb == "ahead") {
-        surface.underPoint = static_cast<Color>(number(words[1]));
-    } else if (verb == "canvas") {
+    if (verb == "canvas") {
         window.canvas = {number(words[1]), number(words[2])};
     } else if (verb == "text") {
         window.at("Text11").text = line.substr(5);

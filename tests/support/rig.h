@@ -41,7 +41,6 @@ struct Rig {
     ///     choose Option3           is on before its click is reported, as the toolkit does it
     ///     text 12V                 typed into the panel
     ///     source V 12              a whole source: A or V for a supply, + or - for a battery, and its value
-    ///     ahead 255                the colour that the canvas has everywhere
     ///     canvas 9000 1450         the canvas's size
     void run(std::string_view script);
 

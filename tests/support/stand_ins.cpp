@@ -72,9 +72,6 @@ std::optional<Color> RecordingSurface::point(Point probed) const
 std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)
 {
     m_notes.add(question);
-    if (const auto happens = std::exchange(meanwhile, {})) {
-        happens();
-    }
     std::string text = "cancel";
     if (replyTo) {
         text = replyTo(asked);

@@ -103,7 +103,6 @@ public:
 
     std::deque<std::string> replies;           ///< to the next questions; a box that has only OK takes none
     std::function<std::string(Asked)> replyTo; ///< if set, it replies to all; "cancel" is Cancel, or else No
-    std::function<void()> meanwhile;           ///< happens while the next box is open
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
