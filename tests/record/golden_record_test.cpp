@@ -1,5 +1,5 @@
-// The text file beside this one says what the program draws; no other test repeats strokes. After a change that is
-// meant, `cmake --build --preset dev --target write_golden_record` writes it anew: its diff is the change.
+// The text file beside this one says what the program draws and decides; no other test repeats that. After a change
+// that is meant, `cmake --build --preset dev --target write_golden_record` writes it anew: its diff is the change.
 
 #include "tests/record/record.h"
 
@@ -39,7 +39,7 @@ Record read()
 
 } // namespace
 
-TEST(GoldenRecord, EverythingIsDrawnAsRecorded)
+TEST(GoldenRecord, EverythingHappensAsRecorded)
 {
     Record now;
     recordClicks(now);

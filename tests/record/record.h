@@ -5,7 +5,7 @@
 
 namespace schemlet {
 
-/// All that the program draws, as texts that are compared with golden_record.txt.
+/// What the program draws and decides, as texts that are compared with golden_record.txt.
 struct Section {
     std::string title, body;
 };

@@ -132,11 +132,6 @@ private:
     Notes& m_notes;
 };
 
-inline void PrintTo(Name name, std::ostream* out)
-{
-    *out << name.text();
-}
-
 // Every named control of a form; a test of the forms themselves finds each of them there.
 inline constexpr Name formControls[] = {
     "Canvas",    "Picture1", "Shape1",    "Label27",     "sb",        "sbPen",    "sbHeading", "sbTool",  "sbErase",
