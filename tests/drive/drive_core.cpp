@@ -44,7 +44,8 @@ public:
         surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
         window.hasPrinter = output.hasPrinter = m_chance.oneIn(2);
         const bool atSplash = !splash.intervals.empty();
-        m_event = atSplash ? splashEvent() : event();
+        const Event closing{.kind = Event::Kind::close, .window = form6::window.text()};
+        m_event = !atSplash ? event() : m_chance.oneIn(8) ? closing : tick();
         const Pen before = form;
         events.deliver(m_event);
         if (!atSplash) {
@@ -73,37 +74,26 @@ private:
         }
     }
 
-    Event splashEvent()
-    {
-        return m_chance.oneIn(8) ? Event{.kind = Event::Kind::close, .window = form6::window.text()} : tick();
-    }
-
     Event event()
     {
         switch (m_chance.below(100)) {
         case 0: return {.kind = Event::Kind::close, .window = m_chance.of(m_windows).first};
         case 1: return {.kind = Event::Kind::click, .name = control::Command3.text()};
         case 2: return {.kind = Event::Kind::click, .name = control::panel.text()};
+        case 3: return {.kind = Event::Kind::keyPress, .code = m_chance.below(0x110000)};
         default: break;
         }
         switch (m_chance.below(10)) {
         case 0: return {.kind = Event::Kind::keyDown, .code = m_chance.below(256)};
         case 1:
         case 2: return {.kind = Event::Kind::keyDown, .code = key::left + m_chance.below(4)};
-        case 3: return typed();
+        case 3: return {.kind = Event::Kind::keyPress, .code = m_chance.of(std::string_view("RICJSBEricjsbe"))};
         case 4: return tick();
         case 5: return {.kind = Event::Kind::hover, .name = m_chance.of(window.names())};
         case 6:
         case 7: return click();
         default: return mouse();
         }
-    }
-
-    Event typed()
-    {
-        const int any = m_chance.below(0x110000);
-        return {.kind = Event::Kind::keyPress,
-                .code = m_chance.oneIn(4) ? any : m_chance.of(std::string_view("RICJSBEricjsbe"))};
     }
 
     Event mouse()

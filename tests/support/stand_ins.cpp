@@ -90,7 +90,7 @@ int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_
                                 " warning, Yes No Cancel"};
     const std::string question =
         "asks " + written(title) + std::string(prompt) + "|" + styles.at(static_cast<std::size_t>(style));
-    if (style == Box::okOnly || style == Box::okWarning) {
+    if ((style == Box::okOnly || style == Box::okWarning) && !replyTo) {
         m_notes.add(question);
         return answer::no;
     }
