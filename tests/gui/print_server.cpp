@@ -8,23 +8,24 @@ namespace schemlet {
 
 namespace {
 
-// In all of these, @ stands for the folder.
-constexpr auto filesConf = R"(ServerRoot @/root
-ServerBin @/bin
-StateDir @/state
-CacheDir @/cache
+constexpr auto queue = "Desk_Printer";
+
+// In these, @ stands for the folder. Everybody who reaches the socket may do anything, but only the folder's owner can
+// enter it. What was printed is what the service keeps of each job.
+constexpr std::pair<const char*, const char*> files[] = {
+    {"cups-files.conf", R"(ServerRoot @
+StateDir @
+CacheDir @
 RequestRoot @/jobs
 TempDir @
 AccessLog stderr
 ErrorLog stderr
 PageLog stderr
-)";
-
-// Everybody who reaches the socket may do anything; it lies in a folder that only its owner can enter.
-constexpr auto serverConf = R"(Listen @/socket
+)"},
+    {"cupsd.conf", R"(Listen @/socket
 Browsing No
 MaxJobs 2
-WebInterface No
+PreserveJobFiles Yes
 <Location />
 Order deny,allow
 </Location>
@@ -33,93 +34,62 @@ Order deny,allow
 Order deny,allow
 </Limit>
 </Policy>
-)";
-
-constexpr auto printersConf = R"(<DefaultPrinter Desk_Printer>
-DeviceURI folder:@/printed
+)"},
+    {"printers.conf", R"(<DefaultPrinter Desk_Printer>
+DeviceURI file:///dev/null
 State Idle
 Accepting Yes
 </DefaultPrinter>
-)";
-
-// Without words it is asked which devices there are. The name changes last, so that nobody sees half a file.
-constexpr auto printer = R"(#!/bin/sh
-[ $# -ge 5 ] || exit 0
-file=${DEVICE_URI#folder:}/$1
-cat ${6:+"$6"} >"$file.part" && mv "$file.part" "$file.pdf"
-)";
-
-// A colour printer that prints PDF as it is.
-constexpr auto printerDescription = R"ppd(*PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*NickName: "Desk"
+)"},
+    // A colour printer that prints PDF as it is.
+    {"ppd/Desk_Printer.ppd", R"(*PPD-Adobe: "4.3"
 *ColorDevice: True
-*DefaultColorSpace: RGB
 *cupsFilter2: "application/pdf application/pdf 0 -"
 *OpenUI *PageSize: PickOne
 *DefaultPageSize: A4
 *PageSize A4/A4: ""
 *CloseUI: *PageSize
-*DefaultImageableArea: A4
 *ImageableArea A4/A4: "18 36 571 818"
-*DefaultPaperDimension: A4
 *PaperDimension A4/A4: "595 842"
 *DefaultResolution: 600dpi
-)ppd";
-
-bool isReady()
-{
-    cups_dest_t* const usual = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
-    cupsFreeDests(1, usual);
-    return usual != nullptr;
-}
+)"},
+};
 
 } // namespace
 
 PrintServer::PrintServer()
 {
-    writeFiles();
-    // A copy, as a security profile may confine the installed one to the folders of the system.
-    const QString program = m_folder.filePath("cupsd");
-    QFile::copy("/usr/sbin/cupsd", program);
-    m_server.setStandardErrorFile(m_folder.filePath("log"));
-    m_server.start(program,
-                   {"-f", "-c", m_folder.filePath("root/cupsd.conf"), "-s", m_folder.filePath("root/cups-files.conf")});
-    const QByteArray socket = QFile::encodeName(m_folder.filePath("socket"));
-    qputenv("CUPS_SERVER", socket);
-    cupsSetServer(socket.constData()); // where the variable has been read before
-    // Who runs the tests may have a favourite printer, by these ways.
-    qputenv("CUPS_SERVERROOT", QFile::encodeName(m_folder.filePath("root")));
-    qputenv("HOME", QFile::encodeName(m_folder.path()));
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
-    waitUntil("the print server", isReady);
-}
-
-void PrintServer::writeFiles() const
-{
     const QDir folder(m_folder.path());
-    for (const char* const made : {"root/ppd", "bin/backend", "printed"}) {
-        folder.mkpath(made);
-    }
-    QFile::link("/usr/lib/cups/daemon", folder.filePath("bin/daemon"));
-    for (const auto& [name, text] :
-         {std::pair{"root/cups-files.conf", filesConf}, std::pair{"root/cupsd.conf", serverConf},
-          std::pair{"root/printers.conf", printersConf}, std::pair{"root/ppd/Desk_Printer.ppd", printerDescription},
-          std::pair{"bin/backend/folder", printer}}) {
+    folder.mkdir("ppd");
+    for (const auto& [name, text] : files) {
         QFile file(folder.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(text).replace('@', QFile::encodeName(folder.path())));
     }
-    // Not for others, or the server would run it as somebody who cannot enter the folder.
-    QFile::setPermissions(folder.filePath("bin/backend/folder"),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // A copy, as a security profile may confine the installed one to the folders of the system.
+    const QString program = folder.filePath("cupsd");
+    QFile::copy("/usr/sbin/cupsd", program);
+    m_server.setStandardErrorFile(folder.filePath("log"));
+    m_server.start(program, {"-f", "-c", folder.filePath("cupsd.conf"), "-s", folder.filePath("cups-files.conf")});
+    const QByteArray socket = QFile::encodeName(folder.filePath("socket"));
+    qputenv("CUPS_SERVER", socket);
+    cupsSetServer(socket.constData()); // where the variable has been read before
+    // Who runs the tests may have a favourite printer, by these ways.
+    qputenv("CUPS_SERVERROOT", QFile::encodeName(folder.path()));
+    qputenv("HOME", QFile::encodeName(folder.path()));
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+    waitUntil("the print server", [] {
+        cups_dest_t* const usual = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        cupsFreeDests(1, usual);
+        return usual != nullptr;
+    });
 }
 
-void PrintServer::run(const QString& program, const QStringList& words)
+void PrintServer::run(const QString& command, QStringList words)
 {
     // These are an administrator's, in a folder that others do not search.
-    EXPECT_EQ(QProcess::execute("/usr/sbin/" + program, words), 0) << program.toStdString();
+    EXPECT_EQ(QProcess::execute("/usr/sbin/" + command, words << queue), 0) << command.toStdString();
 }
 
 int PrintServer::waitingJobs() const
@@ -133,12 +103,12 @@ int PrintServer::waitingJobs() const
 QStringList PrintServer::printedFiles() const
 {
     waitUntil("a job's end", [this] { return waitingJobs() == 0; });
-    const QDir printed(m_folder.filePath("printed"));
-    QStringList files;
-    for (const QString& name : printed.entryList({"*.pdf"}, QDir::Files, QDir::Name)) {
-        files << printed.filePath(name);
+    const QDir jobs(m_folder.filePath("jobs"));
+    QStringList printed;
+    for (const QString& name : jobs.entryList({"d*-001"}, QDir::Files, QDir::Name)) {
+        printed << jobs.filePath(name);
     }
-    return files;
+    return printed;
 }
 
 QImage printedPicture(const QString& file)

@@ -3,33 +3,27 @@
 #include "tests/gui/desk.h"
 
 #include <QImage>
-#include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
 namespace schemlet {
 
-/// A print service of our own with one queue, the default one, whose printer puts each job into a file. Its paper is
-/// A4, with margins of 18, 24, 24 and 36 points at the left, top, right and bottom. It has no network port and keeps to
-/// one folder, gone with this object. CUPS_SERVER shows this process and those it starts the way to it; afterwards it
-/// leads nowhere, so that no test ever reaches a real printer.
+/// A print service of our own with one queue, the default one, on A4 with margins of 18, 24, 24 and 36 points at the
+/// left, top, right and bottom. It has no network port and keeps to one folder, gone with this object. CUPS_SERVER
+/// shows this process and those it starts the way to it; afterwards it leads nowhere, so that no test ever reaches a
+/// real printer.
 class PrintServer {
 public:
-    static constexpr auto queue = "Desk_Printer";
-
     PrintServer();
     ~PrintServer() { end(); }
     PrintServer(const PrintServer&) = delete;
     PrintServer& operator=(const PrintServer&) = delete;
 
-    /// A queue that rejects jobs turns them away; one that stands still keeps them until it runs again, but has room
-    /// for two only.
-    void rejectJobs() { run("cupsreject", {queue}); }
-    void acceptJobs() { run("cupsaccept", {queue}); }
-    void stopQueue() { run("cupsdisable", {queue}); }
-    void startQueue() { run("cupsenable", {queue}); }
+    /// Does something to the queue: cupsreject, cupsaccept, cupsdisable or cupsenable. A queue that rejects jobs turns
+    /// them away; a disabled one keeps them until it runs again, but has room for two only.
+    void run(const QString& command) { run(command, {}); }
     /// From then on there is no printer at all.
-    void removeQueue() { run("lpadmin", {"-x", queue}); }
+    void removeQueue() { run("lpadmin", {"-x"}); }
     /// From then on nobody answers.
     void end() { schemlet::end(m_server); }
 
@@ -40,8 +34,7 @@ public:
     [[nodiscard]] QStringList printedFiles() const;
 
 private:
-    void writeFiles() const;
-    void run(const QString& program, const QStringList& words);
+    void run(const QString& command, QStringList words);
 
     QTemporaryDir m_folder;
     QProcess m_server;
