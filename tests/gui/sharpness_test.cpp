@@ -1,3 +1,4 @@
+#include "platform/ink/finer_ink.h"
 #include "platform/qt/canvas_widget.h"
 #include "shell/product_picture.h"
 #include "tests/gui/pixels.h"
@@ -12,8 +13,6 @@ namespace schemlet {
 // The canvas on screens that have more pixels than it.
 
 namespace {
-
-constexpr double ratios[] = {1.25, 1.5, 1.75, 2, 3};
 
 /// A bit of everything that leaves ink, at places between the pixels and over the edges too.
 void drawEverything(Surface& surface)
@@ -31,169 +30,108 @@ void drawEverything(Surface& surface)
     }
 }
 
-/// A canvas of 300 x 200 pixels, as a screen of some ratio shows it.
-struct Canvas {
-    CanvasSurface surface;
-
-    explicit Canvas(double ratio = 1)
-    {
-        surface.growTo({300, 200});
-        surface.setRatio(ratio);
-    }
+/// 300 x 200 pixels, as a screen of some ratio shows them.
+struct SharpCanvas : testing::TestWithParam<double> {
+    CanvasSurface canvas;
+    SharpCanvas() { canvas.growTo({300, 200}); }
 };
 
-/// Whether a pixel lies within an area around a place that, at most, it may be off by.
-bool occurs(const QImage& image, QRgb pixel, QRectF around)
+/// What the core's ink makes of the screen image from the picture, all at once.
+QImage remade(const CanvasSurface& surface, decltype(ink::enlarge)& make)
 {
-    bool found = false;
-    const QRect part = around.toAlignedRect() & image.rect();
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-        for (int x = part.left(); x <= part.right(); ++x) {
-            found = found || image.pixel(x, y) == pixel;
-        }
-    }
-    return found;
+    const auto pixels = [](QImage& image, double scale) {
+        auto* const first = reinterpret_cast<std::uint32_t*>(image.bits());
+        return ink::Image{first, image.width(), image.height(), image.width(), scale};
+    };
+    QImage picture = surface.picture();
+    QImage screen = surface.screenImage();
+    const QSize seen = picture.size().boundedTo(screen.size() / surface.ratio() + QSize(1, 1));
+    make(pixels(picture, 1), pixels(screen, surface.ratio()), {0, 0, seen.width(), seen.height()});
+    return screen;
 }
 
-/// How many pixels of either image have a colour that the other one has not there nor one canvas pixel beside it.
-int strays(const CanvasSurface& surface)
-{
-    const QImage& picture = surface.picture();
-    const QImage& screen = surface.screenImage();
-    const double ratio = surface.ratio();
-    int count = 0;
-    visit(screen.copy(QRect(QPoint(), picture.size() * ratio)), [&](int x, int y) {
-        const QPoint on(int((x + 0.5) / ratio), int((y + 0.5) / ratio));
-        count += occurs(picture, screen.pixel(x, y), QRect(on, QSize(1, 1)).adjusted(-1, -1, 1, 1)) ? 0 : 1;
-    });
-    visit(picture, [&](int x, int y) {
-        const QRectF around((x - 1) * ratio, (y - 1) * ratio, 3 * ratio, 3 * ratio);
-        count += occurs(screen, picture.pixel(x, y), around) ? 0 : 1;
-    });
-    return count;
-}
-
-/// What the screen image would be if it were the picture's pixels, only larger.
+/// The picture's pixels, only larger.
 QImage blocks(const CanvasSurface& surface)
 {
-    const QImage& picture = surface.picture();
-    const auto on = [&](int at, int end) { return qMin(int((at + 0.5) / surface.ratio()), end - 1); };
-    QImage image = surface.screenImage().copy();
-    visit(image,
-          [&](int x, int y) { image.setPixel(x, y, picture.pixel(on(x, picture.width()), on(y, picture.height()))); });
-    return image;
+    return remade(surface, ink::enlarge);
+}
+
+/// Nowhere does the screen show what the picture has not there nor one pixel beside it, or lack what it has.
+void expectTrue(const CanvasSurface& surface)
+{
+    EXPECT_EQ(surface.screenImage(), remade(surface, ink::reconcile));
 }
 
 } // namespace
 
-TEST(Sharpness, PictureIsTheSameOnEveryScreenAndTheScreenShowsItFiner)
+INSTANTIATE_TEST_SUITE_P(Ratio, SharpCanvas, testing::Values(1.25, 1.5, 1.75, 2, 3));
+
+TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
 {
-    Canvas plain;
-    drawEverything(plain.surface);
-    EXPECT_EQ(&plain.surface.screenImage(), &plain.surface.picture()); // one image and no more
-    EXPECT_GT(inkedPixels(plain.surface.picture()), 2000);
-    for (const double ratio : ratios) {
-        SCOPED_TRACE(ratio);
-        Canvas canvas(ratio);
-        drawEverything(canvas.surface);
-        EXPECT_EQ(canvas.surface.picture(), plain.surface.picture());
-        EXPECT_EQ(canvas.surface.current().x, plain.surface.current().x);
-        EXPECT_EQ(canvas.surface.screenImage().size(), QSize(qCeil(301 * ratio), qCeil(201 * ratio)));
-        EXPECT_EQ(strays(canvas.surface), 0);
-        QtSurface fine(ratio);
-        fine.growTo({301, 201});
-        drawEverything(fine);
-        const QImage& screen = canvas.surface.screenImage();
-        EXPECT_GT(differing(screen, blocks(canvas.surface)), 1000);
-        EXPECT_LT(differing(screen, fine.image()), differing(screen, blocks(canvas.surface)));
-    }
+    CanvasSurface plain;
+    plain.growTo({300, 200});
+    drawEverything(plain);
+    EXPECT_EQ(&plain.screenImage(), &plain.picture()); // one image and no more
+    EXPECT_GT(inkedPixels(plain.picture()), 2000);
+
+    canvas.setRatio(GetParam());
+    drawEverything(canvas);
+    EXPECT_EQ(canvas.picture(), plain.picture());
+    EXPECT_EQ(canvas.current().x, plain.current().x);
+    EXPECT_EQ(canvas.screenImage().size(), QSize(qCeil(301 * GetParam()), qCeil(201 * GetParam())));
+    expectTrue(canvas);
+    QtSurface fine(GetParam());
+    fine.growTo({301, 201});
+    drawEverything(fine);
+    const int fromBlocks = differing(canvas.screenImage(), blocks(canvas));
+    EXPECT_GT(fromBlocks, 1000);
+    EXPECT_LT(differing(canvas.screenImage(), fine.image()), fromBlocks);
 }
 
-TEST(Sharpness, StrokesAndCornersLieWithinAPixelOfTheScreenOfThePictures)
+TEST_P(SharpCanvas, WhatIsDrawnOverInWhiteIsCleanOnTheScreen)
 {
-    constexpr void (*strokes[])(QtSurface&, float) = {
-        [](QtSurface& surface, float at) {
-            surface.line({at, at}, {at + 200, at + 550});
-        },
-        [](QtSurface& surface, float at) {
-            surface.box({at, at}, {at + 500, at + 411});
-        },
-        [](QtSurface& surface, float at) {
-            surface.circle({at + 100, at + 200}, 10);
-        },
-        [](QtSurface& surface, float at) {
-            surface.arc({at + 400, at + 400}, 203, 0, 6);
-        },
-    };
-    for (const double ratio : ratios) {
-        for (int i = 0; i < 24; ++i) {
-            SCOPED_TRACE(std::to_string(ratio) + " " + std::to_string(i));
-            QtSurface surfaces[] = {QtSurface(), QtSurface(ratio)};
-            for (QtSurface& surface : surfaces) {
-                surface.growTo({80, 80});
-                strokes[i % 4](surface, static_cast<float>(300 + i - i % 4));
-            }
-            const QRect plain = inkedPart(surfaces[0].image());
-            const QRect fine = inkedPart(surfaces[1].image());
-            EXPECT_NEAR(fine.left(), plain.left() * ratio, 1.01);
-            EXPECT_NEAR(fine.top(), plain.top() * ratio, 1.01);
-            EXPECT_NEAR(fine.left() + fine.width(), (plain.left() + plain.width()) * ratio, 1.01);
-            EXPECT_NEAR(fine.top() + fine.height(), (plain.top() + plain.height()) * ratio, 1.01);
+    canvas.setRatio(GetParam());
+    for (const Color color : {black, white}) {
+        canvas.setForeColor(color);
+        for (int i = 0; i < 15; ++i) { // from and to places that are the same pixel of the picture
+            const auto at = static_cast<float>(color == white ? 600 + i : 614 - i);
+            canvas.circle({at + 2000, at}, 500);
+            canvas.box({at, at}, {at + 900, at + 450});
+            canvas.setCurrent({at + 900, at});
+            canvas.print("WiLlIaM 12.5", true);
         }
+        EXPECT_EQ(inkedPixels(canvas.screenImage()) == 0, color == white);
     }
 }
 
-TEST(Sharpness, WhatIsDrawnOverInWhiteIsCleanOnTheScreen)
-{
-    for (const double ratio : ratios) {
-        SCOPED_TRACE(ratio);
-        Canvas canvas(ratio);
-        for (const Color color : {black, white}) {
-            canvas.surface.setForeColor(color);
-            for (int i = 0; i < 15; ++i) { // from and to places that are the same pixel of the picture
-                const auto at = static_cast<float>(color == white ? 600 + i : 614 - i);
-                canvas.surface.circle({at + 2000, at}, 500);
-                canvas.surface.line({at, at}, {at + 900, at + 450});
-                canvas.surface.box({at, at}, {at + 900, at + 450});
-                canvas.surface.setCurrent({at + 900, at});
-                canvas.surface.print("WiLlIaM 12.5", true);
-            }
-        }
-        EXPECT_EQ(inkedPixels(canvas.surface.picture()), 0);
-        EXPECT_EQ(inkedPixels(canvas.surface.screenImage()), 0);
-    }
-}
-
-TEST(Sharpness, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
+TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
 {
     const QImage picture = colourful(500, 70);
-    Canvas canvas;
-    CanvasSurface& surface = canvas.surface;
-    for (const double ratio : {2.0, 1.5, 3.0, 1.75, 1.0, 1.25}) {
+    for (const double ratio : {2.25, GetParam(), 1.0}) {
         SCOPED_TRACE(ratio);
-        surface.setBackColor(white);
-        drawEverything(canvas.surface);
-        const QImage before = surface.picture();
-        EXPECT_TRUE(surface.setRatio(ratio));
-        EXPECT_FALSE(surface.setRatio(ratio));
-        EXPECT_EQ(surface.picture(), before);
-        EXPECT_EQ(surface.screenImage(), blocks(surface));
+        canvas.setBackColor(white);
+        drawEverything(canvas);
+        const QImage before = canvas.picture();
+        EXPECT_TRUE(canvas.setRatio(ratio));
+        EXPECT_FALSE(canvas.setRatio(ratio));
+        EXPECT_EQ(canvas.picture(), before);
+        EXPECT_EQ(canvas.screenImage(), blocks(canvas));
         QRegion changed;
-        surface.changed = [&](const QRect& part) { changed += part; };
-        surface.setPicture(picture);
+        canvas.changed = [&](const QRect& part) { changed += part; };
+        canvas.setPicture(picture);
         EXPECT_TRUE(changed.contains(QRect(0, 0, 300, 200)));
-        EXPECT_EQ(surface.screenImage(), blocks(surface));
-        drawEverything(canvas.surface);
-        surface.growTo(surface.picture().size() + QSize(60, 20));
-        EXPECT_EQ(strays(surface), 0); // the picture's hidden part too
-        surface.clear();
-        EXPECT_EQ(inkedPixels(surface.screenImage()), 0);
-        surface.line({4000, 2000}, {8800, 3500});
-        EXPECT_EQ(strays(surface), 0);
-        surface.setBackColor(0x80FFFF);
-        EXPECT_EQ(surface.screenImage(), blocks(surface));
-        EXPECT_EQ(surface.screenImage().pixel(5, 5), qRgb(0xFF, 0xFF, 0x80));
-        surface.changed = nullptr;
+        EXPECT_EQ(canvas.screenImage(), blocks(canvas));
+        drawEverything(canvas);
+        canvas.growTo(canvas.picture().size() + QSize(60, 20));
+        expectTrue(canvas); // the picture's hidden part too
+        canvas.clear();
+        EXPECT_EQ(inkedPixels(canvas.screenImage()), 0);
+        canvas.line({4000, 2000}, {8800, 3500});
+        expectTrue(canvas);
+        canvas.setBackColor(0x80FFFF);
+        EXPECT_EQ(canvas.screenImage(), blocks(canvas));
+        EXPECT_EQ(canvas.screenImage().pixel(5, 5), qRgb(0xFF, 0xFF, 0x80));
+        canvas.changed = nullptr;
     }
 }
 
