@@ -11,7 +11,6 @@
 #include <QFile>
 #include <iostream>
 #include <memory>
-#include <vector>
 #include <xcb/xtest.h>
 
 namespace schemlet {
@@ -31,8 +30,6 @@ constexpr std::array menus{26, 46, 55};
 constexpr std::array menuSteps{111, 114, 116, 116};
 constexpr std::array others{escape, enter, 23, 65, 22, f1, 76, 110, 112, 115, 117, 119, 59, 47, 48, 79, 88};
 } // namespace place
-
-template <typename Answer> using Reply = std::unique_ptr<Answer, void (*)(void*)>;
 
 /// The other end of the screen: what it is told there looks to the program like keyboard and mouse.
 class Hands {
@@ -64,12 +61,7 @@ public:
     }
 
     /// Waits until the screen has done all that.
-    void finish()
-    {
-        xcb_connection_t* const screen = m_screen.get();
-        (void)Reply<xcb_get_input_focus_reply_t>(
-            xcb_get_input_focus_reply(screen, xcb_get_input_focus(screen), nullptr), free);
-    }
+    void finish() { free(xcb_get_input_focus_reply(m_screen.get(), xcb_get_input_focus(m_screen.get()), nullptr)); }
 
 private:
     void fake(std::uint8_t kind, int detail, int x = 0, int y = 0)
@@ -120,26 +112,16 @@ private:
         fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
     }
 
-    /// Gives one of the windows another place and size.
+    /// Gives a window another place and size.
     void reshape()
     {
-        xcb_connection_t* const screen = m_screen.get();
-        constexpr std::string_view list = "_NET_CLIENT_LIST";
-        const Reply<xcb_intern_atom_reply_t> atom(
-            xcb_intern_atom_reply(screen, xcb_intern_atom(screen, 0, list.size(), list.data()), nullptr), free);
-        const Reply<xcb_get_property_reply_t> windows(
-            xcb_get_property_reply(screen, xcb_get_property(screen, 0, m_root, atom->atom, XCB_ATOM_WINDOW, 0, 99),
-                                   nullptr),
-            free);
-        const int count = xcb_get_property_value_length(windows.get()) / 4;
-        if (count == 0) {
-            return;
-        }
-        const auto* const all = static_cast<const xcb_window_t*>(xcb_get_property_value(windows.get()));
-        const std::array shape{
-            static_cast<std::uint32_t>(m_chance.below(1000)), static_cast<std::uint32_t>(m_chance.below(800)),
-            static_cast<std::uint32_t>(1 + m_chance.below(1500)), static_cast<std::uint32_t>(1 + m_chance.below(1200))};
-        xcb_configure_window(screen, all[m_chance.below(static_cast<std::size_t>(count))], 15, shape.data());
+        const QString window = m_chance.oneIn(2) ? ":ACTIVE:" : "Schemlet";
+        const QString shape = QString("0,%1,%2,%3,%4")
+                                  .arg(m_chance.below(1000))
+                                  .arg(m_chance.below(800))
+                                  .arg(1 + m_chance.below(1500))
+                                  .arg(1 + m_chance.below(1200));
+        QProcess::execute("wmctrl", {"-r", window, "-e", shape});
     }
 
     Chance m_chance;
@@ -171,38 +153,28 @@ public:
         if (m_program.waitForFinished(moment)) {
             return false;
         }
-        if (m_age.elapsed() >= 1000LL * sample * static_cast<qint64>(m_megabytes.size() + 1)) {
-            m_megabytes.push_back(residentMegabytes(m_program));
+        constexpr int warm = 50; // seconds, in which most dialogs have been open
+        if (m_megabytes == 0 && m_age.elapsed() >= 1000LL * warm) {
+            m_megabytes = residentMegabytes(m_program);
         }
         return true;
     }
 
-    /// Says whether it ended well.
-    bool end()
+    /// Says whether it ended well and had not grown by more megabytes.
+    bool endsWell(int growth)
     {
+        const int grown = m_megabytes == 0 ? 0 : residentMegabytes(m_program) - m_megabytes;
         m_program.terminate();
         constexpr int patience = 60000; // milliseconds
         const bool ended = m_program.state() == QProcess::NotRunning || m_program.waitForFinished(patience);
-        std::cout << "  lived " << m_age.elapsed() / 1000 << " s, megabytes every " << sample << " s:";
-        for (const int megabytes : m_megabytes) {
-            std::cout << ' ' << megabytes;
-        }
-        std::cout << std::endl;
-        return ended && m_program.exitStatus() == QProcess::NormalExit && m_program.exitCode() == 0;
-    }
-
-    /// In megabytes, once most dialogs have been open.
-    [[nodiscard]] int growth() const
-    {
-        constexpr std::size_t warm = 4; // samples
-        return m_megabytes.size() > warm ? m_megabytes.back() - m_megabytes[warm] : 0;
+        std::cout << "  lived " << m_age.elapsed() / 1000 << " s, grew by " << grown << " MB" << std::endl;
+        return ended && m_program.exitStatus() == QProcess::NormalExit && m_program.exitCode() == 0 && grown <= growth;
     }
 
 private:
-    static constexpr int sample = 10; // seconds
     QProcess m_program;
     QElapsedTimer m_age;
-    std::vector<int> m_megabytes;
+    int m_megabytes = 0; ///< once it is warm
 };
 
 bool drive(const QString& program, std::uint64_t seed, int seconds, int growth)
@@ -218,7 +190,7 @@ bool drive(const QString& program, std::uint64_t seed, int seconds, int growth)
             hands.finish();
             ++acts;
         }
-        if (!life.end() || life.growth() > growth) {
+        if (!life.endsWell(growth)) {
             std::cout << "seed " << seed << ": broken after " << acts << " acts" << std::endl;
             return false;
         }

@@ -10,6 +10,7 @@ namespace schemlet {
 
 namespace {
 
+using namespace std::string_literals;
 using picture::State;
 
 std::string little(std::int64_t number, int bytes)
@@ -27,16 +28,9 @@ std::string big(std::int64_t number, int bytes)
     return {reversed.rbegin(), reversed.rend()};
 }
 
-std::string bytes(std::initializer_list<int> list)
-{
-    return {list.begin(), list.end()};
-}
-
 std::string filler(std::int64_t count)
 {
-    std::string out;
-    out.resize(static_cast<std::size_t>(count), '\x55');
-    return out;
+    return std::string(static_cast<std::size_t>(count), 'U');
 }
 
 struct Bmp {
@@ -67,32 +61,22 @@ std::string bmp(const Bmp& what, const std::string& pixels)
 
 std::string png(const std::string& more = {})
 {
-    const auto chunk = [](const std::string& name, std::int64_t length) {
-        return big(length, 4) + name + filler(length + 4);
-    };
-    return "\x89PNG\r\n\x1a\n" + chunk("IHDR", 13) + more + chunk("IDAT", 9) + chunk("IDAT", 0) + chunk("IEND", 0);
+    return "\x89PNG\r\n\x1a\n" + big(13, 4) + "IHDR" + filler(17) + more + big(9, 4) + "IDAT" + filler(13) + big(0, 4) +
+           "IDAT" + filler(4) + big(0, 4) + "IEND" + filler(4);
 }
 
 /// With all that may mislead: an end within a segment, filled-up markers, restarts and stuffed bytes.
 std::string jpeg()
 {
-    const auto segment = [](int code, const std::string& data) {
-        return bytes({0xFF, code}) + big(static_cast<int>(data.size()) + 2, 2) + data;
-    };
-    const std::string end = bytes({0xFF, 0xD9});
-    std::string out = bytes({0xFF, 0xD8}) + segment(0xE1, bytes({0xFF, 0xD8}) + filler(5) + end) + bytes({0xFF, 0xFF}) +
-                      segment(0xC2, filler(15)) + segment(0xFE, "");
-    for (int scan = 0; scan < 3; ++scan) {
-        out += segment(0xDA, filler(6)) + filler(4) + bytes({0xFF, 0x00, 0x12, 0xFF, 0x01, 0xFF, 0xD0, 0xFF, 0xD7}) +
-               filler(3);
-    }
-    return out + end;
+    const std::string scan = "\xFF\xDA" + big(8, 2) + filler(10) + "\xFF\x00\x12\xFF\x01\xFF\xD0\xFF\xD7UUU"s;
+    return "\xFF\xD8\xFF\xE1" + big(11, 2) + "\xFF\xD8UUUUU\xFF\xD9\xFF\xFF\xFF\xC2" + big(17, 2) + filler(15) +
+           "\xFF\xFE" + big(2, 2) + scan + scan + scan + "\xFF\xD9";
 }
 
-std::string gif(int firstBlock = '!')
+std::string gif(char firstBlock = '!')
 {
-    return "GIF89a" + filler(4) + bytes({0x81, 0x77, 0}) + filler(12) + bytes({firstBlock, 0xFE, 3, 9, 9, 9, 0}) + "," +
-           filler(8) + bytes({0x01, 2, 2, 0x4C, 1, 0});
+    return "GIF89a" + filler(4) + "\x81w\0"s + filler(12) + firstBlock + "\xFE\3xyz\0,"s + filler(8) + "\x80" +
+           filler(6) + "\2\2xy\1z\0"s;
 }
 
 /// Each needs its last byte.
@@ -107,10 +91,10 @@ std::vector<std::string> wholePictures()
     out.push_back(bmp({9, 7, 8, 0, 0, 3}, filler(84)));
     out.push_back(bmp({9, 7, 16, 3}, filler(140)));
     out.push_back(bmp({1, 1, 32, 3}, filler(4)));
-    const std::string absolute = bytes({0, 5, 9, 9, 9, 9, 0, 1, 0, 6, 9, 9, 9, 9, 0, 1, 0, 2, 0, 1});
-    out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 0, 0, 1})));
-    out.push_back(bmp({9, 7, 4, 2}, bytes({9, 1, 0, 2, 0, 2, 0, 0, 0, 4, 9, 9, 0, 5, 9, 9, 0, 1, 0, 1})));
-    out.push_back(bmp({9, 7, 8, 1}, absolute + bytes({0, 2, 9, 5, 0, 0}))); // no mark, but its rows are done
+    const std::string absolute = "\0\5aaaa\0\1\0\6aaaa\0\1\0\2\0\1"s;
+    out.push_back(bmp({9, 7, 8, 1}, absolute + "\0\0\0\1"s));
+    out.push_back(bmp({9, 7, 4, 2}, "\x9\1\0\2\0\2\0\0\0\4aa\0\5aa\0\1\0\1"s));
+    out.push_back(bmp({9, 7, 8, 1}, absolute + "\0\2\x9\5\0\0"s)); // no mark, but its rows are done
     for (std::size_t i = out.size(); i-- > 0;) {
         if (out[i].starts_with("BM")) { // whose header may not say where the pixels are
             out.push_back(std::string(out[i]).replace(10, 4, little(0, 4)));
@@ -143,7 +127,7 @@ TEST(PictureCheck, MissesEveryByteThatIsMissingAndCopesWithAnyByteAnywhere)
 TEST(PictureCheck, BelievesNoHeader)
 {
     const std::string some = filler(99);
-    const std::string runs = bytes({9, 1, 0, 0, 9, 2}); // without an end: the header has their length
+    const std::string runs = "\x9\1\0\0\x9\2"s; // without an end: the header has their length
     const std::pair<std::string, State> cases[] = {
         {bmp({9, 7, 8, 1, 6}, runs), State::whole},
         {bmp({9, 7, 8, 1, 7}, runs), State::cutShort},
@@ -164,7 +148,7 @@ TEST(PictureCheck, BelievesNoHeader)
         {"BM" + filler(12) + little(39, 4) + filler(50000), State::unreadable},
         {png(big(0xFFFFFFFF, 4) + "IDAT"), State::unreadable},
         {png(big(INT_MAX, 4) + "IDAT"), State::cutShort},
-        {bytes({0xFF, 0xD8, 0xFF, 0xE0, 0, 1}) + some, State::unreadable},
+        {"\xFF\xD8\xFF\xE0\0\1"s + some, State::unreadable},
         {gif(';'), State::unreadable},
         {"A circuit of mine", State::unknownFormat},
     };
