@@ -7,8 +7,7 @@
 #include <QTemporaryDir>
 #include <QTransform>
 #include <csignal>
-#include <functional>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,42 +16,14 @@ namespace schemlet {
 
 namespace {
 
-/// Root may write anywhere; until this goes, the process is somebody else's.
-class OrdinaryUser {
-public:
-    OrdinaryUser() : m_changed(getuid() == 0 && setresuid(nobody, nobody, 0) == 0) {}
-    ~OrdinaryUser()
-    {
-        if (m_changed) {
-            EXPECT_EQ(setresuid(0, 0, 0), 0);
-        }
-    }
-    [[nodiscard]] static bool isOne() { return geteuid() != 0; }
+using testing::ThrowsMessage;
 
-private:
-    static constexpr uid_t nobody = 65534;
-    bool m_changed;
-};
-
-/// Files cannot grow beyond this size until it goes, as on a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_limit), 0);
-        const rlimit tight{bytes, m_limit.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
-    }
-    ~FullDisk()
-    {
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_limit), 0);
-        static_cast<void>(std::signal(SIGXFSZ, m_handler));
-    }
-
-private:
-    void (*m_handler)(int);
-    rlimit m_limit{};
-};
+/// Files grow up to this size only, as on a disk that is full.
+void limitFiles(rlim_t bytes)
+{
+    const rlimit limit{bytes, RLIM_INFINITY};
+    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+}
 
 class PictureFiles : public testing::Test {
 protected:
@@ -73,20 +44,17 @@ protected:
         return path(name);
     }
 
-    /// Why something is not done; empty if it is.
-    static std::string refusal(Fault fault, const std::function<void()>& action)
+    void makeFolderAndPipe()
     {
-        try {
-            action();
-            return {};
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.fault, fault);
-            return error.what();
-        }
+        ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
+        ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
     }
-    static std::string refusal(const QString& path)
+
+    void expectNotSaved(const char* name, const char* cause)
     {
-        return refusal(Fault::invalidPicture, [&] { EXPECT_FALSE(loadPicture(path).isNull()); });
+        const QStringList before = listing();
+        EXPECT_THAT([&] { savePicture(colourful(90, 90), path(name)); }, ThrowsMessage<RuntimeError>(cause)) << name;
+        EXPECT_EQ(listing(), before) << name;
     }
 
     QTemporaryDir m_folder;
@@ -97,8 +65,11 @@ protected:
 TEST_F(PictureFiles, LoadsWholePicturesAndRefusesPartsOfThem)
 {
     const QImage image = colourful(17, 11);
+    QImage large(8192, 4100, QImage::Format_RGBX64); // 256.25 MB; on its own, Qt stops at 256
+    large.fill(Qt::green);
     const std::pair<QByteArray, QImage> files[] = {
         {written(image, "png"), image},
+        {written(large, "png"), large},
         {written(image, "bmp"), image},
         {written(image, "ppm"), image},
         {written(image.convertToFormat(QImage::Format_Mono), "bmp"), image.convertToFormat(QImage::Format_Mono)},
@@ -111,17 +82,8 @@ TEST_F(PictureFiles, LoadsWholePicturesAndRefusesPartsOfThem)
         EXPECT_EQ(loaded.format(), QImage::Format_RGB32);
         EXPECT_EQ(loaded.devicePixelRatio(), 1);
         EXPECT_TRUE(loaded == expected.convertToFormat(QImage::Format_RGB32));
-        for (const qsizetype missing : {qsizetype{1}, bytes.size() / 2}) {
-            EXPECT_NE(refusal(store("part.bmp", bytes.chopped(missing))), "");
-        }
+        EXPECT_THROW((void)loadPicture(store("part.bmp", bytes.chopped(1))), RuntimeError);
     }
-}
-
-TEST_F(PictureFiles, LoadsLargePicturesOf16BitsAChannel)
-{
-    QImage image(8192, 4100, QImage::Format_RGBX64); // 256.25 MB; on its own, Qt stops at 256
-    image.fill(Qt::green);
-    EXPECT_EQ(loadPicture(store("large.png", written(image, "png"))).size(), image.size());
 }
 
 TEST_F(PictureFiles, PutsTransparentPicturesOnWhiteHoweverWide)
@@ -131,7 +93,6 @@ TEST_F(PictureFiles, PutsTransparentPicturesOnWhiteHoweverWide)
     image.setPixel(39999, 1, qRgba(255, 0, 0, 128));
     image.setPixel(0, 1, qRgba(1, 2, 3, 255));
     const QImage loaded = loadPicture(store("wide", written(image, "png")));
-    EXPECT_EQ(loaded.pixel(0, 0), qRgb(255, 255, 255));
     EXPECT_EQ(loaded.pixel(39999, 0), qRgb(255, 255, 255));
     EXPECT_EQ(loaded.pixel(39999, 1), qRgb(255, 127, 127));
     EXPECT_EQ(loaded.pixel(0, 1), qRgb(1, 2, 3));
@@ -147,8 +108,7 @@ TEST_F(PictureFiles, SetsAPhotographUpright)
 
 TEST_F(PictureFiles, NamesTheFileAndTheCause)
 {
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
-    ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
+    makeFolderAndPipe();
     const QByteArray bmp = written(colourful(9, 9), "bmp");
     QFile large(store("large.bmp", bmp));
     ASSERT_TRUE(large.resize(10'000'000'000)); // most of which takes no room on the disk
@@ -168,7 +128,8 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
         {store("wide", "P6 8193 8192 255\n"), "wide is too large: 8193 x 8192 pixels, at most 67 megapixels"},
     };
     for (const auto& [path, expected] : cases) {
-        EXPECT_EQ(refusal(path), "Invalid picture\n\nThe file " + expected + ".");
+        EXPECT_THAT([&] { (void)loadPicture(path); },
+                    ThrowsMessage<RuntimeError>("Invalid picture\n\nThe file " + expected + "."));
     }
 }
 
@@ -176,14 +137,14 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
 {
     QImage image = colourful(33, 21);
     image.setDotsPerMeterX(5000);
-    const QByteArray old = "not a picture";
-    store("mine.png", old);
+    store("mine.png", "");
     allow("mine.png", 0600);
+    const auto permissions = QFile::permissions(path("mine.png"));
     ASSERT_TRUE(QFile::link("mine.png", path("link")) && QFile::link("link", path("chain")));
     const QStringList before = listing();
     for (const char* const name : {"mine.png", "link", "chain"}) {
         SCOPED_TRACE(name);
-        store("mine.png", old);
+        store("mine.png", "not a picture");
         savePicture(image, path(name));
         const QByteArray saved = contents(path("mine.png"));
         EXPECT_TRUE(saved.startsWith("BM"));
@@ -192,9 +153,7 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
         EXPECT_TRUE(loadPicture(path("mine.png")) == image);
         EXPECT_TRUE(QFileInfo(path("link")).isSymLink() && QFileInfo(path("chain")).isSymLink());
         EXPECT_EQ(listing(), before);
-        struct stat status {};
-        EXPECT_EQ(stat(path("mine.png").toLocal8Bit().constData(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777U, 0600U);
+        EXPECT_EQ(QFile::permissions(path("mine.png")), permissions);
     }
     savePicture(colourful(5, 5).convertToFormat(QImage::Format_Mono), path("new"));
     EXPECT_EQ(contents(path("new")).mid(28, 2).toHex(), "1800");
@@ -202,34 +161,27 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
 
 TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
 {
+    makeFolderAndPipe();
     const QByteArray old = written(colourful(9, 9), "bmp");
-    const auto expectRefusal = [&](const char* name, const char* cause) {
-        const QStringList before = listing();
-        EXPECT_EQ(refusal(Fault::pictureNotSaved, [&] { savePicture(colourful(90, 90), path(name)); }), cause) << name;
-        EXPECT_EQ(listing(), before) << name;
-    };
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
-    ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
     store("old.bmp", old);
-    expectRefusal("folder", "that is a folder");
-    expectRefusal("pipe", "that is no ordinary file");
-    expectRefusal("gone/a.bmp", "no such folder");
+    expectNotSaved("folder", "that is a folder");
+    expectNotSaved("pipe", "that is no ordinary file");
+    expectNotSaved("gone/a.bmp", "no such folder");
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     for (const rlim_t room : {0U, 1U, 54U, 16384U, 24353U}) { // of 24354 bytes
-        const FullDisk full(room);
-        expectRefusal("old.bmp", "the disk takes no more");
-        expectRefusal("new.bmp", "the disk takes no more");
+        limitFiles(room);
+        expectNotSaved("old.bmp", "the disk takes no more");
+        expectNotSaved("new.bmp", "the disk takes no more");
+        limitFiles(RLIM_INFINITY);
     }
-    struct Modes {
-        mode_t file, folder;
-        const char* cause;
-    };
     for (const auto& [file, folder, cause] :
-         {Modes{0444, 0777, "the file is write-protected"}, Modes{0666, 0555, "permission denied"}}) {
+         {std::tuple{0444U, 0777U, "the file is write-protected"}, {0666U, 0555U, "permission denied"}}) {
         allow("old.bmp", file);
         allow(".", folder);
-        if (const OrdinaryUser user; OrdinaryUser::isOne()) { // root may write anywhere
-            expectRefusal("old.bmp", cause);
-        }
+        constexpr uid_t nobody = 65534;
+        const bool isRoot = setresuid(nobody, nobody, 0) == 0; // who may write anywhere
+        expectNotSaved("old.bmp", cause);
+        EXPECT_TRUE(!isRoot || setresuid(0, 0, 0) == 0);
     }
     allow(".", 0700);
     EXPECT_EQ(contents(path("old.bmp")), old);

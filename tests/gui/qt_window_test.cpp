@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QStyle>
 #include <QToolBar>
 #include <QWindow>
@@ -20,64 +21,78 @@ namespace schemlet {
 
 namespace {
 
-using ShownMain = Shown<QMainWindow, Ui::Form1>;
+using namespace control;
 
-QMenu& addPopup(ShownMain& main)
-{
-    main.window->addMenuItem(0, {"rc", "&Rightclick", "", Look::hidden});
-    main.window->addMenuItem(1, {"eras", "&Eraser"});
-    return *main.view.findChild<QMenu*>("rcMenu");
-}
+struct QtWindowTest : testing::Test, Shown<QMainWindow, Ui::Form1> {
+    QWindow* const screen = view.windowHandle();
+
+    QMenu& addPopup()
+    {
+        window->addMenuItem(0, {"rc", "&Rightclick", "", Look::hidden});
+        window->addMenuItem(1, {"eras", "&Eraser"});
+        return *view.findChild<QMenu*>("rcMenu");
+    }
+
+    void resize(int width, int height)
+    {
+        view.resize(width, height);
+        QCoreApplication::processEvents();
+    }
+
+    /// It shows that it has the keyboard.
+    [[nodiscard]] bool canvasIsFramed() const
+    {
+        return form.Canvas->grab().toImage().pixelColor(0, 300) != QColor(Qt::white);
+    }
+};
 
 } // namespace
 
-TEST(QtWindow, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
+TEST_F(QtWindowTest, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
 {
-    ShownMain main;
-    QWindow* const window = main.view.windowHandle();
-    const QPoint place = main.form.Canvas->mapTo(&main.view, QPoint(100, 200));
-    QTest::mouseMove(window, place);
-    main.events.clear();
-    QTest::mouseDClick(window, Qt::LeftButton, {}, place);
-    EXPECT_EQ(main.events.back().place.x, 1500);
-    EXPECT_EQ(main.events.back().place.y, 3000);
-    EXPECT_EQ(main.noted(), "mouseDown 1\nmouseUp 1\nmouseDown 1\nmouseUp 1\n");
+    const QPoint place = form.Canvas->mapTo(&view, QPoint(100, 200));
+    QTest::mouseMove(screen, place);
+    events.clear();
+    QTest::mouseDClick(screen, Qt::LeftButton, {}, place);
+    EXPECT_EQ(events.back().place.x, 1500);
+    EXPECT_EQ(events.back().place.y, 3000);
+    EXPECT_EQ(noted(), "mouseDown 1\nmouseUp 1\nmouseDown 1\nmouseUp 1\n");
 
-    QMenu& menu = addPopup(main);
-    QTest::mousePress(window, Qt::LeftButton, {}, place);
-    QTest::mousePress(window, Qt::RightButton, {}, place);
-    main.window->popUp("rc", {1500, 3000});
+    QMenu& menu = addPopup();
+    QTest::mousePress(screen, Qt::LeftButton, {}, place);
+    QTest::mousePress(screen, Qt::RightButton, {}, place);
+    window->popUp("rc", {1500, 3000});
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&menu));
-    EXPECT_EQ(main.noted(), "mouseDown 1\nmouseDown 2\nhover 0\n"); // the menu lies under the mouse
+    EXPECT_EQ(noted(), "mouseDown 1\nmouseDown 2\nhover 0\n"); // the menu lies under the mouse
     QTest::mouseRelease(menu.windowHandle(), Qt::RightButton, {}, {20, 20});
     menu.close();
-    QTest::mouseRelease(window, Qt::LeftButton, {}, place);
-    EXPECT_EQ(main.noted(), "mouseUp 2\nclick eras0\nmouseUp 1\n");
+    QTest::mouseRelease(screen, Qt::LeftButton, {}, place);
+    EXPECT_EQ(noted(), "mouseUp 2\nclick eras0\nmouseUp 1\n");
 
-    QTest::mousePress(window, Qt::LeftButton, {}, place);
-    QDialog box(&main.view);
+    QTest::mousePress(screen, Qt::LeftButton, {}, place);
+    QDialog box(&view);
     box.open();
-    QTest::mouseRelease(window, Qt::LeftButton, {}, place);
-    EXPECT_EQ(main.noted(), "mouseDown 1\n");
+    QTest::mouseRelease(screen, Qt::LeftButton, {}, place);
+    EXPECT_EQ(noted(), "mouseDown 1\n");
     box.close();
-    EXPECT_EQ(main.noted(), "mouseUp 1\n");
+    EXPECT_EQ(noted(), "mouseUp 1\n");
 
     const QPoint before = QCursor::pos();
-    QCursor::setPos(main.form.Canvas->mapToGlobal(QPoint(100, 200)));
+    QCursor::setPos(form.Canvas->mapToGlobal(QPoint(100, 200)));
     QFocusEvent keyboardIsBack(QEvent::FocusIn, Qt::PopupFocusReason);
-    QCoreApplication::sendEvent(main.form.Canvas, &keyboardIsBack);
-    main.events.clear();
+    QCoreApplication::sendEvent(form.Canvas, &keyboardIsBack);
+    events.clear();
     QCoreApplication::processEvents();
     QCursor::setPos(before);
-    ASSERT_FALSE(main.events.empty());
-    EXPECT_EQ(main.events.back().place.y, 3000);
-    EXPECT_EQ(main.noted(), "hover Canvas0\n");
+    ASSERT_FALSE(events.empty());
+    EXPECT_EQ(events.back().place.y, 3000);
+    EXPECT_EQ(noted(), "hover Canvas0\n");
 }
 
-TEST(QtWindow, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
+TEST_F(QtWindowTest, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
 {
-    ShownMain main;
-    main.window->show({control::Frame2});
+    window->show({Frame2});
+    addPopup();
     const auto send = [](QWidget& below, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
         QWidget* const popup = QApplication::activePopupWidget();
         QWidget& target = popup != nullptr ? *popup : below;
@@ -90,77 +105,71 @@ TEST(QtWindow, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMen
         send(below, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
         send(below, QEvent::MouseButtonRelease, Qt::LeftButton, {});
     };
-    addPopup(main);
     for (const auto& [below, dropped, done] :
-         {std::tuple<QWidget*, const char*, const char*>{main.form.Canvas, "mouseMove 0\n", "mouseDown 1\nmouseUp 1\n"},
-          {main.form.Image7, "hover Image70\n", "click Image70\n"}}) {
+         {std::tuple<QWidget*, const char*, const char*>{form.Canvas, "mouseMove 0\n", "mouseDown 1\nmouseUp 1\n"},
+          {form.Image7, "hover Image70\n", "click Image70\n"}}) {
         QPushButton answer;
         send(answer, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
         doubleClick(*below);
-        EXPECT_EQ(main.noted(), dropped);
+        EXPECT_EQ(noted(), dropped);
 
-        main.window->popUp("rc", {1500, 3000});
+        window->popUp("rc", {1500, 3000});
         send(*below, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
         doubleClick(*below);
-        EXPECT_NE(main.noted().find(done), std::string::npos);
+        EXPECT_NE(noted().find(done), std::string::npos);
     }
 }
 
-TEST(QtWindow, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
+TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
 {
-    ShownMain main;
-    main.window->addMenuItem(0, {"file", "&File"});
-    main.window->addMenuItem(1, {"new", "&New"});
-    QMenu& menu = addPopup(main);
-    for (const auto& [x, y, place] :
-         {std::tuple{1500, 3000, QPoint(100, 200)}, {-9000, 3000, {0, 200}}, {1500, -15, {100, 0}}}) {
-        main.window->popUp("rc", {static_cast<float>(x), static_cast<float>(y)});
-        EXPECT_EQ(main.form.Canvas->mapFromGlobal(menu.pos()), place);
+    window->addMenuItem(0, {"file", "&File"});
+    window->addMenuItem(1, {"new", "&New"});
+    QMenu& menu = addPopup();
+    for (const auto& [at, place] :
+         {std::pair{Point{1500, 3000}, QPoint(100, 200)}, {{-9000, 3000}, {0, 200}}, {{1500, -15}, {100, 0}}}) {
+        window->popUp("rc", at);
+        EXPECT_EQ(form.Canvas->mapFromGlobal(menu.pos()), place);
         menu.close();
     }
-    main.view.activateWindow(); // without a window manager a menu does not give the keyboard back
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&main.view));
-    main.window->show({control::Frame2, control::panel, control::sup, control::Text11});
-    for (QWidget* const focus :
-         std::initializer_list<QWidget*>{main.form.Canvas, main.form.Image1, main.form.Option2}) {
+    view.activateWindow(); // without a window manager a menu does not give the keyboard back
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    window->show({Frame2, panel, sup, Text11});
+    for (QWidget* const focus : std::initializer_list<QWidget*>{form.Canvas, form.Image1, form.Option2}) {
         focus->setFocus();
-        QTest::keyClick(main.view.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
-        EXPECT_EQ(main.noted(), "click rc0\n");
+        QTest::keyClick(screen, Qt::Key_F10, Qt::ShiftModifier);
+        EXPECT_EQ(noted(), "click rc0\n");
     }
-    main.form.Text11->setFocus();
-    QTest::keyClick(main.view.windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+    form.Text11->setFocus();
+    QTest::keyClick(screen, Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text's own
     QApplication::activePopupWidget()->close();
-    QTest::keyClick(main.view.windowHandle(), Qt::Key_F10);
+    QTest::keyClick(screen, Qt::Key_F10);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "fileMenu");
     EXPECT_NE(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).activeAction(), nullptr);
-    QTest::keyClick(main.view.windowHandle(), Qt::Key_Escape);
-    EXPECT_EQ(QApplication::focusWidget(), main.form.Text11);
-    EXPECT_EQ(main.noted(), "");
+    QTest::keyClick(screen, Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), form.Text11);
+    EXPECT_EQ(noted(), "");
 }
 
-TEST(QtWindow, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
+TEST_F(QtWindowTest, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
 {
-    ShownMain main;
-    main.window->show({control::Frame2});
-    QWindow* const window = main.view.windowHandle();
-    const auto moveTo = [&](QPoint place) { QTest::mouseMove(window, main.form.Frame2->mapTo(&main.view, place)); };
-    const QPoint edge = main.form.Frame2->rect().bottomLeft() + QPoint(2, -20);
+    window->show({Frame2});
+    const auto moveTo = [&](QPoint place) { QTest::mouseMove(screen, form.Frame2->mapTo(&view, place)); };
+    const QPoint edge = form.Frame2->rect().bottomLeft() + QPoint(2, -20);
     moveTo(edge);
-    main.events.clear();
-    QTest::mousePress(window, Qt::LeftButton, {}, main.form.Frame2->mapTo(&main.view, edge));
+    events.clear();
+    QTest::mousePress(screen, Qt::LeftButton, {}, form.Frame2->mapTo(&view, edge));
     moveTo(edge + QPoint(0, 1));
     moveTo(edge + QPoint(0, 2));
-    moveTo(main.form.Image1->geometry().center()); // is not over the frame itself
-    moveTo({-50, 0});                              // nor is this
-    EXPECT_EQ(main.noted(), "hover Frame20\nhover Frame20\n");
+    moveTo(form.Image1->geometry().center()); // is not over the frame itself
+    moveTo({-50, 0});                         // nor is this
+    EXPECT_EQ(noted(), "hover Frame20\nhover Frame20\n");
 }
 
-TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
+TEST_F(QtWindowTest, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
 {
-    ShownMain main;
-    main.window->show({control::panel, control::sup, control::bat, control::Text11});
+    window->show({panel, sup, bat, Text11});
     struct Case {
         QSize window;
         QPoint pen;
@@ -177,167 +186,146 @@ TEST(QtWindow, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
                           {{784, 552}, {106, 100}, true, Qt::AlignBottom | Qt::AlignLeft, true},
                           {{1000, 700}, {106, 100}, true, Qt::AlignBottom | Qt::AlignRight},
                           {{1000, 700}, {106, 600}, false, Qt::AlignTop | Qt::AlignRight, true}};
-    QDialog help(&main.view);
+    QDialog help(&view);
     for (const auto& [size, pen, toolbox, corner, helpBelow] : cases) {
         SCOPED_TRACE(std::to_string(pen.x()) + ' ' + std::to_string(pen.y()));
-        main.view.resize(size);
-        help.setGeometry(QRect(main.form.Canvas->mapToGlobal(QPoint(0, size.height() - 300)), QSize(1000, 300)));
+        view.resize(size);
+        help.setGeometry(QRect(form.Canvas->mapToGlobal(QPoint(0, size.height() - 300)), QSize(1000, 300)));
         help.setVisible(helpBelow);
-        main.window->setVisible(control::Frame2, toolbox);
-        main.window->placeAwayFrom(control::panel, {static_cast<float>(15 * pen.x()), static_cast<float>(15 * pen.y())},
-                                   control::Frame2);
+        window->setVisible(Frame2, toolbox);
+        window->placeAwayFrom(panel, {static_cast<float>(15 * pen.x()), static_cast<float>(15 * pen.y())}, Frame2);
         QCoreApplication::processEvents();
-        const QRect canvas = main.form.Canvas->geometry();
-        const QRect panel = main.form.panel->geometry();
+        const QRect canvas = form.Canvas->geometry();
+        const QRect panel = form.panel->geometry();
         EXPECT_EQ(panel, QStyle::alignedRect(Qt::LeftToRight, corner, panel.size(), canvas));
         EXPECT_TRUE(canvas.contains(panel));
     }
 }
 
-TEST(QtWindow, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
+TEST_F(QtWindowTest, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
 {
-    ShownMain main;
-    using namespace control;
-    main.window->show({panel, sup, bat, Text11});
-    const QRect field = main.form.Text11->geometry();
-    for (const auto& [cancel, hidden] : {std::pair{main.form.Command7, Command8}, {main.form.Command8, Command7}}) {
-        main.window->show({Command3, Command7, Command8});
-        main.window->hide({hidden});
+    window->show({panel, sup, bat, Text11});
+    const QRect field = form.Text11->geometry();
+    for (const auto& [cancel, hidden] : {std::pair{form.Command7, Command8}, {form.Command8, Command7}}) {
+        window->show({Command3, Command7, Command8});
+        window->hide({hidden});
         QCoreApplication::processEvents();
-        const QRect place({cancel->mapTo(main.form.panel, QPoint()), cancel->size()});
+        const QRect place({cancel->mapTo(form.panel, QPoint()), cancel->size()});
         EXPECT_EQ(place.right(), field.right());
-        EXPECT_LT(place.left() - main.form.Command3->geometry().right(), 12);
-        EXPECT_EQ(main.form.Text11->geometry(), field);
+        EXPECT_LT(place.left() - form.Command3->geometry().right(), 12);
+        EXPECT_EQ(form.Text11->geometry(), field);
     }
 }
 
-TEST(QtWindow, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
+TEST_F(QtWindowTest, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
 {
-    ShownMain main;
-    main.window->show({control::Frame2});
-    const auto& toolbox = *main.form.Frame2;
-    const auto place = [&] { return QPoint(main.form.Canvas->width(), 0) - toolbox.geometry().topRight(); };
-    const auto resize = [&](int width, int height) {
-        main.view.resize(width, height);
-        QCoreApplication::processEvents();
-    };
+    window->show({Frame2});
+    const auto& toolbox = *form.Frame2;
+    const auto place = [&] { return QPoint(form.Canvas->width(), 0) - toolbox.geometry().topRight(); };
     const QPoint atStart = place();
     for (const int width : {1000, 1200, 700}) {
         resize(width, 700);
         EXPECT_EQ(place(), atStart) << width;
     }
     const auto drop = [&](QPoint at) {
-        main.window->setLeft(control::Frame2, at.x() * twipsPerPixel);
-        main.window->setTop(control::Frame2, at.y() * twipsPerPixel);
+        window->setLeft(Frame2, at.x() * twipsPerPixel);
+        window->setTop(Frame2, at.y() * twipsPerPixel);
     };
     resize(1000, 700);
     const QPoint beyondTheEdge(900, 20);
     drop(beyondTheEdge);
     resize(1050, 750);
     EXPECT_EQ(toolbox.pos(), beyondTheEdge);
-    main.window->setVisible(control::Frame2, false);
-    for (const int width : {600, 1000}) { // nobody sees it there
-        resize(width, 700);
-    }
-    main.window->setVisible(control::Frame2, true);
+    window->setVisible(Frame2, false);
+    resize(600, 700); // nobody sees it there
+    resize(1000, 700);
+    window->setVisible(Frame2, true);
     EXPECT_EQ(toolbox.pos(), beyondTheEdge);
     for (const bool shown : {true, false}) {
         resize(1000, 700);
         drop(beyondTheEdge);
-        main.window->setVisible(control::Frame2, shown);
+        window->setVisible(Frame2, shown);
         resize(600, 700);
-        main.window->setVisible(control::Frame2, true);
-        EXPECT_TRUE(main.form.Canvas->rect().contains(toolbox.geometry()));
+        window->setVisible(Frame2, true);
+        EXPECT_TRUE(form.Canvas->rect().contains(toolbox.geometry()));
     }
 }
 
-TEST(QtWindow, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
+TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
 {
-    ShownMain main;
-    using namespace control;
-    main.window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
-    main.window->enable({Text11, Command3, Command7, Command8});
-    main.form.Canvas->setFocus();
+    window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
+    window->enable({Text11, Command3, Command7, Command8});
+    form.Canvas->setFocus();
     for (const QString& next :
          QString("Option3 Option2 Option4 Option5 Text11 Command3 Command8 Command7 Image1 Image2 Image3 Image4 Image5 "
                  "Image15 Image16 Image17 Image18 Image19 Image20 Image7 Canvas")
              .split(' ')) {
-        QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(main.view.focusWidget()->objectName().toStdString(), next.toStdString());
-        QTest::keyClick(main.view.focusWidget(), Qt::Key_Right);
-        QTest::keyClick(main.view.focusWidget(), Qt::Key_S);
-        EXPECT_EQ(main.noted(), next == "Text11" ? "" : "keyDown 39\nkeyDown 0\nkeyPress 115\n");
+        QTest::keyClick(view.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(view.focusWidget()->objectName().toStdString(), next.toStdString());
+        QTest::keyClick(view.focusWidget(), Qt::Key_Right);
+        QTest::keyClick(view.focusWidget(), Qt::Key_S);
+        EXPECT_EQ(noted(), next == "Text11" ? "" : "keyDown 39\nkeyDown 0\nkeyPress 115\n");
     }
-    const auto edge = [&main] { return main.form.Canvas->grab().toImage().pixelColor(0, 300); };
-    EXPECT_NE(edge(), QColor(Qt::white)); // it shows that it has the keyboard
-    QTest::keyClick(main.form.Canvas, Qt::Key_Backtab);
-    EXPECT_EQ(edge(), QColor(Qt::white));
-    EXPECT_EQ(main.view.focusWidget(), main.form.Image7);
-    main.window->focus(Canvas); // not by Tab
-    EXPECT_EQ(edge(), QColor(Qt::white));
-    main.form.Image7->setFocus();
-    QTest::keyClick(main.form.Image7, Qt::Key_Space);
-    EXPECT_EQ(main.noted(), "click Image70\n");
+    EXPECT_TRUE(canvasIsFramed());
+    QTest::keyClick(form.Canvas, Qt::Key_Backtab);
+    EXPECT_FALSE(canvasIsFramed());
+    EXPECT_EQ(view.focusWidget(), form.Image7);
+    window->focus(Canvas); // not by Tab
+    EXPECT_FALSE(canvasIsFramed());
+    form.Image7->setFocus();
+    QTest::keyClick(form.Image7, Qt::Key_Space);
+    EXPECT_EQ(noted(), "click Image70\n");
 
-    main.form.Canvas->setFocus(Qt::TabFocusReason);
-    QTest::mouseClick(main.form.Canvas, Qt::LeftButton);
-    EXPECT_EQ(edge(), QColor(Qt::white));
+    form.Canvas->setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(form.Canvas, Qt::LeftButton);
+    EXPECT_FALSE(canvasIsFramed());
 }
 
-TEST(QtWindow, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
+TEST_F(QtWindowTest, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
 {
-    ShownMain main;
-    using namespace control;
-    main.window->show({Frame2, panel, sup, Text11, Command3});
+    window->show({Frame2, panel, sup, Text11, Command3});
     for (const auto& [focus, goes] :
-         {std::pair<QWidget*, void (*)(Window&)>{main.form.Text11, [](Window& window) { window.disable({Text11}); }},
-          {main.form.Command3, [](Window& window) { window.hide({panel}); }},
-          {main.form.Image7, [](Window& window) { window.hide({Frame2}); }}}) {
+         {std::pair<QWidget*, void (*)(Window&)>{form.Text11, [](Window& main) { main.disable({Text11}); }},
+          {form.Command3, [](Window& main) { main.hide({panel}); }},
+          {form.Image7, [](Window& main) { main.hide({Frame2}); }}}) {
         focus->setFocus();
-        QStringList visited;
-        const auto watch =
-            QObject::connect(qApp, &QApplication::focusChanged,
-                             [&](const QWidget* /*old*/, const QWidget* now) { visited << now->objectName(); });
-        goes(*main.window);
-        QObject::disconnect(watch);
-        EXPECT_EQ(visited.join(' ').toStdString(), "Canvas");
-        EXPECT_EQ(main.form.Canvas->grab().toImage().pixelColor(0, 300), QColor(Qt::white));
+        const QSignalSpy moves(qApp, &QApplication::focusChanged);
+        goes(*window);
+        EXPECT_EQ(moves.size(), 1);
+        EXPECT_EQ(view.focusWidget(), form.Canvas);
+        EXPECT_FALSE(canvasIsFramed());
     }
 }
 
-TEST(QtWindow, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
+TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
 {
-    ShownMain main;
-    main.window->addToolButton("Line", "", Look::unchecked);
-    main.window->addToolButton("Fore", "", Look::plain);
-    auto& bar = *main.view.findChild<QToolBar*>();
+    window->addToolButton("Line", "", Look::unchecked);
+    window->addToolButton("Fore", "", Look::plain);
+    auto& bar = *view.findChild<QToolBar*>();
     auto& button = *bar.widgetForAction(bar.actions().front());
     for (const bool pressed : {false, true}) {
-        main.window->setChecked("Line", pressed);
+        window->setChecked("Line", pressed);
         QTest::mouseClick(&button, Qt::LeftButton);
-        EXPECT_EQ(main.window->checked("Line"), pressed);
-        EXPECT_NE(main.noted().find("click Line"), std::string::npos);
+        EXPECT_EQ(window->checked("Line"), pressed);
+        EXPECT_NE(noted().find("click Line"), std::string::npos);
     }
     for (const QColor color : {QColor(Qt::white), QColor(255, 0, 10), QColor(Qt::black)}) {
-        main.window->setSwatch("Fore", toColor(color));
+        window->setSwatch("Fore", toColor(color));
         for (const double ratio : {1.0, 1.5, 2.0}) {
             const QImage icon = bar.actions().back()->icon().pixmap({24, 24}, ratio).toImage();
+            const auto pixel = [&](QPointF place) { return icon.pixelColor((place * ratio).toPoint()); };
             EXPECT_EQ(icon.width(), 24 * ratio);
-            const int left = static_cast<int>(4 * ratio);
-            const int right = static_cast<int>(20 * ratio);
-            const int y = static_cast<int>(18.5 * ratio);
-            EXPECT_EQ(icon.pixelColor(left, y), color);
-            EXPECT_EQ(icon.pixelColor(right, y), color);
-            EXPECT_NE(icon.pixelColor(left, static_cast<int>(15.5 * ratio)), color); // its outline
+            EXPECT_EQ(pixel({4, 18}), color);
+            EXPECT_EQ(pixel({20, 18}), color);
+            EXPECT_NE(pixel({4, 15}), color); // its outline
         }
     }
 }
 
-TEST(QtWindow, ShowsTheWholeNameOfADrawing)
+TEST_F(QtWindowTest, ShowsTheWholeNameOfADrawing)
 {
-    ShownMain main;
-    main.window->setCaption("plan [*] b");
-    EXPECT_EQ(main.view.windowHandle()->title(), "plan [*] b");
+    window->setCaption("plan [*] b");
+    EXPECT_EQ(screen->title(), "plan [*] b");
 }
 
 } // namespace schemlet
