@@ -40,30 +40,34 @@ public:
     {
     }
 
+    /// Does something, and waits until the screen has done it.
     void act()
     {
+        actByChance();
+        free(xcb_get_input_focus_reply(m_screen.get(), xcb_get_input_focus(m_screen.get()), nullptr));
+    }
+
+private:
+    void actByChance()
+    {
         switch (m_chance.below(16)) {
-        case 0: return press(place::control, m_chance.of(place::letters));
+        case 0: return tap(m_chance.of(place::letters), place::control);
         case 1: return walkMenu();
         case 2: return typeText();
-        case 3: return press(place::shift, m_chance.of(place::others));
+        case 3: return tap(m_chance.of(place::others), place::shift);
         case 4:
         case 5: return tap(m_chance.of(place::others));
         case 6: return tap(m_chance.of(place::letters));
         case 7: return m_chance.oneIn(10) ? reshape() : move();
         case 8:
-        case 9: return drag();
+        case 9: return drag(XCB_BUTTON_INDEX_1, m_chance.below(10));
         case 10:
         case 11:
-        case 12: return click(1 + (m_chance.oneIn(3) ? m_chance.below(5) : 0));
+        case 12: return drag(1 + (m_chance.oneIn(3) ? m_chance.below(5) : 0), 0);
         default: return tap(m_chance.of(place::arrows));
         }
     }
 
-    /// Waits until the screen has done all that.
-    void finish() { free(xcb_get_input_focus_reply(m_screen.get(), xcb_get_input_focus(m_screen.get()), nullptr)); }
-
-private:
     void fake(std::uint8_t kind, int detail, int x = 0, int y = 0)
     {
         xcb_test_fake_input(m_screen.get(), kind, static_cast<std::uint8_t>(detail), XCB_CURRENT_TIME, m_root,
@@ -74,7 +78,7 @@ private:
         fake(XCB_KEY_PRESS, key);
         fake(XCB_KEY_RELEASE, key);
     }
-    void press(int modifier, int key)
+    void tap(int key, int modifier)
     {
         fake(XCB_KEY_PRESS, modifier);
         tap(key);
@@ -82,7 +86,7 @@ private:
     }
     void walkMenu()
     {
-        press(place::alt, m_chance.of(place::menus));
+        tap(m_chance.of(place::menus), place::alt);
         for (int steps = m_chance.below(20); steps > 0; --steps) {
             tap(m_chance.of(place::menuSteps));
         }
@@ -96,22 +100,15 @@ private:
         tap(place::enter);
     }
     void move() { fake(XCB_MOTION_NOTIFY, 0, m_chance.below(1280), m_chance.below(1024)); }
-    void click(int button)
+    void drag(int button, int moves)
     {
         move();
         fake(XCB_BUTTON_PRESS, button);
-        fake(XCB_BUTTON_RELEASE, button);
-    }
-    void drag()
-    {
-        move();
-        fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
-        for (int moves = m_chance.below(10); moves > 0; --moves) {
+        for (; moves > 0; --moves) {
             move();
         }
-        fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
+        fake(XCB_BUTTON_RELEASE, button);
     }
-
     /// Gives a window another place and size.
     void reshape()
     {
@@ -136,67 +133,42 @@ int residentMegabytes(const QProcess& program)
     return pages.open(QFile::ReadOnly) ? pages.readAll().split(' ').value(1).toInt() / pagesPerMegabyte : 0;
 }
 
-/// One run of the program, from its start to its end or until it is told to end.
-class Life {
-public:
-    explicit Life(const QString& path)
-    {
-        m_program.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_program.start(path, QStringList());
-        m_age.start();
-    }
-
-    /// Looks after it for a moment; says whether it goes on.
-    bool goesOn()
-    {
-        constexpr int moment = 2; // milliseconds, the pace of the whole
-        if (m_program.waitForFinished(moment)) {
-            return false;
+/// One run of the program, until it ends or is told to; says whether it ended well and had not grown by more megabytes.
+bool live(Hands& hands, const QString& path, qint64 milliseconds, int growth)
+{
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedChannels);
+    program.start(path, QStringList());
+    QElapsedTimer age;
+    age.start();
+    int megabytes = 0;
+    constexpr int moment = 2;    // milliseconds, the pace of the whole
+    constexpr int warm = 50'000; // in which most dialogs have been open
+    while (!program.waitForFinished(moment) && age.elapsed() < milliseconds) {
+        if (megabytes == 0 && age.elapsed() >= warm) {
+            megabytes = residentMegabytes(program);
         }
-        constexpr int warm = 50; // seconds, in which most dialogs have been open
-        if (m_megabytes == 0 && m_age.elapsed() >= 1000LL * warm) {
-            m_megabytes = residentMegabytes(m_program);
-        }
-        return true;
+        hands.act();
     }
+    const int grown = megabytes == 0 ? 0 : residentMegabytes(program) - megabytes;
+    program.terminate();
+    constexpr int patienceWithAsan = 60'000;
+    const bool ended = program.state() == QProcess::NotRunning || program.waitForFinished(patienceWithAsan);
+    std::cout << "  lived " << age.elapsed() / 1000 << " s, grew by " << grown << " MB" << std::endl;
+    return ended && program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0 && grown <= growth;
+}
 
-    /// Says whether it ended well and had not grown by more megabytes.
-    bool endsWell(int growth)
-    {
-        const int grown = m_megabytes == 0 ? 0 : residentMegabytes(m_program) - m_megabytes;
-        m_program.terminate();
-        constexpr int patience = 60000; // milliseconds
-        const bool ended = m_program.state() == QProcess::NotRunning || m_program.waitForFinished(patience);
-        std::cout << "  lived " << m_age.elapsed() / 1000 << " s, grew by " << grown << " MB" << std::endl;
-        return ended && m_program.exitStatus() == QProcess::NormalExit && m_program.exitCode() == 0 && grown <= growth;
-    }
-
-private:
-    QProcess m_program;
-    QElapsedTimer m_age;
-    int m_megabytes = 0; ///< once it is warm
-};
-
-bool drive(const QString& program, std::uint64_t seed, int seconds, int growth)
+bool drive(const QString& program, std::uint64_t seed, qint64 milliseconds, int growth)
 {
     Hands hands(seed);
     QElapsedTimer time;
     time.start();
-    long acts = 0;
-    while (time.elapsed() < seconds * 1000LL) {
-        Life life(program);
-        while (time.elapsed() < seconds * 1000LL && life.goesOn()) {
-            hands.act();
-            hands.finish();
-            ++acts;
-        }
-        if (!life.endsWell(growth)) {
-            std::cout << "seed " << seed << ": broken after " << acts << " acts" << std::endl;
-            return false;
-        }
+    bool good = true;
+    while (good && time.elapsed() < milliseconds) {
+        good = live(hands, program, milliseconds - time.elapsed(), growth);
     }
-    std::cout << "seed " << seed << ": " << acts << " acts" << std::endl;
-    return true;
+    std::cout << "seed " << seed << (good ? ": good" : ": broken") << std::endl;
+    return good;
 }
 
 } // namespace
@@ -213,5 +185,5 @@ int main(int argc, char* argv[])
         return 2;
     }
     const Desk desk;
-    return drive(words[1], words[2].toULongLong(), words[3].toInt(), words[4].toInt()) ? 0 : 1;
+    return drive(words[1], words[2].toULongLong(), words[3].toInt() * 1000LL, words[4].toInt()) ? 0 : 1;
 }

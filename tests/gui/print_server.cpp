@@ -1,6 +1,9 @@
 #include "tests/gui/print_server.h"
 
+#include "tests/support/sample_files.h"
+
 #include <QDir>
+#include <QTest>
 #include <cups/cups.h>
 #include <gtest/gtest.h>
 
@@ -10,61 +13,15 @@ namespace {
 
 constexpr auto queue = "Desk_Printer";
 
-// In these, @ stands for the folder. Everybody who reaches the socket may do anything, but only the folder's owner can
-// enter it. What was printed is what the service keeps of each job.
-constexpr std::pair<const char*, const char*> files[] = {
-    {"cups-files.conf", R"(ServerRoot @
-StateDir @
-CacheDir @
-RequestRoot @/jobs
-TempDir @
-AccessLog stderr
-ErrorLog stderr
-PageLog stderr
-)"},
-    {"cupsd.conf", R"(Listen @/socket
-Browsing No
-MaxJobs 2
-PreserveJobFiles Yes
-<Location />
-Order deny,allow
-</Location>
-<Policy default>
-<Limit All>
-Order deny,allow
-</Limit>
-</Policy>
-)"},
-    {"printers.conf", R"(<DefaultPrinter Desk_Printer>
-DeviceURI file:///dev/null
-State Idle
-Accepting Yes
-</DefaultPrinter>
-)"},
-    // A colour printer that prints PDF as it is.
-    {"ppd/Desk_Printer.ppd", R"(*PPD-Adobe: "4.3"
-*ColorDevice: True
-*cupsFilter2: "application/pdf application/pdf 0 -"
-*OpenUI *PageSize: PickOne
-*DefaultPageSize: A4
-*PageSize A4/A4: ""
-*CloseUI: *PageSize
-*ImageableArea A4/A4: "18 36 571 818"
-*PaperDimension A4/A4: "595 842"
-*DefaultResolution: 600dpi
-)"},
-};
-
 } // namespace
 
 PrintServer::PrintServer()
 {
     const QDir folder(m_folder.path());
     folder.mkdir("ppd");
-    for (const auto& [name, text] : files) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(text).replace('@', QFile::encodeName(folder.path())));
+    for (const char* const name : {"cups-files.conf", "cupsd.conf", "printers.conf", "ppd/Desk_Printer.ppd"}) {
+        QByteArray text = contents(QFINDTESTDATA("print_server/") + name);
+        store(folder.filePath(name), text.replace('@', QFile::encodeName(folder.path())));
     }
     // A copy, as a security profile may confine the installed one to the folders of the system.
     const QString program = folder.filePath("cupsd");

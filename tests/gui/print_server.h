@@ -29,8 +29,8 @@ public:
 
     /// How many jobs wait to be printed.
     [[nodiscard]] int waitingJobs() const;
-    /// The printed files, oldest first, once no job is waiting any more. A job another process is just about to send
-    /// must be waited for.
+    /// The last two printed files, older first, once no job is waiting any more. A job another process is just about to
+    /// send must be waited for.
     [[nodiscard]] QStringList printedFiles() const;
 
 private:
