@@ -20,7 +20,7 @@ void demand(bool holds)
     }
 }
 
-/// None where it is too large.
+/// None where it is too large, not a number where it is none.
 template <double (*convert)(std::string_view)> std::optional<double> converted(std::string_view text)
 {
     try {
@@ -29,13 +29,6 @@ template <double (*convert)(std::string_view)> std::optional<double> converted(s
         demand(error.fault == Fault::overflow || error.fault == Fault::typeMismatch);
         return error.fault == Fault::overflow ? std::nullopt : std::optional(std::nan(""));
     }
-}
-
-/// The same of a number's own characters.
-std::optional<double> expected(const std::string& number)
-{
-    const double value = std::strtod(number.c_str(), nullptr); // the locale is C, as nothing sets another
-    return std::isinf(value) ? std::nullopt : std::optional(value);
 }
 
 /// Fifteen digits give the number back but for what lies behind them; the very largest are rounded out of range.
@@ -66,7 +59,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const bool found = std::regex_search(text, match, leading, std::regex_constants::match_continuous);
     const bool all = found && std::regex_match(match.suffix().str(), trailing);
     const std::optional<double> read = converted<leadingNumber>(text);
-    demand(read == (found ? expected(match[1]) : 0.0));
+    const double value =
+        found ? std::strtod(match[1].str().c_str(), nullptr) : 0; // in the locale C, as nothing sets another
+    demand(read == (std::isinf(value) ? std::nullopt : std::optional(value)));
     const std::optional<double> whole = converted<toNumber>(text);
     demand(all ? whole == read : whole && std::isnan(*whole));
     if (read) {

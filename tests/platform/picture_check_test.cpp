@@ -83,10 +83,10 @@ std::string gif(char firstBlock = '!')
 std::vector<std::string> wholePictures()
 {
     std::vector<std::string> out{png(), jpeg(), gif(), "#define a_width 9\nstatic char a[] = {0, 0}"};
-    for (const auto& [bits, rowBytes] : {std::pair{1, 4}, {4, 8}, {8, 12}, {16, 20}, {24, 28}, {32, 36}}) {
-        out.push_back(bmp({9, 7, bits}, filler(rowBytes * 7LL)));
-        out.push_back(bmp({9, -7, bits, 0, 0, 0, 124}, filler(rowBytes * 7LL)));
-        out.push_back(bmp({9, 7, bits, 0, 0, 0, 12}, filler(rowBytes * 7LL)));
+    for (const auto& [bits, bytes] : {std::pair{1, 28}, {4, 56}, {8, 84}, {16, 140}, {24, 196}, {32, 252}}) {
+        for (const Bmp& header : {Bmp{9, 7, bits}, {9, -7, bits, 0, 0, 0, 124}, {9, 7, bits, 0, 0, 0, 12}}) {
+            out.push_back(bmp(header, filler(bytes)));
+        }
     }
     out.push_back(bmp({9, 7, 8, 0, 0, 3}, filler(84)));
     out.push_back(bmp({9, 7, 16, 3}, filler(140)));
