@@ -15,7 +15,7 @@ namespace {
 
 struct Press {
     int key = 0;
-    enum { fresh, repeat, markedRepeat } kind = fresh;
+    enum { fresh, repeat, markedRepeat } kind = fresh; ///< the toolkit marks some repeats
 };
 
 /// Once the next box is open; then clicks its default button.
@@ -23,19 +23,20 @@ void sendToBox(const std::vector<Press>& presses)
 {
     QTimer::singleShot(0, qApp, [presses] {
         QWidget& box = *QApplication::activeModalWidget();
-        for (const auto& [key, kind] : presses) {
+        const auto send = [&box](QEvent::Type type, const Press& press, quint64 time) {
+            const QString text = press.key < Qt::Key_Escape ? QString(QChar(press.key)) : QString();
+            const auto place = static_cast<quint32>(press.key);
+            QKeyEvent event(type, press.key, {}, place, 0, 0, text, press.kind == Press::markedRepeat);
+            event.setTimestamp(time);
+            QCoreApplication::sendEvent(box.focusWidget(), &event);
+        };
+        for (const Press& press : presses) {
             static quint64 time = 0;
             ++time;
-            for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-                if (type == QEvent::KeyPress ||
-                    kind != Press::fresh) { // X11 tells of a repeat as both at the same time
-                    const QString text = key < Qt::Key_Escape ? QString(QChar(key)) : QString();
-                    const auto place = static_cast<quint32>(key);
-                    QKeyEvent event(type, key, {}, place, 0, 0, text, kind == Press::markedRepeat);
-                    event.setTimestamp(time);
-                    QCoreApplication::sendEvent(box.focusWidget(), &event);
-                }
+            if (press.kind == Press::repeat) { // X11 tells of it as a release and a press at the same time
+                send(QEvent::KeyRelease, press, time);
             }
+            send(QEvent::KeyPress, press, time);
         }
         QTest::keyClick(box.focusWidget(), Qt::Key_Return);
     });
