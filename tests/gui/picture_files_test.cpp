@@ -119,7 +119,7 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
         {store("wide", "P6 8193 8192 255\n"), "wide is too large: 8193 x 8192 pixels, at most 67 megapixels"},
     };
     for (const auto& [path, expected] : cases) {
-        EXPECT_THAT([&] { (void)loadPicture(path); },
+        EXPECT_THAT([&file = path] { (void)loadPicture(file); },
                     ThrowsMessage<RuntimeError>("Invalid picture\n\nThe file " + expected + "."));
     }
 }
