@@ -1,6 +1,5 @@
 #include "tests/gui/program.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace schemlet {
@@ -32,20 +31,14 @@ QString namesOf(const std::vector<Accessible>& all, const QString& window, const
 TEST(Program, NamesEveryControlOfAllItsWindowsAndMenus)
 {
     Program program;
-    const QString main = program.find("canvas", "Canvas")->window;
+    const QString main = program.bus().windowInFront().name;
     for (const auto& [key, title] :
          {std::pair{"ctrl+u", "Output"}, {"F1", "Help"}, {"ctrl+a", "About Schemlet v2.0"}}) {
-        program.keys({key});
-        program.waitForWindow(title);
+        program.open(key, title);
         program.activate();
     }
-    program.keys({"r"});
-    program.waitForWindow(" RESISTANCE ");
+    program.open("r", " RESISTANCE ");
     const std::vector<Accessible> all = program.bus().everything();
-
-    const auto controls = std::ranges::count_if(all, needsName);
-    RecordProperty("controls", static_cast<int>(controls));
-    EXPECT_GT(controls, 190);
     for (const Accessible& each : all) {
         EXPECT_FALSE(needsName(each) && each.name.trimmed().isEmpty()) << qPrintable(each.window + ": " + each.role);
         EXPECT_FALSE(each.parent == "Canvas" && each.name != "ToolBox") << qPrintable(each.role);
@@ -65,25 +58,20 @@ TEST(Program, TellsAScreenReaderWhereThePenIsAndWhatThePanelOffers)
     Program program;
     const Accessible canvas = *program.find("canvas", "Canvas");
     const auto waitFor = [&](const char* description) {
-        waitUntil(description, [&] { return program.bus().description(canvas) == description; });
+        waitUntil(description, [&] { return canvas.description() == description; });
     };
-    waitFor("Pen at 1600, 1500 twips, heading right, tool Pen");
-    program.keys({"Right", "Down", "Down"});
+    program.keys("Right Down Down");
     waitFor("Pen at 1650, 1600 twips, heading down, tool Pen");
-    program.keys({"ctrl+l", "e", "Left"});
-    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, erase mode");
+    program.keys("ctrl+l e Left s");
+    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, erase mode, supply: Alt+V voltage, Alt+C current");
     for (const auto& [tool, pressed] : {std::pair{"Line", true}, {"Pencil", false}, {"Eraser", true}}) {
-        EXPECT_EQ(program.find("check box", tool)->checked(), pressed) << tool;
+        EXPECT_EQ(program.find("check box", tool)->is(Accessible::checked), pressed) << tool;
     }
-    program.keys({"e", "s"});
-    waitFor("Pen at 1650, 1600 twips, heading left, tool Line, supply: Alt+V voltage, Alt+C current");
-    program.keys({"Escape", "b"});
+    program.keys("Escape e b");
     waitFor("Pen at 1650, 1600 twips, heading left, tool Line, battery: Alt+P positive, Alt+N negative");
-    program.keys({"Escape", "ctrl+n"});
-    program.waitForText(saveQuestion);
-    program.keys({"n"});
-    program.waitForMainWindow();
-    program.keys({"ctrl+o"}); // Open is refused
+    program.keys("Escape ctrl+n");
+    program.answer("Schemlet 2.0", "n");
+    program.keys("ctrl+o"); // Open is refused
     waitFor("Open works after the first arrow key. Pen at 1600, 1500 twips, no direction, press an arrow key, tool "
             "Line");
     program.waitForText("Open works after the first arrow key");

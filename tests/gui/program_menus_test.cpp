@@ -1,228 +1,207 @@
-#include "tests/gui/pixels.h"
-#include "tests/gui/print_server.h"
 #include "tests/gui/program.h"
 
 #include <gtest/gtest.h>
 
 namespace schemlet {
 
-// Menus and short-cuts, settings, colours and printing.
+// Menus, short-cuts, toolbar, toolbox and colours.
 
 namespace {
 
+/// What a command brings: a window, which is closed again, or a text on a label, or both.
+struct Outcome {
+    const char* window = nullptr;
+    const char* text = nullptr;
+};
+
+constexpr Outcome motor{"This draws a DC MOTOR", "Do you want to Continue ?"};
+constexpr Outcome diac{"This draws a DIAC THYRISTOR"};
+constexpr Outcome printing{"Schemlet 2.0", printQuestion};
+constexpr Outcome saving{"Schemlet 2.0", saveQuestion};
 constexpr auto canvasTitle = "Canvas color: wipes the drawing, Cancel too";
 
-/// In the dialog that has been asked for; no colour cancels it.
-void pick(Program& program, const char* title, const QString& color)
+void expect(Program& program, const Outcome& outcome)
 {
-    program.waitForWindow(title);
-    if (!color.isEmpty()) {
-        program.keys({"alt+h", "ctrl+a"});
-        program.type(color);
+    if (outcome.window != nullptr) {
+        program.waitForWindow(outcome.window);
     }
-    program.answer(title, color.isEmpty() ? "Escape" : "Return");
-}
-
-QColor ground(const Program& program, const char* panel)
-{
-    const QRect place = program.onCanvas(program.placeOf("panel", panel));
-    return program.pixel(place.left() + 4, place.bottom() - 4);
+    if (outcome.text != nullptr) {
+        program.waitForText(outcome.text);
+    }
+    if (outcome.window != nullptr) {
+        program.answer(outcome.window, "Escape");
+    }
 }
 
 } // namespace
 
-TEST(Program, EveryMenuOpensByKeyboardAndByMouse)
+TEST(Program, EveryMenuOpensByKeyboardAndByMouseAndShortCutsWork)
 {
-    struct Way {
-        int menu = 0;
-        const char* keys = nullptr;
-        QStringList captions;
-        Outcome outcome;
-        Outcome outcomeByMouse;
+    const std::pair<const char*, Outcome> keys[] = {
+        {"alt+f p", printing},
+        {"F10 p", printing},
+        {"alt+f Right Return", {nullptr, "Erase mode"}},
+        {"ctrl+e", {nullptr, "Normal mode"}},
+        {"alt+f Right Right Up Return", {"Output"}},
+        {"alt+f Right Right Right m Down Return", motor},
+        {"alt+l h d", diac},
+        {"alt+f Left Left Left Left Left Down Return", {"Color of inductances"}},
+        {"alt+f Left Left Left Left Down Return", {canvasTitle}},
+        {"alt+f Left o", {"Help"}},
+        {"F1", {"Help"}},
+        {"ctrl+x", saving},
+        {"ctrl+q", saving},
+        {"ctrl+c", {nullptr, "Pencil"}},
+        {"ctrl+o", {nullptr, "1600, 1500"}}, // nothing yet
+        {"Right", {nullptr, "1650, 1500"}},
+        {"ctrl+o", saving},
+        {"Menu h", {"Help"}},
+        {"shift+F10 f", {"Color of wires"}},
     };
-    const Outcome motor{"This draws a DC MOTOR", "Do you want to Continue ?"};
-    const Outcome diac{"This draws a DIAC THYRISTOR"};
-    const Way ways[] = {
-        {0, "p", {"File", "Print"}, {"Schemlet 2.0", printQuestion}, {"Schemlet 2.0", printQuestion}},
-        {1, "Return", {"Edit", "Eraser"}, {nullptr, "Erase mode"}, {nullptr, "Normal mode"}},
-        {2, "Up Return", {"View", "Output"}, {"Output"}, {"Output"}},
-        {3, "m Down Return", {"Electrical Components", "Motors", "D.C Motor"}, motor, motor},
-        {4, "h d", {"Electronic Components", "Thyristors", "DIAC"}, diac, diac},
-        {-5, "Down Return", {"Components Color", "Op-Amplifier"}, {"Color of inductances"}, {"Color of op-amplifiers"}},
-        {-4, "Down Return", {"Form Color", "Forecolor"}, {canvasTitle}, {"Color of wires"}},
-        {-1, "o", {"Help", "About"}, {"Help"}, {"About Schemlet v2.0"}},
+    const std::pair<QStringList, Outcome> menus[] = {
+        {{"File", "Print"}, printing},
+        {{"Edit", "Eraser"}, {nullptr, "Erase mode"}},
+        {{"View", "Output"}, {"Output"}},
+        {{"Electrical Components", "Motors", "D.C Motor"}, motor},
+        {{"Electronic Components", "Thyristors", "DIAC"}, diac},
+        {{"Components Color", "Op-Amplifier"}, {"Color of op-amplifiers"}},
+        {{"Form Color", "Forecolor"}, {"Color of wires"}},
+        {{"Help", "About"}, {"About Schemlet v2.0"}},
     };
     Program program;
-    for (const Way& way : ways) {
-        SCOPED_TRACE(way.keys);
-        program.openMenu(way.menu);
-        program.xdotool(QStringList{"key"} + QString(way.keys).split(' '));
-        program.expect(way.outcome);
-        program.clickMenus(way.captions);
-        program.expect(way.outcomeByMouse);
+    for (const auto& [names, outcome] : keys) {
+        SCOPED_TRACE(names);
+        program.keys(names);
+        expect(program, outcome);
     }
-    EXPECT_FALSE(program.shows("menu item", "Rightclick")); // not on the bar, but
-    program.openPopup(300, 300);
+    for (const auto& [captions, outcome] : menus) {
+        SCOPED_TRACE(captions.join(' ').toStdString());
+        program.clickMenus(captions);
+        expect(program, outcome);
+    }
+    EXPECT_FALSE(program.shows("menu item", "Rightclick")); // it opens at the mouse or the pen instead
+    program.click(3, 300, 300);
     program.clickMenus({"Line"});
     program.waitForText("Line");
     program.click(1, 300, 300);
-    for (const char* const key : {"Menu", "shift+F10"}) {
-        program.keys({key});
-        const QRect item = program.onCanvas(program.placeOf("menu item", "Eraser"));
-        EXPECT_TRUE(QRect(300, 300, 10, 10).contains(item.topLeft())); // at the pen
-        program.keys({"h"});
-        program.expect({"Help"});
-    }
-    program.keys({"F10", "p"});
-    program.expect({"Schemlet 2.0", printQuestion});
+    program.keys("Menu");
+    EXPECT_TRUE(QRect(300, 300, 10, 10).contains(program.onCanvas(program.placeOf("menu item", "Eraser")).topLeft()));
 }
 
-TEST(Program, ShortCutsHaveTheirEffect)
+TEST(Program, SettingsShowAndHideToolboxAndBarsAndTurnQuestionsOff)
 {
-    const std::pair<const char*, Outcome> rows[] = {
-        {"F1", {"Help"}},
-        {"ctrl+a", {"About Schemlet v2.0"}},
-        {"ctrl+u", {"Output"}},
-        {"ctrl+f", {"Color of wires"}},
-        {"ctrl+b", {canvasTitle}},
-        {"ctrl+p", {"Schemlet 2.0", printQuestion}},
-        {"ctrl+x", {"Schemlet 2.0", saveQuestion}},
-        {"ctrl+q", {"Schemlet 2.0", saveQuestion}},
-        {"ctrl+e", {nullptr, "Erase mode"}},
-        {"ctrl+e", {nullptr, "Normal mode"}},
-        {"ctrl+c", {nullptr, "Pencil"}},
-        {"ctrl+r", {nullptr, "Rectangle"}},
-        {"ctrl+l", {nullptr, "Line"}},
-        {"ctrl+o", {nullptr, "1600, 1500"}}, // nothing yet
-        {"Right", {nullptr, "1650, 1500"}},
-        {"ctrl+o", {"Schemlet 2.0", saveQuestion}},
-        {"ctrl+n", {"Schemlet 2.0", saveQuestion}},
-        {"Right", {nullptr, "1700, 1500"}},
-        {"ctrl+j", {nullptr, "1900, 1500"}},
-        {"ctrl+s", {"Save", "File name:"}},
-    };
     Program program;
-    for (const auto& [key, outcome] : rows) {
-        SCOPED_TRACE(key);
-        program.keys({key});
-        program.expect(outcome);
-    }
-    program.keys({"ctrl+g"});
-    waitUntil("the ground", [&] { return program.inked(115, 100) && program.inked(126, 110); });
-
     for (const bool shown : {false, true}) {
-        program.keys({"ctrl+t", "ctrl+k", "ctrl+h"});
+        program.keys("ctrl+t ctrl+k ctrl+h");
         waitUntil("toolbox and bars", [&] {
             return program.shows("panel", "ToolBox") == shown && program.shows("status bar", "Status bar") == shown &&
                    program.shows("tool bar", "ToolBar") == shown;
         });
     }
-}
-
-TEST(Program, SettingsAskWhatTheirMarksSay)
-{
-    Program program;
-    const auto gate = [&] { program.keys({"alt+l", "g", "Return"}); };
-    const auto switchOver = [&](const char* menu, const char* item, bool checked) {
-        program.clickMenus({menu, item});
-        program.waitForMark(menu, item, checked);
+    const auto waitForMark = [&](bool checked) {
+        program.clickMenus({"Ask Confirmation"});
+        waitUntil("the mark", [&] {
+            const auto item = program.find("menu item", "Gates");
+            return item && item->is(Accessible::checked) == checked;
+        });
     };
-    program.openMenu(-3);
-    program.keys({"g", "g", "Return"}); // past the generators
-    program.waitForMark("Ask Confirmation", "Gates", false);
-    gate();
+    waitForMark(true);
+    program.clickMenus({"Gates"});
+    program.clickOn("push button", "AND Gate");
     waitUntil("a gate without a question", [&] { return program.inked(126, 108) || program.inked(120, 115); });
-    switchOver("Ask Confirmation", "Gates", true);
-    gate();
-    program.expect({"This draws an AND GATE", "Do you want to Continue ?"});
-
-    program.keys({"Right", "ctrl+n"});
-    program.answer("Schemlet 2.0", "n");
-    program.keys({"j"});
-    program.keyTimes(6, "Right");
-    program.keyTimes(6, "Down");
-    program.keyTimes(3, "Left");
-    program.keyTimes(5, "Up"); // through the wire at the top
-    program.expect({"POINT (or) LINE AHEAD..."});
-    program.waitForMark("Enable", "Automatic Jumper", false); // J leaves the mark alone
-    program.openMenu(-2);
-    program.keys({"Return"}); // which switches off what J has switched on
-    program.waitForMark("Enable", "Automatic Jumper", true);
-    program.keyTimes(2, "Right");
-    program.keyTimes(5, "Down");
-    waitUntil("wire through the wire", [&] { return program.inked(123, 113); });
-    switchOver("Enable", "Automatic Jumper", false);
+    waitForMark(false);
+    program.clickMenus({"Gates"});
+    program.clickOn("push button", "AND Gate");
+    expect(program, {"This draws an AND GATE"});
+    waitForMark(true);
 }
 
-TEST(Program, ColoursGoWhereTheyAreChosenAndCancelStoresTheLastOne)
+TEST(Program, ColoursArePickedInADialogAndCancelStoresTheLastOne)
 {
     Program program;
-    const auto draw = [&](const char* menuKey, const char* question) {
-        program.keys({"alt+l", menuKey, "Return"});
-        program.answer(question, "Return");
+    const auto pick = [&](const char* key, const char* title, const QString& color) {
+        program.open(key, title);
+        program.keys("alt+h ctrl+a");
+        program.type(color);
+        program.answer(title, "Return");
     };
-    const QColor grey(0xE0, 0xE0, 0xE0);
-    waitUntil("a grey toolbox", [&] { return ground(program, "ToolBox") == grey; });
-    program.keyTimes(3, "Right");
-    program.keys({"ctrl+b"});
-    pick(program, canvasTitle, {}); // black, which is for the panel only
-    EXPECT_EQ(ground(program, "ToolBox"), grey);
-    waitUntil("the wire", [&] { return program.inked(114, 100) && !program.inked(114, 110); });
-    program.keys({"b"});
-    waitUntil("a black panel", [&] { return ground(program, "Battery") == Qt::black; });
-    program.keys({"Escape"});
-
-    program.clickMenus({"Components Color", "Diodes"});
-    pick(program, "Color of diodes", "#ff0000");
-    program.clickMenus({"Components Color", "Gates"});
-    pick(program, "Color of gates", {});
-    draw("g", "This draws an AND GATE");
-    waitUntil("a red gate", [&] { return program.pixel(116, 110) == Qt::red; });
-    draw("d", "This draws a ZENER DIODE");
-    waitUntil("a red diode", [&] { return program.pixel(137, 105) == Qt::red; });
-
-    program.keys({"ctrl+b"});
-    pick(program, canvasTitle, "#00ff00");
-    waitUntil("a green canvas", [&] {
-        return program.pixel(114, 100) == Qt::green && program.pixel(116, 110) == Qt::green &&
-               program.pixel(600, 400) == Qt::green && ground(program, "ToolBox") == Qt::green;
+    pick("ctrl+b", canvasTitle, "#00ff00");
+    const QRect toolbox = program.onCanvas(program.placeOf("panel", "ToolBox"));
+    waitUntil("a green canvas and toolbox", [&] {
+        return program.pixel(600, 400) == Qt::green &&
+               program.pixel(toolbox.left() + 4, toolbox.bottom() - 4) == Qt::green;
     });
-    program.keys({"ctrl+f"});
-    pick(program, "Color of wires", "#0000ff");
-    program.keyTimes(3, "Down");
-    waitUntil("blue wire", [&] { return program.pixel(153, 109) == Qt::blue || program.pixel(152, 109) == Qt::blue; });
+    pick("ctrl+f", "Color of wires", "#0000ff");
+    program.keys("Right", 3);
+    waitUntil("blue wire", [&] { return program.pixel(114, 100) == Qt::blue; });
+    program.clickMenus({"Components Color", "Gates"});
+    program.answer("Color of gates", "Escape");
+    program.clickOn("push button", "AND Gate");
+    program.answer("This draws an AND GATE", "Return");
+    waitUntil("a blue gate", [&] { return program.pixel(116, 110) == Qt::blue; });
 }
 
-TEST(Program, PrintsTheCanvasWithItsLabelButWithoutMarkerAndEraserOutline)
+TEST(Program, ToolbarAndToolboxHintAndWork)
 {
-    PrintServer server;
-    Program program;
-    const auto print = [&] {
-        program.keys({"ctrl+p"});
-        program.waitForText(printQuestion);
-        program.keys({"y"});
+    struct Tool {
+        const char* role = nullptr;
+        const char* name = nullptr;
+        const char* hint = nullptr;
+        Outcome outcome;
     };
-    program.keyTimes(9, "Right");
-    program.keys({"e"});
-    program.moveMouse(300, 300);
-    for (const QRect& guide : {QRect(280, 280, 60, 60), QRect(134, 80, 12, 16)}) { // the outline and the marker
-        waitUntil("what guides the hand", [&] { return inkedPixels(program.canvas().copy(guide)) > 0; });
+    const Tool tools[] = {
+        {"push button", "NAND Gate", "Click to draw NAND Gate", {"This draws a NAND GATE"}},
+        {"push button", "Supply", "Click to draw SUPPLY", {nullptr, "Type of Supply is"}},
+        {"push button", "Eraser", "Click to get ERASER", {nullptr, "Erase mode"}},
+        {"push button", "Close the ToolBox", "Click to Close the ToolBox", {}},
+        {"push button", "Output", "Click to see the totals and what follows from them", {"Output"}},
+        {"check box", "Eraser", "Click to switch erase mode on or off", {nullptr, "Normal mode"}},
+        {"push button", "ToolBox", "Click to show or hide the toolbox", {nullptr, "Click once and drag"}},
+        {"check box", "Box", "Click to draw rectangles with the mouse", {nullptr, "Rectangle"}},
+    };
+    Program program;
+    for (const auto& [role, name, hint, outcome] : tools) {
+        SCOPED_TRACE(hint);
+        program.hoverOver(role, name);
+        program.waitForText(hint);
+        program.xdotool("click 1");
+        expect(program, outcome);
     }
-    print();
-    waitUntil("a printed page", [&] { return server.printedFiles().size() == 1; });
-    const QImage page = printedPicture(server.printedFiles().first());
-    ASSERT_EQ(page.size(), program.canvas().size());
-    for (const QRect& same : {QRect(0, 99, 400, 3), QRect(300, 0, 400, 40)}) {
-        waitUntil("the printed wire and label",
-                  [&] { return program.canvas().convertToFormat(page.format()).copy(same) == page.copy(same); });
-    }
-    EXPECT_EQ(inkedPart(page.copy(0, 80, 400, 300)), inkedPart(page.copy(0, 99, 400, 3)).translated(0, 19));
+}
 
-    server.removeQueue();
-    print();
-    program.waitForText("Printer error*");
-    program.keys({"Return"});
-    program.waitForMainWindow();
+TEST(Program, ToolboxFollowsTheMouseAndKeepsItToItself)
+{
+    Program program;
+    const auto corner = [&] { return program.onCanvas(program.placeOf("panel", "ToolBox")).topLeft(); };
+    const auto moveWithToolbox = [&](int x, int y) {
+        program.moveMouse(x, y);
+        waitUntil("the toolbox", [&] { return corner() == QPoint(x, y); });
+    };
+    const QPoint start = corner();
+    program.keys("ctrl+l Right");
+    program.waitForText("1650, 1500");
+    const QRect rest(0, 130, program.canvas().width(), program.canvas().height() - 130);
+    const QImage before = program.canvas().copy(rest);
+    program.drag(start.x() + 50, start.y() + 130, start.x() + 130, start.y() + 10);
+    program.keys("Right");
+    program.waitForText("1700, 1500"); // the drag over it moved no pen
+    program.moveMouse(300, 250);       // it does not follow yet
+    program.waitForText("Press F1 for Help");
+    waitUntil("the canvas as it was", [&] { return program.canvas().copy(rest) == before; });
+
+    program.clickOn("label", "Click once and drag");
+    moveWithToolbox(300, 300);
+    program.keys("Right");
+    program.waitForText("1750, 1500"); // the click was for the label alone
+    moveWithToolbox(200, 200);
+    program.moveMouse(202, 202); // which is over it now, and stops it
+    program.moveMouse(100, 500);
+    program.waitForText("Press F1 for Help");
+    EXPECT_EQ(corner(), QPoint(200, 200));
+    program.clickOn("push button", "Close the ToolBox");
+    waitUntil("no toolbox", [&] { return !program.shows("panel", "ToolBox"); });
+    program.keys("ctrl+t");
+    waitUntil("the toolbox in its place", [&] { return corner() == QPoint(200, 200); });
 }
 
 } // namespace schemlet
