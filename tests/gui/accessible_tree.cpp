@@ -1,12 +1,11 @@
 #include "tests/gui/accessible_tree.h"
 
-#include "tests/gui/desk.h"
-
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <algorithm>
+#include <iterator>
 
 namespace schemlet {
 
@@ -30,17 +29,17 @@ QVariant property(const Accessible& accessible, const QString& interface, const 
     return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {interface, name}).value<QDBusVariant>().variant();
 }
 
-void collect(const Accessible& one, bool closedMenusToo, std::vector<Accessible>& found)
+} // namespace
+
+QString Accessible::role() const
 {
-    found.push_back(one);
-    if (closedMenusToo || one.is(Accessible::showing) || one.role != "popup menu") {
-        for (const Accessible& child : one.children()) {
-            collect(child, closedMenusToo, found);
-        }
-    }
+    return ask(*this, itself, "GetRoleName").toString();
 }
 
-} // namespace
+QString Accessible::name() const
+{
+    return property(*this, itself, "Name").toString().simplified();
+}
 
 QString Accessible::description() const
 {
@@ -52,6 +51,11 @@ double Accessible::value() const
     return property(*this, "org.a11y.atspi.Value", "CurrentValue").toDouble();
 }
 
+bool Accessible::is(State state) const
+{
+    return (qdbus_cast<QList<uint>>(ask(*this, itself, "GetState")).value(0) >> state & 1U) != 0;
+}
+
 QRect Accessible::placeOnScreen() const
 {
     constexpr uint onScreen = 0;
@@ -60,13 +64,21 @@ QRect Accessible::placeOnScreen() const
 
 std::vector<Accessible> Accessible::children() const
 {
-    using Reference = std::pair<QString, QDBusObjectPath>;
     std::vector<Accessible> found;
+    using Reference = std::pair<QString, QDBusObjectPath>;
     for (const auto& [itsService, itsPath] : qdbus_cast<QList<Reference>>(ask(*this, itself, "GetChildren"))) {
-        Accessible& child = found.emplace_back(Accessible{itsService, itsPath, window, name});
-        child.role = ask(child, itself, "GetRoleName").toString();
-        child.name = property(child, itself, "Name").toString();
-        child.states = qdbus_cast<QList<uint>>(ask(child, itself, "GetState")).value(0);
+        found.push_back({itsService, itsPath});
+    }
+    return found;
+}
+
+std::vector<Accessible> Accessible::contents(bool closedMenusToo) const
+{
+    std::vector<Accessible> found{*this};
+    if (closedMenusToo || role() != "popup menu" || is(showing)) {
+        for (const Accessible& child : children()) {
+            std::ranges::copy(child.contents(closedMenusToo), std::back_inserter(found));
+        }
     }
     return found;
 }
@@ -82,6 +94,7 @@ AccessibilityBus::AccessibilityBus()
     m_launcher.start("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately"});
     const QDBusConnection bus = QDBusConnection::connectToBus(session, "session");
     const auto question = QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress");
+    QDBusConnection::disconnectFromBus(connectionName); // an earlier one
     waitUntil("the accessibility bus", [&] {
         const QString address = bus.call(question).arguments().value(0).toString();
         return QDBusConnection::connectToBus(address, connectionName).isConnected();
@@ -92,32 +105,12 @@ AccessibilityBus::AccessibilityBus()
     waitForLine(m_registry);
 }
 
-AccessibilityBus::~AccessibilityBus()
-{
-    QDBusConnection::disconnectFromBus(connectionName);
-    for (QProcess* const process : {&m_registry, &m_launcher, &m_sessionBus}) {
-        end(*process);
-    }
-}
-
 std::vector<Accessible> AccessibilityBus::windows() const
 {
-    const QDBusObjectPath desktop("/org/a11y/atspi/accessible/root");
     std::vector<Accessible> found;
-    for (const Accessible& program : Accessible{"org.a11y.atspi.Registry", desktop}.children()) {
-        for (Accessible& window : program.children()) {
-            window.window = window.name;
-            found.push_back(window);
-        }
-    }
-    return found;
-}
-
-std::vector<Accessible> AccessibilityBus::everything() const
-{
-    std::vector<Accessible> found;
-    for (const Accessible& window : windows()) {
-        collect(window, true, found);
+    const Accessible desktop{.path = QDBusObjectPath("/org/a11y/atspi/accessible/root")};
+    for (const Accessible& program : desktop.children()) {
+        std::ranges::copy(program.children(), std::back_inserter(found));
     }
     return found;
 }
@@ -127,13 +120,6 @@ Accessible AccessibilityBus::windowInFront() const
     const std::vector<Accessible> all = windows();
     const auto found = std::ranges::find_if(all, [](const Accessible& each) { return each.is(Accessible::active); });
     return found == all.end() ? Accessible() : *found;
-}
-
-std::vector<Accessible> AccessibilityBus::inFront() const
-{
-    std::vector<Accessible> found;
-    collect(windowInFront(), false, found);
-    return found;
 }
 
 } // namespace schemlet

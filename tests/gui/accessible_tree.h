@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/gui/desk.h"
+
 #include <QDBusObjectPath>
-#include <QProcess>
 #include <QRect>
 #include <QString>
 #include <QTemporaryDir>
@@ -9,23 +10,23 @@
 
 namespace schemlet {
 
-/// One thing that a program tells assistive programs about, and where to ask for more.
+/// One thing that a program tells assistive programs about.
 struct Accessible {
     enum State { active = 1, checked = 4, showing = 25 };
 
-    QString service;
-    QDBusObjectPath path;
-    QString window{}; ///< the name of the window that it is in
-    QString parent{}; ///< the name of what it lies in
-    QString role{};
-    QString name{};
-    uint states = 0;
+    QString service = "org.a11y.atspi.Registry"; ///< where to ask for the rest
+    QDBusObjectPath path{"/org/a11y/atspi/null"};
 
-    [[nodiscard]] bool is(State state) const { return (states >> state & 1U) != 0; }
+    [[nodiscard]] QString role() const;
+    [[nodiscard]] QString name() const;
     [[nodiscard]] QString description() const;
     [[nodiscard]] double value() const;
+    [[nodiscard]] bool is(State state) const;
     [[nodiscard]] QRect placeOnScreen() const;
     [[nodiscard]] std::vector<Accessible> children() const;
+    /// With everything that is in it; from the outside in, what comes first on the screen first. Menus that are closed
+    /// hold much, and are rarely asked for.
+    [[nodiscard]] std::vector<Accessible> contents(bool closedMenusToo = false) const;
 };
 
 /// A screen reader's view of the programs that are started while it lives: a bus of their own, on which they tell what
@@ -33,25 +34,17 @@ struct Accessible {
 class AccessibilityBus {
 public:
     AccessibilityBus();
-    ~AccessibilityBus();
-    AccessibilityBus(const AccessibilityBus&) = delete;
-    AccessibilityBus& operator=(const AccessibilityBus&) = delete;
 
     /// All windows, shown or not.
     [[nodiscard]] std::vector<Accessible> windows() const;
-    /// The same with everything that is in them and in their menus; from the outside in, what comes first on the screen
-    /// first.
-    [[nodiscard]] std::vector<Accessible> everything() const;
     /// The one that has the keyboard, if one has it.
     [[nodiscard]] Accessible windowInFront() const;
-    /// That window with everything that is in it but closed menus: much is asked again and again.
-    [[nodiscard]] std::vector<Accessible> inFront() const;
 
 private:
     QTemporaryDir m_folder;
-    QProcess m_sessionBus;
-    QProcess m_launcher; ///< of the bus for accessibility, whose address it tells on the session's bus
-    QProcess m_registry; ///< where programs say that they are there
+    Process m_sessionBus;
+    Process m_launcher; ///< of the bus for accessibility, whose address it tells on the session's bus
+    Process m_registry; ///< where programs say that they are there
 };
 
 } // namespace schemlet

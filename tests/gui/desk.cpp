@@ -1,5 +1,9 @@
 #include "tests/gui/desk.h"
 
+#include <QDir>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
 #include <QTest>
 #include <stdexcept>
 
@@ -27,7 +31,10 @@ void end(QProcess& process)
 void waitUntil(const char* what, const std::function<bool()>& condition)
 {
     if (!QTest::qWaitFor(condition, patience)) {
-        throw std::runtime_error(std::string("never came: ") + what);
+        const QString picture =
+            QString("%1/screen-%2.png").arg(QDir::tempPath()).arg(QCoreApplication::applicationPid());
+        QGuiApplication::primaryScreen()->grabWindow().save(picture);
+        throw std::runtime_error("see " + picture.toStdString() + ", never came: " + what);
     }
 }
 
@@ -43,12 +50,6 @@ Desk::Desk()
     // A window that opens while the manager still starts may never be shown.
     m_manager.start("openbox", {"--startup", "echo ready"});
     waitForLine(m_manager);
-}
-
-Desk::~Desk()
-{
-    end(m_manager);
-    end(m_server);
 }
 
 } // namespace schemlet

@@ -11,7 +11,12 @@ inline constexpr int patience = 15000; // milliseconds, for a busy machine; noth
 QByteArray waitForLine(QProcess& process);
 void end(QProcess& process);
 
-/// Waits until a condition holds; ends the test with these words if it never does.
+/// Ended with this object.
+struct Process : QProcess {
+    ~Process() override { end(*this); }
+};
+
+/// Waits until a condition holds; ends the test with these words and a picture of the screen if it never does.
 void waitUntil(const char* what, const std::function<bool()>& condition);
 
 /// A screen of our own: an X server without a monitor and a window manager on it, ended with this object. Must be made
@@ -19,13 +24,10 @@ void waitUntil(const char* what, const std::function<bool()>& condition);
 class Desk {
 public:
     Desk();
-    ~Desk();
-    Desk(const Desk&) = delete;
-    Desk& operator=(const Desk&) = delete;
 
 private:
-    QProcess m_server;
-    QProcess m_manager;
+    Process m_server;
+    Process m_manager;
 };
 
 } // namespace schemlet

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/gui/accessible_tree.h"
-#include "tests/gui/desk.h"
 
 #include <QColor>
 #include <QDir>
@@ -25,9 +24,6 @@ public:
 
     /// Starts it in a home folder of its own, and waits until it has come so far.
     explicit Program(Stage until = Stage::drawing);
-    ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
 
     /// Presses keys, which xdotool's names tell, one after the other.
     void keys(const QString& names, int times = 1);
@@ -86,7 +82,7 @@ private:
 
     AccessibilityBus m_bus;
     QTemporaryDir m_home;
-    QProcess m_process;
+    Process m_process;
     QString m_window; ///< the main one, by its number on the screen
     QRect m_canvas;   ///< on the screen
 };

@@ -18,7 +18,7 @@ struct Drawing : Program {
         waitUntil("no toolbox", [&] { return !shows("panel", "ToolBox"); });
     }
 
-    void waitForTitle(const QString& name) const { waitForWindow(" - Schemlet 2.0 " + name); }
+    void waitForTitle(const QString& name) const { waitForWindow(("- Schemlet 2.0 " + name).trimmed()); }
 
     void layWire()
     {

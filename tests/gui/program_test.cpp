@@ -73,9 +73,9 @@ TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
 TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
 {
     Program program;
-    program.open("r", " RESISTANCE ");
+    program.open("r", "RESISTANCE");
     program.type("47");
-    program.answer(" RESISTANCE ", "Return");
+    program.answer("RESISTANCE", "Return");
     waitUntil("the zig-zag and its value",
               [&] { return program.inked(169, 113) && inkedPixels(program.canvas().copy(137, 116, 14, 10)) > 5; });
     EXPECT_LE(inkedPixels(program.canvas().copy(153, 116, 14, 10)), 5); // not "4710": the preset was selected
