@@ -10,123 +10,106 @@ namespace schemlet {
 
 namespace {
 
-/// The program without the toolbox on the canvas.
-struct Drawing : Program {
-    Drawing()
-    {
-        keys("ctrl+t");
-        waitUntil("no toolbox", [&] { return !shows("panel", "ToolBox"); });
-    }
+/// Answers the question that a short-cut brings.
+void command(Program& program, const char* key, const char* reply)
+{
+    program.open(key, "Schemlet 2.0");
+    program.keys(reply);
+}
 
-    void waitForTitle(const QString& name) const { waitForWindow(("- Schemlet 2.0 " + name).trimmed()); }
+/// Types a name into the file dialog.
+void choose(Program& program, const char* dialog, const QString& name)
+{
+    program.waitForWindow(dialog);
+    program.type(name);
+    program.keys("Return");
+}
 
-    void layWire()
-    {
-        keys("Right Right Right");
-        waitForWire(true);
-    }
-    void waitForWire(bool there) const
-    {
-        waitUntil(there ? "wire" : "no wire", [&] { return inked(115, 100) == there; });
-    }
-
-    /// Answers the question that a short-cut brings.
-    void command(const char* key, const char* reply)
-    {
-        open(key, "Schemlet 2.0");
-        keys(reply);
-    }
-
-    /// Types a name into the file dialog; empty cancels it.
-    void choose(const char* dialog, const QString& name)
-    {
-        waitForWindow(dialog);
-        type(name);
-        keys(name.isEmpty() ? "Escape" : "Return");
-    }
-
-    /// The marker blinks: now and then the canvas looks like this.
-    void waitForCanvas(const QImage& picture) const
-    {
-        waitUntil("the picture on the canvas", [&] {
-            const QImage seen = canvas();
-            return seen == picture.convertToFormat(seen.format());
-        });
-    }
-};
+void layWire(Program& program)
+{
+    program.keys("Right Right Right");
+    waitUntil("wire", [&] { return program.inked(115, 100); });
+}
 
 } // namespace
 
 TEST(Program, NewOpenAndExitDoAsTheQuestionIsAnswered)
 {
-    Drawing drawing;
-    drawing.layWire();
-    drawing.command("ctrl+n", "Escape");
-    drawing.waitForText("← Left"); // what the answer happens to mean
-    drawing.layWire();
-    drawing.command("ctrl+o", "y");
-    drawing.choose("Save", "first.bmp");
-    drawing.choose("Open", "");
-    drawing.waitForTitle("");
-    drawing.layWire();
-    drawing.command("ctrl+n", "n");
-    drawing.waitForMainWindow();
-    drawing.waitForWire(false);
+    Program program;
+    layWire(program);
+    command(program, "ctrl+n", "Escape");
+    program.waitForText("← Left"); // what the answer happens to mean
+    layWire(program);
+    command(program, "ctrl+o", "y");
+    choose(program, "Save", "first.bmp");
+    program.waitForWindow("Open");
+    program.keys("Escape");
+    program.waitForWindow("- Schemlet 2.0");
+    layWire(program);
+    command(program, "ctrl+n", "n");
+    program.waitForMainWindow();
+    waitUntil("clean paper", [&] { return !program.inked(115, 100); });
 
-    drawing.layWire();
-    drawing.command("ctrl+n", "y");
-    drawing.choose("Save", "second");
-    drawing.waitForMainWindow();
-    drawing.waitForWire(false);
+    layWire(program);
+    command(program, "ctrl+n", "y");
+    choose(program, "Save", "second");
+    program.waitForMainWindow();
+    waitUntil("clean paper", [&] { return !program.inked(115, 100); });
 
-    drawing.command("ctrl+x", "c");
-    drawing.waitForMainWindow();
-    drawing.command("ctrl+x", "y");
-    drawing.choose("Save", "third.png");
-    EXPECT_EQ(drawing.exitStatus(), 0);
-    EXPECT_EQ(drawing.filesAtHome(), QStringList({"first.bmp", "second.JPEG", "third.png"}));
+    command(program, "ctrl+x", "c");
+    program.waitForMainWindow();
+    command(program, "ctrl+x", "y");
+    choose(program, "Save", "third.png");
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_EQ(program.filesAtHome(), QStringList({"first.bmp", "second.JPEG", "third.png"}));
 }
 
 TEST(Program, SavesReopensAndSavesAgainPixelForPixel)
 {
-    Drawing drawing;
-    drawing.keys("Right", 9);
-    drawing.keys("ctrl+r");
-    drawing.drag(300, 300, 400, 360);
-    waitUntil("a box", [&] { return drawing.inked(350, 359); });
-    drawing.keys("ctrl+s");
-    drawing.choose("Save", "first");
-    drawing.waitForTitle("first.JPEG");
-    const QImage first(drawing.home().filePath("first.JPEG"));
-    drawing.waitForCanvas(first);
+    Program program;
+    const auto waitForCanvas = [&](const QImage& picture) { // the marker blinks
+        waitUntil("the picture on the canvas", [&] {
+            const QImage seen = program.canvas();
+            return seen == picture.convertToFormat(seen.format());
+        });
+    };
+    program.keys("ctrl+t"); // without the toolbox
+    program.keys("Right", 9);
+    program.keys("ctrl+r");
+    program.drag(300, 300, 400, 360);
+    waitUntil("a box", [&] { return program.inked(350, 359); });
+    program.keys("ctrl+s");
+    choose(program, "Save", "first");
+    program.waitForWindow("- Schemlet 2.0 first.JPEG");
+    const QImage first(program.home().filePath("first.JPEG"));
+    waitForCanvas(first);
 
-    drawing.command("ctrl+o", "n");
-    drawing.choose("Open", "first.JPEG");
-    drawing.waitForTitle("first.JPEG");
-    drawing.waitForCanvas(first);
-    drawing.drag(320, 320, 340, 340);
-    waitUntil("a box in the box", [&] { return drawing.inked(330, 339); });
-    const QString path = drawing.home().filePath("second.png");
+    command(program, "ctrl+o", "n");
+    choose(program, "Open", "first.JPEG");
+    program.waitForWindow("- Schemlet 2.0 first.JPEG");
+    program.drag(320, 320, 340, 340);
+    waitUntil("a box in the box", [&] { return program.inked(330, 339); });
+    const QString path = program.home().filePath("second.png");
     store(path, "to be replaced");
-    drawing.keys("ctrl+s");
-    drawing.choose("Save", "second.png");
-    drawing.waitForText("*Do you want to replace it?");
-    drawing.keys("alt+y");
-    drawing.waitForTitle("second.png");
+    program.keys("ctrl+s");
+    choose(program, "Save", "second.png");
+    program.waitForText("*Do you want to replace it?");
+    program.keys("alt+y");
+    program.waitForWindow("- Schemlet 2.0 second.png");
     const QImage second(path);
-    drawing.waitForCanvas(second);
+    waitForCanvas(second);
     QImage expected = first;
     QPainter(&expected).drawImage(318, 318, second, 318, 318, 25, 25);
     EXPECT_TRUE(second == expected);
     EXPECT_TRUE(second != first);
 
     store(path, "damaged");
-    drawing.command("ctrl+o", "n");
-    drawing.choose("Open", "second.png");
-    drawing.waitForText("Invalid picture*");
-    drawing.keys("Return");
-    drawing.waitForTitle("second.png");
-    drawing.waitForCanvas(second);
+    command(program, "ctrl+o", "n");
+    choose(program, "Open", "second.png");
+    program.waitForText("Invalid picture*");
+    program.keys("Return");
+    program.waitForWindow("- Schemlet 2.0 second.png");
+    waitForCanvas(second);
 }
 
 } // namespace schemlet
