@@ -8,8 +8,8 @@ namespace schemlet {
 namespace {
 
 struct Scenario {
-    const char* title;
-    const char* script;
+    const char* title = "";
+    const char* script = "";
     Rig::Start start = Rig::Start::behindIt;
 };
 

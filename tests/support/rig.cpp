@@ -3,7 +3,6 @@
 #include "shell/main_window.h"
 
 #include <map>
-#include <ranges>
 
 namespace schemlet {
 
@@ -48,14 +47,30 @@ Event eventOf(std::span<const std::string_view> words)
     return event;
 }
 
+/// Of a whole source those that place it, of all else itself.
+std::vector<std::string> stepsOf(std::string_view event)
+{
+    static const std::map<char, std::pair<const char*, const char*>> sources{{'A', {"S", "choose Option2"}},
+                                                                             {'V', {"S", "choose Option3"}},
+                                                                             {'+', {"b", "choose Option4"}},
+                                                                             {'-', {"b", "choose Option5"}}};
+    if (!event.starts_with("source ")) {
+        return {std::string(event)};
+    }
+    const auto& [letter, kind] = sources.at(event[7]);
+    return {letter, kind, "text " + std::string(event.substr(9)), "click Command3"};
+}
+
 } // namespace
 
 std::vector<std::string_view> split(std::string_view text, std::string_view separator)
 {
     std::vector<std::string_view> parts;
-    for (const auto part : std::views::split(text, separator)) {
-        parts.emplace_back(part.begin(), part.end());
+    for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+        parts.push_back(text.substr(0, end));
+        text.remove_prefix(end + separator.size());
     }
+    parts.push_back(text);
     return parts;
 }
 
@@ -77,15 +92,15 @@ void Rig::run(std::string_view script)
     for (const std::string_view event : split(script, "; ")) {
         const auto parts = split(event, " < ");
         dialogs.replies.assign(parts.begin() + 1, parts.end());
-        happen(parts.front());
+        for (const std::string& step : stepsOf(parts.front())) {
+            happen(step);
+        }
         EXPECT_TRUE(dialogs.replies.empty()) << "not asked: " << event;
     }
 }
 
 void Rig::happen(std::string_view line)
 {
-    static const std::map<std::string_view, const char*> sources{
-        {"A", "S; choose Option2"}, {"V", "S; choose Option3"}, {"+", "b; choose Option4"}, {"-", "b; choose Option5"}};
     auto words = split(line, " ");
     words.resize(4);
     const std::string_view verb = words[0];
@@ -96,10 +111,6 @@ void Rig::happen(std::string_view line)
     } else if (verb == "choose") {
         window.at(words[1]).value = 1;
         events.deliver({.kind = Event::Kind::click, .name = words[1]});
-    } else if (verb == "source") {
-        run(sources.at(words[1]));
-        window.at("Text11").text = line.substr(9);
-        run("click Command3");
     } else {
         const float times = verb == "tick" && !words[2].empty() ? number(words[2]) : 1;
         for (int i = 0; i < static_cast<int>(times); ++i) {
