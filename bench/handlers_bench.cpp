@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 
 namespace schemlet {
 
@@ -49,6 +50,9 @@ struct Program {
     {
         openMainWindow(form);
         form.confirm.fill(0);
+        for (const Name timer : {control::Timer1, control::Timer2}) {
+            window.setInterval(timer, 0); // the clock would count
+        }
         QCoreApplication::processEvents();
     }
 };
@@ -58,6 +62,15 @@ void finish(const benchmark::State& state)
 {
     if (state.range(0) == 1) {
         QCoreApplication::processEvents();
+    }
+}
+
+/// Without a repaint and with one. ITERATIONS fixes how often, for tools that count instructions.
+void variants(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("repaint")->Arg(0)->Arg(1);
+    if (const char* const iterations = std::getenv("ITERATIONS")) {
+        benchmark->Iterations(std::atoll(iterations));
     }
 }
 
@@ -71,7 +84,7 @@ void heldArrowKey(benchmark::State& state)
         finish(state);
     }
 }
-BENCHMARK(heldArrowKey)->ArgName("repaint")->Arg(0)->Arg(1);
+BENCHMARK(heldArrowKey)->Apply(variants);
 
 void pencilMotion(benchmark::State& state)
 {
@@ -87,7 +100,7 @@ void pencilMotion(benchmark::State& state)
         finish(state);
     }
 }
-BENCHMARK(pencilMotion)->ArgName("repaint")->Arg(0)->Arg(1);
+BENCHMARK(pencilMotion)->Apply(variants);
 
 void symbol(benchmark::State& state)
 {
@@ -99,7 +112,46 @@ void symbol(benchmark::State& state)
         finish(state);
     }
 }
-BENCHMARK(symbol)->ArgName("repaint")->Arg(0)->Arg(1);
+BENCHMARK(symbol)->Apply(variants);
+
+/// Takes back what was drawn last, and brings it again.
+void undoAndRedo(Program& program, benchmark::State& state)
+{
+    for (auto _ : state) {
+        for (const Name command : {control::undo, control::redo}) {
+            program.events.deliver({.kind = Event::Kind::click, .name = command.text()});
+            finish(state);
+        }
+    }
+}
+
+void undoWire(benchmark::State& state)
+{
+    Program program;
+    for (int i = 0; i < 100; ++i) {
+        program.events.deliver({.kind = Event::Kind::keyDown, .code = key::right});
+    }
+    undoAndRedo(program, state);
+}
+BENCHMARK(undoWire)->Apply(variants);
+
+/// Of a picture without blank paper.
+void undoNew(benchmark::State& state)
+{
+    Program program;
+    QImage picture(1920, 1080, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            picture.setPixel(x, y, static_cast<QRgb>(x * y));
+        }
+    }
+    program.main.form.Canvas->surface().setPicture(picture);
+    for (const char* const name : {"Eraser", "New"}) { // the first only lets the picture be there before
+        program.events.deliver({.kind = Event::Kind::click, .name = name});
+    }
+    undoAndRedo(program, state);
+}
+BENCHMARK(undoNew)->Apply(variants)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -53,12 +53,18 @@ inline Point pointBeside(const Pen& pen, double dx = 0, double dy = 0)
     return {static_cast<float>(pen.x + dx), static_cast<float>(pen.y + dy)};
 }
 
-/// What belongs to the drawing: all of it that is not ink.
+/// What the Output window shows: as many texts as it has values.
+using OutputTexts = std::array<std::string, 9>;
+
+/// What belongs to the drawing, and what undo takes back with it: all of it that the surface does not keep.
 struct Drawing : Pen {
-    int penMoved = 0; ///< 1 once an arrow key was pressed
+    int penMoved = 0;      ///< 1 once an arrow key was pressed
+    double markerLeft = 0; ///< of the pen marker
+    double markerTop = 0;
 
     Color canvasBackColor = black; ///< the canvas colour picked last
     Color paperColor = white;      ///< the colour that the canvas has: never black
+    Color toolboxColor = white;
 
     double resist = 0;       ///< sum of the resistances, ohm
     double induc = 0;        ///< sum of the inductances, henry
@@ -82,12 +88,29 @@ struct Drawing : Pen {
     double angularFrequency = 0;
     double frequencyCapac = 0;
     double capacitiveReactance = 0;
+    OutputTexts outputTexts; ///< in the order of the window's values
+};
+
+/// What New and Open give another drawing; what undoes one of them brings back the one before.
+struct Title {
+    std::string fileTitle; ///< the name of the file saved last since New, without its folder
+    std::string title;     ///< what the window's title says in its place
+};
+
+/// What New resets beside the drawing, and undoing New brings back.
+struct Modes {
+    Color wireColor = black;
+    int eraseMode = 0;
+    int toolboxFollow = 0;                   ///< 1 while the toolbox follows the mouse
+    std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 };
 
 /// Everything the program knows besides the ink: the drawing, and the tools and settings of the person who draws it.
 /// One plain field per fact, 0 until something sets it; switches are 1 or 0; lengths are twips.
-struct CanvasState : Drawing {
-    int eraseMode = 0;
+struct CanvasState : Drawing, Title, Modes {
+    int newDrawings = 0;    ///< begun by New
+    int openedDrawings = 0; ///< titled by Open
+
     int eraseHint = 0; ///< always 0, so the hint that it stands for never shows
     int lineTool = 0;  ///< at most one of the three tools is 1
     int rectTool = 0;
@@ -97,13 +120,11 @@ struct CanvasState : Drawing {
     std::optional<Point> pointer; ///< where the mouse is, while it is over the canvas
 
     int autoJumper = 0;
-    int toolboxFollow = 0;    ///< 1 while the toolbox follows the mouse
     Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
     Name lastFamily;          ///< the frame of the source panel that was opened last
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
-    std::string fileTitle; ///< the name of the file saved last since New, without its folder
     int printAnswer = 0;   ///< the button that closed the question about printing
     int blinkCount = 0;    ///< 0 to 9975: the marker shows at multiples of 50
     int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
@@ -117,7 +138,6 @@ struct CanvasState : Drawing {
     int form4Loaded = 0;    ///< 1 once the Output window was touched
 
     Color pickedColor = black; ///< by the colour dialog, last
-    Color wireColor = black;
 
     // The families' colours, black until the user picks one. Transistors share the transformers'.
     Color resistanceColor = black;
@@ -132,8 +152,6 @@ struct CanvasState : Drawing {
     Color diodesColor = black;
     Color opampColor = black;
     Color bufferColor = black;
-
-    std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 
     // The button that closed a symbol's question last.
     int andAnswer = 0, orAnswer = 0, notAnswer = 0, norAnswer = 0, nandAnswer = 0, exorAnswer = 0, exnorAnswer = 0;

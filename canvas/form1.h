@@ -2,6 +2,7 @@
 
 #include "canvas/canvas_state.h"
 #include "canvas/controls.h"
+#include "canvas/history.h"
 #include "platform/dialogs.h"
 #include "platform/main_window.h"
 #include "platform/pictures.h"
@@ -17,6 +18,7 @@ struct Form1 : CanvasState {
     {
     }
 
+    History history;
     Surface& surface;
     MainWindow& window;
     Dialogs& dialogs;

@@ -82,8 +82,8 @@ void mouseUp(Form1& form, int button, Point place)
     if (button != button::left) {
         return;
     }
-    form.window.setLeft(control::Picture1, place.x);
-    form.window.setTop(control::Picture1, place.y - markerRise);
+    setMarkerLeft(form, place.x);
+    setMarkerTop(form, place.y - markerRise);
     const Point from = form.surface.current();
     if (form.lineTool == 1) {
         form.surface.line(from, place);

@@ -2,10 +2,22 @@
 
 namespace schemlet {
 
+void setMarkerLeft(Form1& form, double twips)
+{
+    form.markerLeft = twips;
+    form.window.setLeft(control::Picture1, twips);
+}
+
+void setMarkerTop(Form1& form, double twips)
+{
+    form.markerTop = twips;
+    form.window.setTop(control::Picture1, twips);
+}
+
 void placeMarker(Form1& form, double left)
 {
-    form.window.setLeft(control::Picture1, left);
-    form.window.setTop(control::Picture1, form.y - markerRise);
+    setMarkerLeft(form, left);
+    setMarkerTop(form, form.y - markerRise);
 }
 
 void Timer2(Form1& form)

@@ -4,6 +4,9 @@
 #include "circuit/numbers.h"
 #include "platform/runtime_error.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace schemlet {
 
 namespace {
@@ -20,9 +23,17 @@ void loadForm4(Form1& form)
     clearOutput(form);
 }
 
+void showText(Form1& form, Name value, std::string text)
+{
+    const auto* const place = std::ranges::find(form4::control::values, value);
+    std::string& kept = form.outputTexts[static_cast<std::size_t>(place - std::begin(form4::control::values))];
+    kept = std::move(text);
+    form.form4.setText(value, kept);
+}
+
 void showNumber(Form1& form, Name label, double number)
 {
-    form.form4.setText(label, toText(number));
+    showText(form, label, toText(number));
 }
 
 void computeResonance(Form1& form)
@@ -84,7 +95,14 @@ void output(Form1& form)
 void clearOutput(Form1& form)
 {
     for (const Name value : form4::control::values) {
-        form.form4.setText(value, "0");
+        showText(form, value, "0");
+    }
+}
+
+void showOutputTexts(Form1& form)
+{
+    for (std::size_t i = 0; i < form.outputTexts.size(); ++i) {
+        form.form4.setText(form4::control::values[i], form.outputTexts[i]);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "canvas/form1.h"
 
+#include <array>
+
 namespace schemlet {
 
 // The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
@@ -38,7 +40,8 @@ inline constexpr Name Label15 = "Label15";
 inline constexpr Name print = "print"; ///< the button
 
 inline constexpr Name captions[] = {Label1, Label29, Label2, Label3, Label4, Label5, Label6, Label7, Label16, Label17};
-inline constexpr Name values[] = {Label18, Label19, Label20, Label21, Label22, Label23, Label24, Label14, Label15};
+inline constexpr std::array<Name, std::tuple_size_v<OutputTexts>> values = {Label18, Label19, Label20, Label21, Label22,
+                                                                            Label23, Label24, Label14, Label15};
 } // namespace control
 
 /// Prints the Output window. Throws RuntimeError(Fault::printerError).
@@ -55,5 +58,8 @@ void refreshOutput(Form1& form);
 
 /// Shows 0 for every value.
 void clearOutput(Form1& form);
+
+/// Shows the texts that the state has.
+void showOutputTexts(Form1& form);
 
 } // namespace schemlet

@@ -34,6 +34,9 @@ public:
     /// Appends a row to the menus: depth 0 is the bar itself, each further depth lies under the last row above it. So
     /// a row's depth is at most one more than that of the row before it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;
+    /// Lets keys, such as "Ctrl+Z", or several: "Ctrl+Shift+Z; Ctrl+Y", click what has this name. In a text box they
+    /// are the text's own.
+    virtual void addShortcut(Name name, std::string_view keys) = 0;
     /// Opens a hidden menu at a place, or at the canvas's edge nearest to it, and returns at once.
     virtual void popUp(Name menu, Point place) = 0;
     /// Appends a button to the toolbar, with the picture of this name; an empty key is a separator. One that is

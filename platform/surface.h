@@ -6,6 +6,8 @@
 
 namespace schemlet {
 
+struct InkChange; // platform/ink/changes.h
+
 /// 0x00BBGGRR, eight bits a channel: 0 is black, 0xFFFFFF white.
 using Color = std::uint32_t;
 
@@ -51,6 +53,7 @@ public:
     virtual void setBackColor(Color color) = 0;
     /// The colour of everything drawn from now on.
     virtual void setForeColor(Color color) = 0;
+    [[nodiscard]] virtual Color foreColor() const = 0;
 
     /// The pen's width in pixels, 1 or more; 2 at start.
     [[nodiscard]] virtual int drawWidth() const = 0;
@@ -59,6 +62,14 @@ public:
     /// Where the next print() begins, and the free-hand tools' starting point.
     [[nodiscard]] virtual Point current() const = 0;
     virtual void setCurrent(Point place) = 0;
+
+    /// The ink and the paper that was replaced since this was called last; empty if nothing was. Room that came with a
+    /// larger window is no change.
+    [[nodiscard]] virtual InkChange takeChange() = 0;
+    /// Takes back the latest change, or brings again the earliest one that was taken back: the image, its size and its
+    /// paper are what they were, but where the window has grown since, there is more of that paper. The change then
+    /// holds what was there.
+    virtual void exchange(InkChange& change) = 0;
 };
 
 } // namespace schemlet

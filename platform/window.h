@@ -39,6 +39,8 @@ public:
     [[nodiscard]] virtual std::string text(Name control) const = 0;
     /// What a screen reader says after a control's name, and again whenever it changes.
     virtual void setDescription(Name control, std::string_view text) = 0;
+    /// What a control says when the mouse rests on it.
+    virtual void setTip(Name control, std::string_view text) = 0;
     /// 1 for an option button that is chosen or a check box that is ticked, else 0; for a progress bar 0 to 100.
     /// Setting it does not count as a click.
     virtual void setValue(Name control, int value) = 0;

@@ -2,6 +2,7 @@
 
 #include "canvas/notice.h"
 #include "circuit/supply_panel.h"
+#include "shell/toolbox.h"
 
 namespace schemlet {
 
@@ -15,8 +16,8 @@ void bc(Form1& form)
     pickColor<colored::canvas>(form);
     if (form.canvasBackColor != black) {
         form.surface.setBackColor(form.canvasBackColor);
-        form.window.setBackColor(control::Frame2, form.canvasBackColor);
         form.paperColor = form.canvasBackColor;
+        colorToolbox(form, form.canvasBackColor);
     } else {
         notify(form, "Black reaches the panel and the eraser only");
     }

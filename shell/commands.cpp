@@ -14,6 +14,7 @@
 #include "shell/help.h"
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
+#include "shell/undo.h"
 #include "symbols/bipolar.h"
 #include "symbols/buffer_not_opamp.h"
 #include "symbols/diodes.h"
@@ -204,6 +205,15 @@ constexpr ToolPicture pictures[] = {
     {"Image7", " Click to Close the ToolBox ", toolbox},
 };
 
+/// Commands that no menu has.
+struct Shortcut {
+    Name name; ///< also of their button, if they have one
+    std::string_view keys;
+    Handler handler;
+};
+
+constexpr Shortcut shortcuts[] = {{control::undo, "Ctrl+Z", undo}, {control::redo, "Ctrl+Shift+Z; Ctrl+Y", redo}};
+
 struct Letter {
     char capital;
     Handler handler;
@@ -231,7 +241,13 @@ constexpr NamedHandler controls[] = {
     {form4::window, form4::control::print, form4::printForm},
 };
 
-/// Of a menu item, a toolbar button or a toolbox picture; null if there is none of this name.
+template <typename Row, std::size_t count> Handler handlerIn(const Row (&rows)[count], std::string_view name)
+{
+    const auto* const row = std::ranges::find(rows, name, [](const Row& each) { return each.name.text(); });
+    return row != std::end(rows) ? row->handler : nullptr;
+}
+
+/// Of a menu item, a button of toolbar or status bar, or a toolbox picture; null if there is none of this name.
 Handler handlerOf(std::string_view name)
 {
     for (const MenuRow& row : menu) {
@@ -239,14 +255,19 @@ Handler handlerOf(std::string_view name)
             return row.handler;
         }
     }
-    for (const ToolButton& button : toolbar) {
-        if (button.name.text() == name) {
-            return button.handler;
+    for (const Handler handler : {handlerIn(toolbar, name), handlerIn(pictures, name), handlerIn(shortcuts, name)}) {
+        if (handler != nullptr) {
+            return handler;
         }
     }
-    const auto* const picture =
-        std::ranges::find(pictures, name, [](const ToolPicture& row) { return row.name.text(); });
-    return picture != std::end(pictures) ? picture->handler : nullptr;
+    return nullptr;
+}
+
+Handler handlerOf(int character)
+{
+    const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
+    const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
+    return letter != std::end(letters) ? letter->handler : nullptr;
 }
 
 } // namespace
@@ -266,6 +287,25 @@ void addMenus(Form1& form)
     for (const MenuRow& row : menu) {
         form.window.addMenuItem(row.depth, row.item);
     }
+    for (const Shortcut& shortcut : shortcuts) {
+        form.window.addShortcut(shortcut.name, shortcut.keys);
+    }
+}
+
+Handler commandOf(const Event& event)
+{
+    return event.kind == Event::Kind::keyPress ? handlerOf(event.code) : handlerOf(event.name);
+}
+
+std::string captionOf(Handler command)
+{
+    const auto* const row = std::ranges::find(menu, command, &MenuRow::handler);
+    if (row == std::end(menu)) {
+        return {};
+    }
+    std::string caption(row->item.caption);
+    std::erase(caption, '&');
+    return caption;
 }
 
 void runRow(Form1& form, std::span<const NamedHandler> rows, std::string_view window, std::string_view name)
@@ -288,10 +328,8 @@ void runCommand(Form1& form, std::string_view window, std::string_view name)
 void keyPress(Form1& form, int character)
 {
     form.savedMark = 0;
-    const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
-    const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
-    if (letter != std::end(letters)) {
-        letter->handler(form);
+    if (const Handler handler = handlerOf(character); handler != nullptr) {
+        handler(form);
     }
 }
 

@@ -2,7 +2,10 @@
 
 #include "canvas/form1.h"
 
+#include "platform/event.h"
+
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace schemlet {
@@ -31,7 +34,7 @@ struct ToolPicture {
 [[nodiscard]] std::span<const ToolButton> toolbarButtons();
 [[nodiscard]] std::span<const ToolPicture> toolboxPictures();
 
-/// Builds the main window's menus, the popup menu included.
+/// Builds the main window's menus, the popup menu included, and the keys of what no menu has.
 void addMenus(Form1& form);
 
 /// What a control or a timer of one of the windows does, or a window's frame, which has no name.
@@ -46,6 +49,12 @@ void runRow(Form1& form, std::span<const NamedHandler> rows, std::string_view wi
 
 /// Runs the command of what was clicked in one of the windows. Does nothing for a name without a command.
 void runCommand(Form1& form, std::string_view window, std::string_view name);
+
+/// Of what was clicked, or of a typed letter; null if it has none.
+[[nodiscard]] Handler commandOf(const Event& event);
+
+/// The caption of a command's menu item, without & and outer blanks; empty if it has none.
+[[nodiscard]] std::string captionOf(Handler command);
 
 /// A typed character, a UTF-16 unit: runs the command of its letter, capital or small. Any character marks the drawing
 /// changed.

@@ -15,6 +15,7 @@
 #include "shell/splash.h"
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
+#include "shell/undo.h"
 
 namespace schemlet {
 
@@ -47,6 +48,20 @@ bool isCommand(Event::Kind kind)
     return kind != tick && kind != mouseMove && kind != hover && kind != mouseUp;
 }
 
+/// Saving changes nothing that undo knows of, and ends no run of an arrow key.
+bool mayChangeDrawing(const Event& event)
+{
+    using enum Event::Kind;
+    const bool idleMove = event.kind == mouseMove && event.code == 0;
+    return event.window == mainWindow.text() && event.kind != tick && event.kind != hover && !idleMove &&
+           (event.kind != click || commandOf(event) != save);
+}
+
+bool isOfLeftButton(const Event& event, Event::Kind kind)
+{
+    return event.kind == kind && event.code == button::left;
+}
+
 } // namespace
 
 void Events::deliver(const Event& event)
@@ -66,16 +81,39 @@ void Events::deliver(const Event& event)
 
 void Events::handle(const Event& event)
 {
+    if (event.kind == Event::Kind::tick && event.name == control::Timer2.text()) {
+        m_form.history.pause();
+    }
     if (!m_form.notice.empty() && isCommand(event.kind)) {
         forgetNotice(m_form); // it speaks of the command before
+    }
+    const bool isStep = mayChangeDrawing(event);
+    if (isStep) {
+        m_form.history.begin(m_form, event.kind == Event::Kind::keyDown ? event.code : 0);
     }
     try {
         dispatch(event);
     } catch (const RuntimeError& error) {
         tell(m_form, error);
     }
+    if (isStep) {
+        endStep(event);
+    }
     if (event.kind != Event::Kind::tick) { // else the blinking marker would keep it busy
         showStatusSoon(m_form);
+    }
+}
+
+void Events::endStep(const Event& event)
+{
+    History& history = m_form.history;
+    if (isOfLeftButton(event, Event::Kind::mouseDown)) {
+        history.press();
+    } else if (isOfLeftButton(event, Event::Kind::mouseUp)) {
+        history.release();
+    }
+    if (history.end(m_form)) {
+        history.name(stepName(m_form, event));
     }
 }
 

@@ -18,6 +18,7 @@ public:
 
 private:
     void handle(const Event& event);
+    void endStep(const Event& event);
     void dispatch(const Event& event);
 
     Form1& m_form;

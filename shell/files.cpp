@@ -26,7 +26,8 @@ std::string withoutFolder(std::string_view path)
 
 void setTitle(Form1& form, std::string_view file)
 {
-    form.window.setCaption(" - " + std::string(productName) + " " + std::string(file));
+    form.title = file;
+    form.window.setCaption(" - " + std::string(productName) + " " + form.title);
 }
 
 void new_(Form1& form)
@@ -67,6 +68,7 @@ void open(Form1& form)
     if (path) {
         form.pictures.loadBackground(*path);
     }
+    ++form.openedDrawings;
     setTitle(form, !path && !yes ? std::string(noFile) : withoutFolder(path.value_or("")));
 }
 
@@ -112,6 +114,7 @@ void exit_(Form1& form)
 
 void Command4(Form1& form)
 {
+    ++form.newDrawings;
     clearOutput(form);
     form.fileTitle.clear();
     form.surface.setBackColor(white);

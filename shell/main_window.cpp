@@ -19,7 +19,7 @@ void prepareControls(Form1& form)
     constexpr Color lightGrey = 0xE0E0E0;
     preparePanel(form);
     form.window.hide({control::Label27, control::Shape1});
-    form.window.setBackColor(control::Frame2, lightGrey);
+    colorToolbox(form, lightGrey);
 }
 
 } // namespace

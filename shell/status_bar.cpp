@@ -3,6 +3,7 @@
 #include "canvas/notice.h"
 #include "circuit/supply_panel.h"
 #include "shell/toolbox.h"
+#include "shell/undo.h"
 
 #include <cmath>
 #include <string>
@@ -122,6 +123,7 @@ void showStatus(Form1& form)
     setOptionalText(form, control::sbPointer, pointerText(form));
     showNotice(form);
     showTools(form);
+    showUndo(form);
     form.window.setCursor(cursorFor(form));
     keepPanelAside(form); // the pen may have come near
     form.window.setDescription(control::Canvas, spokenStatus(form));

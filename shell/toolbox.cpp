@@ -58,6 +58,12 @@ void hover(Form1& form, std::string_view name, Point place)
     showHint(form, toolboxPictures(), name);
 }
 
+void colorToolbox(Form1& form, Color color)
+{
+    form.toolboxColor = color;
+    form.window.setBackColor(control::Frame2, color);
+}
+
 void lll(Form1& form)
 {
     HideToolbar(form);

@@ -31,6 +31,9 @@ void eraserPicture(Form1& form);
 /// Shows or hides the toolbar.
 void HideToolbar(Form1& form);
 
+/// Gives the toolbox's ground a colour.
+void colorToolbox(Form1& form, Color color);
+
 /// Picks the toolbox up, or puts it down.
 void Label1(Form1& form);
 

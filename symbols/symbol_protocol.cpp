@@ -79,8 +79,8 @@ bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::str
 void moveMarkerLeft(Form1& form)
 {
     // The pen's height is assigned first and overwritten at once: the top was meant, but keeps its place.
-    form.window.setLeft(control::Picture1, form.y - markerRise);
-    form.window.setLeft(control::Picture1, form.x);
+    setMarkerLeft(form, form.y - markerRise);
+    setMarkerLeft(form, form.x);
 }
 
 void place(Form1& form, const Symbol& symbol)

@@ -39,6 +39,8 @@ struct Area {
     int top = 0;
     int right = 0;
     int bottom = 0;
+
+    friend bool operator==(const Area&, const Area&) = default;
 };
 
 // Each returns a part of the image that holds every pixel it inked.

@@ -15,11 +15,6 @@ QSize withMargin(QSize window)
     return window + QSize(1, 1);
 }
 
-ink::Area area(const QRect& part)
-{
-    return {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()};
-}
-
 } // namespace
 
 CanvasSurface::CanvasSurface()
@@ -34,16 +29,22 @@ bool CanvasSurface::setRatio(double ratio)
         return false;
     }
     m_ratio = ratio;
+    ++m_screenNumber;
     m_screen.reset();
     if (ratio > 1) {
-        m_screen = std::make_unique<QtSurface>(m_canvas.atScale(ratio));
-        m_screen->growTo(withMargin(m_canvas.window()));
-        m_screen->changed = [this](const QRect& part) {
-            note(QRectF(QPointF(part.topLeft()) / m_ratio, QSizeF(part.size()) / m_ratio).toAlignedRect());
-        };
-        enlarge(seen());
+        makeScreen();
     }
     return true;
+}
+
+void CanvasSurface::makeScreen()
+{
+    m_screen = std::make_unique<QtSurface>(m_canvas.atScale(m_ratio));
+    m_screen->growTo(withMargin(m_canvas.window()));
+    m_screen->changed = [this](const QRect& part) {
+        note(QRectF(QPointF(part.topLeft()) / m_ratio, QSizeF(part.size()) / m_ratio).toAlignedRect());
+    };
+    enlarge(seen());
 }
 
 void CanvasSurface::growTo(QSize window)
@@ -65,6 +66,30 @@ void CanvasSurface::setPicture(const QImage& picture)
         enlarge(seen());
         reportChanged();
     }
+}
+
+InkChange CanvasSurface::takeChange()
+{
+    return {.picture = m_canvas.takePatch(),
+            .screen = m_screen ? m_screen->takePatch() : ink::Patch(),
+            .screenNumber = m_screenNumber};
+}
+
+void CanvasSurface::exchange(InkChange& change)
+{
+    m_canvas.exchangePatch(change.picture);
+    if (change.screenNumber == m_screenNumber) {
+        if (m_screen) {
+            m_screen->exchangePatch(change.screen);
+        }
+    } else {
+        change.screen = {};
+        if (m_screen) {
+            makeScreen(); // everything there is older than this screen and has no finer pixels
+            note(m_canvas.image().rect());
+        }
+    }
+    reportChanged();
 }
 
 void CanvasSurface::line(Point from, Point to)
@@ -123,7 +148,7 @@ template <typename Draw> void CanvasSurface::draw(Draw stroke)
     if (m_screen) {
         stroke(*m_screen);
         for (const QRect& part : m_changed& seen()) {
-            ink::reconcile(m_canvas.pixels(), m_screen->pixels(), area(part));
+            ink::reconcile(m_canvas.pixels(), m_screen->pixels(), toArea(part));
         }
         reportChanged();
     }
@@ -157,7 +182,10 @@ QRect CanvasSurface::seen() const
 void CanvasSurface::enlarge(const QRegion& part)
 {
     for (const QRect& rect : part) {
-        ink::enlarge(m_canvas.pixels(), m_screen->pixels(), area(rect));
+        ink::enlarge(m_canvas.pixels(), m_screen->pixels(), toArea(rect));
+        m_screen->accept(toArea(QRect((QPointF(rect.topLeft()) * m_ratio).toPoint() - QPoint(1, 1),
+                                      m_screen->image().rect().bottomRight()) &
+                                m_screen->image().rect()));
     }
 }
 

@@ -42,13 +42,17 @@ public:
     void clear() override;
     void setBackColor(Color color) override;
     void setForeColor(Color color) override;
+    [[nodiscard]] Color foreColor() const override { return m_canvas.foreColor(); }
     [[nodiscard]] int drawWidth() const override { return m_canvas.drawWidth(); }
     void setDrawWidth(int pixels) override;
     [[nodiscard]] Point current() const override { return m_canvas.current(); }
     void setCurrent(Point place) override;
+    [[nodiscard]] InkChange takeChange() override;
+    void exchange(InkChange& change) override;
 
 private:
     template <typename Draw> void draw(Draw stroke);
+    void makeScreen();
     void note(const QRect& part);
     void reportChanged();
     /// The part of the canvas that the second image has.
@@ -56,6 +60,7 @@ private:
     void enlarge(const QRegion& part);
 
     double m_ratio = 1;
+    int m_screenNumber = 0; ///< another one for each finer image that was made for another ratio
     QtSurface m_canvas;
     /// Reaches as far as the window did since the last wipe: nothing beyond it was seen.
     std::unique_ptr<QtSurface> m_screen;

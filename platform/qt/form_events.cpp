@@ -169,6 +169,22 @@ bool ShowsWith::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
+OwnKeys::OwnKeys(QWidget& textBox, QList<QKeySequence> keys) : QObject(&textBox), m_keys(std::move(keys))
+{
+    textBox.installEventFilter(this);
+}
+
+bool OwnKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    // Asks whether the text box wants the key before the short-cuts get it.
+    if (event->type() == QEvent::ShortcutOverride &&
+        m_keys.contains(QKeySequence(dynamic_cast<const QKeyEvent&>(*event).keyCombination()))) {
+        event->accept();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 KeyDetour::KeyDetour(QWidget& button, QWidget& canvas) : QObject(&button), m_canvas(canvas)
 {
     button.installEventFilter(this);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QPoint>
 #include <QSize>
@@ -94,6 +96,20 @@ public:
 private:
     QWidget& m_part;
     const QWidget& m_frame;
+};
+
+/// Keys that are a text box's own while it has the focus, although the window has short-cuts on them.
+class OwnKeys final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Belongs to the text box.
+    OwnKeys(QWidget& textBox, QList<QKeySequence> keys);
+
+    [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QList<QKeySequence> m_keys;
 };
 
 /// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc

@@ -1,5 +1,6 @@
 #include "platform/qt/panel_room.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
@@ -46,6 +47,9 @@ void PanelRoom::fit()
 {
     const QMargins margins = m_bar.layout()->contentsMargins();
     int taken = margins.left() + margins.right();
+    for (const auto* const button : m_bar.findChildren<QAbstractButton*>()) {
+        taken += button->sizeHint().width(); // they never give way
+    }
     for (const auto& [label, smallest, largest] : m_panels) {
         if (label->isHidden()) {
             continue;

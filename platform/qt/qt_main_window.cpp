@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegion>
@@ -129,6 +130,18 @@ void QtMainWindow::addMenuItem(int depth, const MenuItem& item)
     QAction& action = m_menus.add(depth, item);
     if (!item.name.empty()) {
         addNamed(item.name, action);
+    }
+}
+
+void QtMainWindow::addShortcut(Name name, std::string_view keys)
+{
+    auto* const action = new QAction(&form());
+    action->setShortcuts(QKeySequence::listFromString(toQString(keys), QKeySequence::PortableText));
+    connect(action, &QAction::triggered, this,
+            [this, name] { report({.kind = Event::Kind::click, .name = name.text()}); });
+    form().addAction(action);
+    for (auto* const text : form().findChildren<QLineEdit*>()) {
+        new OwnKeys(*text, action->shortcuts());
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QRawFont>
 #include <QTextLayout>
 #include <cmath>
+#include <utility>
 
 namespace schemlet {
 
@@ -18,6 +19,11 @@ namespace {
 ink::Place toPlace(Point point)
 {
     return {point.x / twipsPerPixel, point.y / twipsPerPixel};
+}
+
+QRect toRect(const ink::Area& area)
+{
+    return {QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1)};
 }
 
 } // namespace
@@ -32,6 +38,11 @@ QFont canvasFont()
     return font;
 }
 
+ink::Area toArea(const QRect& part)
+{
+    return {part.left(), part.top(), part.left() + part.width(), part.top() + part.height()};
+}
+
 QtSurface::QtSurface(double scale) : m_scale(scale) {}
 
 QtSurface QtSurface::atScale(double scale) const
@@ -40,6 +51,7 @@ QtSurface QtSurface::atScale(double scale) const
     other.changed = nullptr;
     other.m_scale = scale;
     other.m_image = {};
+    other.m_changes = ink::Changes(m_backColor);
     other.growTo(m_window);
     return other;
 }
@@ -57,6 +69,7 @@ void QtSurface::growTo(QSize window)
         QPainter(&larger).drawImage(0, 0, m_image);
     }
     m_image = larger;
+    m_changes.grow(size.width(), size.height());
 }
 
 void QtSurface::setPicture(const QImage& picture)
@@ -82,9 +95,35 @@ void QtSurface::startAfresh(QSize size)
         m_image = QImage(size, QImage::Format_RGB32);
     }
     m_image.fill(m_backColor);
+    report({0, 0, size.width(), size.height()});
+}
+
+void QtSurface::exchangePatch(ink::Patch& patch)
+{
+    ink::Patch reverse = ink::reverse(pixels(), m_backColor, patch);
+    const bool fits = fit(patch);
+    m_changes.put(pixels(), m_backColor, patch);
+    reverse.after = {m_image.width(), m_image.height(), m_backColor};
+    patch = std::move(reverse);
     if (changed) {
-        changed(m_image.rect());
+        changed(fits ? toRect(ink::cover(patch)) & m_image.rect() : m_image.rect());
     }
+}
+
+/// Gives the image the size and the paper that it had. Returns whether it has them already.
+bool QtSurface::fit(const ink::Patch& patch)
+{
+    const QSize size = QSize(patch.before.width, patch.before.height).expandedTo(scaled(m_window));
+    if (size == m_image.size() && patch.before.paper == m_backColor) {
+        return true;
+    }
+    m_backColor = patch.before.paper;
+    QImage fitting(size, QImage::Format_RGB32);
+    fitting.fill(m_backColor);
+    // What lies beyond that came with a larger window since, and is empty.
+    QPainter(&fitting).drawImage(QPoint(), m_image, QRect(0, 0, patch.after.width, patch.after.height));
+    m_image = fitting;
+    return false;
 }
 
 void QtSurface::line(Point from, Point to)
@@ -123,11 +162,9 @@ void QtSurface::print(std::string_view text, bool endLine)
     const QRectF visible(QPointF(), m_image.size() / m_scale);
     if (place.intersects(visible.adjusted(-height, -height, 0, 0))) {
         drawText(string, place.topLeft());
-        if (changed) {
-            const QPointF baseline = place.topLeft() + QPointF(0, metrics.ascent());
-            const QRectF ink = QRectF(metrics.boundingRect(string)).translated(baseline).adjusted(-1, -1, 1, 1);
-            changed(QRectF(ink.topLeft() * m_scale, ink.size() * m_scale).toAlignedRect() & m_image.rect());
-        }
+        const QPointF baseline = place.topLeft() + QPointF(0, metrics.ascent());
+        const QRectF ink = QRectF(metrics.boundingRect(string)).translated(baseline).adjusted(-1, -1, 1, 1);
+        report(toArea(QRectF(ink.topLeft() * m_scale, ink.size() * m_scale).toAlignedRect() & m_image.rect()));
     }
     m_current = endLine ? Point{0, static_cast<float>(m_current.y + height * twipsPerPixel)}
                         : Point{static_cast<float>(m_current.x + advance * twipsPerPixel), m_current.y};
@@ -165,6 +202,11 @@ std::optional<Color> QtSurface::point(Point place) const
     return toColor(m_image.pixelColor(static_cast<int>(column), static_cast<int>(row)));
 }
 
+Color QtSurface::foreColor() const
+{
+    return toColor(QColor(m_foreColor));
+}
+
 void QtSurface::setForeColor(Color color)
 {
     m_foreColor = toQColor(color).rgb();
@@ -182,10 +224,13 @@ QSize QtSurface::scaled(QSize canvas) const
             static_cast<int>(std::ceil(canvas.height() * m_scale))};
 }
 
-void QtSurface::report(const ink::Area& area) const
+void QtSurface::report(const ink::Area& area)
 {
-    if (changed && area.left < area.right) {
-        changed(QRect(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1)));
+    if (area.left < area.right) {
+        m_changes.mark(area);
+        if (changed) {
+            changed(toRect(area));
+        }
     }
 }
 

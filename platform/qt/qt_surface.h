@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ink/changes.h"
 #include "platform/ink/ink.h"
 #include "platform/surface.h"
 
@@ -11,6 +12,8 @@ namespace schemlet {
 
 /// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
 [[nodiscard]] QFont canvasFont();
+
+[[nodiscard]] ink::Area toArea(const QRect& part);
 
 /// Ink: one retained image and nothing else, however much is drawn. At scale 1 the image has one pixel per 15 twips, at
 /// scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
@@ -34,6 +37,12 @@ public:
     void growTo(QSize window);
     /// Lays a picture on clean paper; the image becomes as large as the window and the picture need.
     void setPicture(const QImage& picture);
+    /// What changed in the image since this was called last.
+    [[nodiscard]] ink::Patch takePatch() { return m_changes.take(pixels(), m_backColor); }
+    /// Takes back what a patch holds, which then holds what was there.
+    void exchangePatch(ink::Patch& patch);
+    /// Lets what was written into this part of the image's memory be no change.
+    void accept(const ink::Area& area) { m_changes.accept(pixels(), m_backColor, area); }
 
     void line(Point from, Point to) override;
     void box(Point from, Point to) override;
@@ -44,17 +53,21 @@ public:
     void clear() override;
     void setBackColor(Color color) override;
     void setForeColor(Color color) override;
+    [[nodiscard]] Color foreColor() const override;
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
     [[nodiscard]] Point current() const override { return m_current; }
     void setCurrent(Point place) override { m_current = place; }
+    [[nodiscard]] InkChange takeChange() override { return {.picture = takePatch(), .screen = {}}; }
+    void exchange(InkChange& change) override { exchangePatch(change.picture); }
 
 private:
     void startAfresh(QSize size);
+    bool fit(const ink::Patch& patch);
     [[nodiscard]] QSize scaled(QSize canvas) const;
     [[nodiscard]] ink::Pen pen() const { return {m_foreColor, static_cast<double>(m_drawWidth)}; }
     void drawText(const QString& text, QPointF topLeft);
-    void report(const ink::Area& area) const;
+    void report(const ink::Area& area);
 
     QSize m_window; ///< as far as the user sees, in unscaled pixels
     double m_scale;
@@ -64,6 +77,7 @@ private:
     QRgb m_backColor = qRgb(255, 255, 255);
     int m_drawWidth = 2;
     Point m_current;
+    ink::Changes m_changes{m_backColor};
 };
 
 } // namespace schemlet

@@ -39,6 +39,7 @@ public:
     void setText(Name control, std::string_view text) override;
     [[nodiscard]] std::string text(Name control) const override;
     void setDescription(Name control, std::string_view text) override;
+    void setTip(Name control, std::string_view text) override;
     void setValue(Name control, int value) override;
     [[nodiscard]] int value(Name control) const override;
     void setBackColor(Name control, Color color) override;

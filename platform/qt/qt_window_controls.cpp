@@ -83,6 +83,11 @@ void QtWindow::setDescription(Name control, std::string_view text)
     }
 }
 
+void QtWindow::setTip(Name control, std::string_view text)
+{
+    find<QWidget>(control).setToolTip(toQString(text));
+}
+
 void QtWindow::setValue(Name control, int value)
 {
     if (auto* const bar = findIf<QProgressBar>(control)) {

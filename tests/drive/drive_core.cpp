@@ -47,7 +47,7 @@ public:
         const Event closing{.kind = Event::Kind::close, .window = form6::window.text()};
         m_event = !atSplash ? event() : m_chance.oneIn(8) ? closing : tick();
         const Pen before = form;
-        events.deliver(m_event);
+        deliver(m_event);
         if (!atSplash) {
             checkPen(before);
             checkSwitches();
@@ -55,9 +55,80 @@ public:
         }
     }
 
+    /// Takes back some steps and brings them again. On the way, drawing and state are what they were between two
+    /// events, in the order of the events.
+    void undoAndRedo(long most)
+    {
+        deliver({.kind = Event::Kind::mouseUp, .code = button::left}); // a step may be going on
+        auto back = m_seen.rbegin();
+        long steps = 0;
+        for (; steps < most && !form.history.undoable().empty(); ++steps) {
+            events.deliver({.kind = Event::Kind::click, .name = control::undo.text()});
+            back = std::find(back, m_seen.rend(), digest());
+            demand(back != m_seen.rend(), "undo leads to what never was");
+        }
+        for (auto forward = back.base(); steps > 0; --steps) {
+            events.deliver({.kind = Event::Kind::click, .name = control::redo.text()});
+            forward = std::find(forward, m_seen.end(), digest());
+            demand(forward != m_seen.end(), "redo leads to what never was");
+        }
+        m_seen.push_back(digest());
+    }
+
     [[nodiscard]] const Event& lastEvent() const { return m_event; }
 
 private:
+    void deliver(const Event& event)
+    {
+        events.deliver(event);
+        m_seen.push_back(digest());
+    }
+
+    /// Of all that undo takes back.
+    [[nodiscard]] std::size_t digest() const
+    {
+        std::size_t sum = 0;
+        const auto add = [&sum](const auto& value) {
+            sum = sum * 31 + std::hash<std::decay_t<decltype(value)>>()(value);
+        };
+        const auto& pixels = surface.pixels();
+        add(std::string_view(reinterpret_cast<const char*>(pixels.data()), pixels.size() * sizeof(pixels.front())));
+        for (const double number : {form.x,
+                                    form.y,
+                                    form.markerLeft,
+                                    form.markerTop,
+                                    form.resist,
+                                    form.induc,
+                                    form.capac,
+                                    form.supplyValue,
+                                    form.supplyVoltage,
+                                    form.supplyCurrent,
+                                    form.batteryPositive,
+                                    form.batteryNegative,
+                                    form.resonanceDenominator,
+                                    form.resonanceFrequency,
+                                    form.qualityFactor,
+                                    form.frequencyCopy,
+                                    form.angularFrequency,
+                                    form.frequencyCapac,
+                                    form.capacitiveReactance,
+                                    double(surface.current().x),
+                                    double(surface.current().y)}) {
+            add(number);
+        }
+        for (const auto number : {Color(form.heading), Color(form.penMoved), Color(form.diodeCount),
+                                  form.canvasBackColor, form.paperColor, form.toolboxColor, surface.foreColor()}) {
+            add(number);
+        }
+        for (const auto& text : {form.resistValue, form.inductValue, form.capacValue}) {
+            add(text);
+        }
+        for (const Name value : form4::control::values) {
+            add(output.at(value.text()).text);
+        }
+        return sum;
+    }
+
     /// What moved the pen: the event's kind, name and code and the heading before.
     using Cause = std::tuple<Event::Kind, std::string_view, int, int>;
 
@@ -144,6 +215,9 @@ private:
         if (dx == 0 && dy == 0) {
             return;
         }
+        if (m_event.name == control::undo.text() || m_event.name == control::redo.text()) {
+            return;
+        }
         if (m_event.name == "new" || m_event.name == "New") {
             return demand(form.x == 1600 && form.y == 1500, "New leaves the pen elsewhere");
         }
@@ -202,6 +276,7 @@ private:
                                                                                 {form3::window.text(), about},
                                                                                 {form4::window.text(), output}}};
     Event m_event{};
+    std::vector<std::size_t> m_seen; ///< the digests after all events
     std::map<Cause, std::set<std::pair<double, double>>> m_advances;
 };
 
@@ -219,15 +294,16 @@ int main(int argc, char* argv[])
     }
     Drive drive(std::stoull(words[1]));
     const long events = std::stol(words[2]);
-    std::size_t warm = 0;
     long event = 0;
     try {
         for (; event < events; ++event) {
             drive.step();
-            warm = event == events / 2 ? mallinfo2().uordblks : warm;
+            if (event % 10'000 == 9'999) {
+                drive.undoAndRedo(event % 1'000'000 == 999'999 ? events : 300);
+            }
         }
-        constexpr std::size_t slack = 100'000; // typed texts have their lengths
-        demand(mallinfo2().uordblks <= warm + slack, "memory grows");
+        constexpr std::size_t most = 100 << 20; // bytes, for the history above all
+        demand(mallinfo2().uordblks - events * sizeof(std::size_t) <= most, "memory grows");
     } catch (const std::exception& error) {
         const Event& last = drive.lastEvent();
         std::cerr << "seed " << words[1] << ", event " << event << ": " << error.what() << "\n  kind "

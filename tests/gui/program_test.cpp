@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string_view>
+#include <utility>
 
 namespace schemlet {
 
@@ -127,11 +128,13 @@ TEST(Program, PrintsOutputWindowAndCanvasWithoutFocusMarkerAndEraserOutlineOrSay
 {
     PrintServer server;
     Program program;
-    int pages = 0;
+    QString lastFile;
     const auto nextPage = [&] {
-        ++pages;
-        waitUntil("a printed page", [&] { return server.printedFiles().size() == pages; });
-        return printedPicture(server.printedFiles().last());
+        waitUntil("a printed page", [&] {
+            const QStringList files = server.printedFiles();
+            return !files.isEmpty() && files.last() != std::exchange(lastFile, files.last());
+        });
+        return printedPicture(lastFile);
     };
     program.open("ctrl+u", "Output");
     program.activate();

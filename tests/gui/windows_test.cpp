@@ -244,8 +244,8 @@ TEST(Windows, StatusBarCutsNoTextButDropsWhatMattersLeast)
         const char *heading, *notice, *off;
         int shown; // so many of the panels below
     };
-    for (const Case& c : {Case{9, 784, "→ Right", "", "", 7}, Case{9, 784, none, counted, "", 5},
-                          Case{9, 460, none, counted, "off the canvas", 2}, Case{9, 1024, none, counted, "", 8},
+    for (const Case& c : {Case{9, 784, "→ Right", "", "", 7}, Case{9, 784, none, counted, "", 4},
+                          Case{9, 460, none, counted, "off the canvas", 2}, Case{9, 1024, none, counted, "", 7},
                           Case{15, 1024, none, "An AND gate needs the pen heading right", "", 3},
                           Case{15, 1024, "→ Right", "", "", 6}}) {
         SCOPED_TRACE(std::to_string(c.points) + " pt, " + std::to_string(c.width) + " px, " + c.notice);

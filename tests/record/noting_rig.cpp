@@ -82,8 +82,8 @@ std::string totals(const State& state)
 std::string nextInk(const RecordingSurface& surface)
 {
     const int width = surface.drawWidth();
-    return "text " + placed(surface.current().x, surface.current().y) + ", color " + std::to_string(surface.foreColor) +
-           (width == 2 ? "" : ", width " + std::to_string(width));
+    return "text " + placed(surface.current().x, surface.current().y) + ", color " +
+           std::to_string(surface.foreColor()) + (width == 2 ? "" : ", width " + std::to_string(width));
 }
 
 std::string penAndInk(const Rig& rig)

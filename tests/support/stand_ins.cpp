@@ -4,6 +4,15 @@
 
 namespace schemlet {
 
+namespace {
+
+ink::Place pixel(Point point)
+{
+    return {point.x / twipsPerPixel, point.y / twipsPerPixel};
+}
+
+} // namespace
+
 void Notes::change(const std::string& thing, const std::string& before, const std::string& now)
 {
     const auto known = thing.empty() ? m_notes.end() : std::ranges::find(m_notes, thing, &Note::thing);
@@ -39,9 +48,9 @@ void RecordingSurface::note(const char* what, std::initializer_list<float> numbe
     if (!m_notes.kept) {
         return;
     }
-    if (notedColor != foreColor) {
-        notedColor = foreColor;
-        m_notes.add("color " + std::to_string(foreColor));
+    if (notedColor != m_foreColor) {
+        notedColor = m_foreColor;
+        m_notes.add("color " + std::to_string(m_foreColor));
     }
     std::string call = what;
     for (const float number : numbers) {
@@ -50,9 +59,52 @@ void RecordingSurface::note(const char* what, std::initializer_list<float> numbe
     m_notes.add(call + std::string(text));
 }
 
+void RecordingSurface::circle(Point centre, float radius)
+{
+    note("circle", {centre.x, centre.y, radius});
+    m_inkChanges.mark(ink::circle(image(), {m_foreColor, double(m_drawWidth)}, pixel(centre), radius / twipsPerPixel));
+}
+
+void RecordingSurface::arc(Point centre, float radius, float start, float end)
+{
+    note("arc", {centre.x, centre.y, radius, start, end});
+    m_inkChanges.mark(
+        ink::arc(image(), {m_foreColor, double(m_drawWidth)}, pixel(centre), radius / twipsPerPixel, start, end));
+}
+
+void RecordingSurface::setBackColor(Color color)
+{
+    note("back", {static_cast<float>(color)});
+    m_backColor = color;
+    std::ranges::fill(m_pixels, color);
+    m_inkChanges.mark({0, 0, width, height});
+}
+
+InkChange RecordingSurface::takeChange()
+{
+    return {.picture = m_inkChanges.take(image(), m_backColor), .screen = {}};
+}
+
+void RecordingSurface::exchange(InkChange& change)
+{
+    if (!change.empty()) {
+        m_notes.add("exchange");
+    }
+    ink::Patch reverse = ink::reverse(image(), m_backColor, change.picture);
+    m_backColor = change.picture.before.paper;
+    m_inkChanges.put(image(), m_backColor, change.picture);
+    change.picture = std::move(reverse);
+}
+
+void RecordingSurface::draw(Point from, Point to)
+{
+    m_inkChanges.mark(ink::line(image(), {m_foreColor, double(m_drawWidth)}, pixel(from), pixel(to)));
+}
+
 void RecordingSurface::stroke(const char* what, Point from, Point to)
 {
     note(what, {from.x, from.y, to.x, to.y});
+    draw(from, to);
     m_current = to;
 }
 
@@ -60,6 +112,7 @@ void RecordingSurface::print(std::string_view text, bool endLine)
 {
     note("print", {static_cast<float>(m_current.x), static_cast<float>(m_current.y)},
          " " + std::string(text) + (endLine ? "" : " ..."));
+    draw(m_current, {m_current.x + 100, m_current.y + 195});
     m_current = endLine ? Point{0, m_current.y + 195} : Point{m_current.x + 100, m_current.y};
 }
 

@@ -2,6 +2,7 @@
 
 #include "canvas/form1.h"
 #include "circuit/output_window.h"
+#include "platform/ink/changes.h"
 #include "platform/runtime_error.h"
 #include "shell/about.h"
 #include "shell/help.h"
@@ -59,6 +60,7 @@ private:
     std::vector<Note> m_notes;
 };
 
+/// Draws, too, for undo: on a small image, and texts as lines.
 class RecordingSurface final : public Surface {
 public:
     explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
@@ -66,32 +68,45 @@ public:
     std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
     std::optional<Color> underPoint; ///< what point() finds, anywhere
     mutable std::string probedAt;    ///< where point() looked last
-    Color foreColor = black;
 
     void line(Point from, Point to) override { stroke("line", from, to); }
     void box(Point from, Point to) override { stroke("box", from, to); }
-    void circle(Point centre, float radius) override { note("circle", {centre.x, centre.y, radius}); }
-    void arc(Point centre, float radius, float start, float end) override
-    {
-        note("arc", {centre.x, centre.y, radius, start, end});
-    }
+    void circle(Point centre, float radius) override;
+    void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
     [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override { note("clear", {}); }
-    void setBackColor(Color color) override { note("back", {static_cast<float>(color)}); }
-    void setForeColor(Color color) override { foreColor = color; }
+    void setBackColor(Color color) override;
+    void setForeColor(Color color) override { m_foreColor = color; }
+    [[nodiscard]] Color foreColor() const override { return m_foreColor; }
     [[nodiscard]] int drawWidth() const override { return m_drawWidth; }
     void setDrawWidth(int pixels) override { m_drawWidth = pixels; }
     [[nodiscard]] Point current() const override { return m_current; }
     void setCurrent(Point place) override { m_current = place; }
+    [[nodiscard]] InkChange takeChange() override;
+    void exchange(InkChange& change) override;
+    [[nodiscard]] const std::vector<std::uint32_t>& pixels() const { return m_pixels; }
 
 private:
+    static constexpr int width = 192; // pixels
+    static constexpr int height = 128;
+
+    [[nodiscard]] ink::Image image() { return {m_pixels.data(), width, height, width}; }
+    void draw(Point from, Point to);
     void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
     void stroke(const char* what, Point from, Point to);
 
     Notes& m_notes;
     int m_drawWidth = 2;
     Point m_current;
+    Color m_foreColor = black;
+    Color m_backColor = white;
+    std::vector<std::uint32_t> m_pixels = std::vector<std::uint32_t>(std::size_t{width} * height, white);
+    ink::Changes m_inkChanges = [] {
+        ink::Changes changes(white);
+        changes.grow(width, height);
+        return changes;
+    }();
 };
 
 enum class Asked { box, text, color, file };
@@ -134,11 +149,12 @@ private:
 
 // Every named control of a form; a test of the forms themselves finds each of them there.
 inline constexpr Name formControls[] = {
-    "Canvas",    "Picture1", "Shape1",    "Label27",     "sb",        "sbPen",    "sbHeading", "sbTool",  "sbErase",
-    "sbJumpers", "sbNotice", "sbPointer", "sbOffCanvas", "statusBar", "Toolbar1", "panel",     "sup",     "bat",
-    "Label11",   "Label12",  "Label13",   "Label28",     "Option1",   "Option2",  "Option3",   "Option4", "Option5",
-    "Text11",    "Command3", "Command7",  "Command8",    "Frame2",    "Label1",   "Image1",    "Image2",  "Image3",
-    "Image4",    "Image5",   "Image15",   "Image16",     "Image17",   "Image18",  "Image19",   "Image20", "Image7"};
+    "Canvas",  "Picture1",  "Shape1",   "Label27",   "sb",          "sbPen",     "sbHeading", "sbTool",
+    "sbErase", "sbJumpers", "sbNotice", "sbPointer", "sbOffCanvas", "statusBar", "Toolbar1",  "panel",
+    "sup",     "bat",       "Label11",  "Label12",   "Label13",     "Label28",   "Option1",   "Option2",
+    "Option3", "Option4",   "Option5",  "Text11",    "Command3",    "Command7",  "Command8",  "Frame2",
+    "Label1",  "Image1",    "Image2",   "Image3",    "Image4",      "Image5",    "Image15",   "Image16",
+    "Image17", "Image18",   "Image19",  "Image20",   "Image7",      "undo",      "redo"};
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
 inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::control::Command1, form3::control::Command2};
 inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
@@ -154,6 +170,7 @@ public:
         Color backColor = white;
         std::string text;
         std::string description;
+        std::string tip;
         void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
@@ -182,6 +199,7 @@ public:
     void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { note("program ended"); }
+    void addShortcut(Name name, std::string_view /*keys*/) override { (void)at(name.text()); }
     void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override { m_controls[key.text()]; }
     void setSwatch(Name key, Color color) override { setBackColor(key, color); }
     void setCursor(const Cursor& pointer) override;
@@ -199,6 +217,7 @@ public:
     {
         set(name, &Control::description, std::string(text), "described ");
     }
+    void setTip(Name name, std::string_view text) override { set(name, &Control::tip, std::string(text), "tip "); }
     void setValue(Name name, int value) override { set(name, &Control::value, value, "value "); }
     [[nodiscard]] int value(Name name) const override { return at(name.text()).value; }
     void setBackColor(Name name, Color color) override { set(name, &Control::backColor, color, "color "); }
