@@ -9,64 +9,36 @@
 
 namespace schemlet {
 
-namespace {
-
 constexpr auto connectionName = "accessibility";
-constexpr auto itself = "org.a11y.atspi.Accessible";
 
-/// The first value of the answer.
-QVariant ask(const Accessible& accessible, const QString& interface, const QString& method,
-             const QVariantList& words = {})
+QVariant Accessible::ask(const QString& interface, const QString& method, const QVariantList& words) const
 {
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(accessible.service, accessible.path.path(), interface, method);
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path.path(), interface, method);
     question.setArguments(words);
     return QDBusConnection(connectionName).call(question).arguments().value(0);
 }
 
-QVariant property(const Accessible& accessible, const QString& interface, const QString& name)
+QVariant Accessible::property(const QString& interface, const QString& name) const
 {
-    return ask(accessible, "org.freedesktop.DBus.Properties", "Get", {interface, name}).value<QDBusVariant>().variant();
-}
-
-} // namespace
-
-QString Accessible::role() const
-{
-    return ask(*this, itself, "GetRoleName").toString();
-}
-
-QString Accessible::name() const
-{
-    return property(*this, itself, "Name").toString().simplified();
-}
-
-QString Accessible::description() const
-{
-    return property(*this, itself, "Description").toString();
-}
-
-double Accessible::value() const
-{
-    return property(*this, "org.a11y.atspi.Value", "CurrentValue").toDouble();
+    return ask("org.freedesktop.DBus.Properties", "Get", {interface, name}).value<QDBusVariant>().variant();
 }
 
 bool Accessible::is(State state) const
 {
-    return (qdbus_cast<QList<uint>>(ask(*this, itself, "GetState")).value(0) >> state & 1U) != 0;
+    return (qdbus_cast<QList<uint>>(ask(itself, "GetState")).value(0) >> state & 1U) != 0;
 }
 
 QRect Accessible::placeOnScreen() const
 {
     constexpr uint onScreen = 0;
-    return qdbus_cast<QRect>(ask(*this, "org.a11y.atspi.Component", "GetExtents", {onScreen}));
+    return qdbus_cast<QRect>(ask("org.a11y.atspi.Component", "GetExtents", {onScreen}));
 }
 
 std::vector<Accessible> Accessible::children() const
 {
     std::vector<Accessible> found;
     using Reference = std::pair<QString, QDBusObjectPath>;
-    for (const auto& [itsService, itsPath] : qdbus_cast<QList<Reference>>(ask(*this, itself, "GetChildren"))) {
+    for (const auto& [itsService, itsPath] : qdbus_cast<QList<Reference>>(ask(itself, "GetChildren"))) {
         found.push_back({itsService, itsPath});
     }
     return found;

@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QString>
 #include <QTemporaryDir>
+#include <QVariant>
 #include <vector>
 
 namespace schemlet {
@@ -17,16 +18,23 @@ struct Accessible {
     QString service = "org.a11y.atspi.Registry"; ///< where to ask for the rest
     QDBusObjectPath path{"/org/a11y/atspi/null"};
 
-    [[nodiscard]] QString role() const;
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString description() const;
-    [[nodiscard]] double value() const;
+    [[nodiscard]] QString role() const { return ask(itself, "GetRoleName").toString(); }
+    [[nodiscard]] QString name() const { return property(itself, "Name").toString().simplified(); }
+    [[nodiscard]] QString description() const { return property(itself, "Description").toString(); }
+    [[nodiscard]] double value() const { return property("org.a11y.atspi.Value", "CurrentValue").toDouble(); }
     [[nodiscard]] bool is(State state) const;
     [[nodiscard]] QRect placeOnScreen() const;
     [[nodiscard]] std::vector<Accessible> children() const;
     /// With everything that is in it; from the outside in, what comes first on the screen first. Menus that are closed
     /// hold much, and are rarely asked for.
     [[nodiscard]] std::vector<Accessible> contents(bool closedMenusToo = false) const;
+
+private:
+    static constexpr auto itself = "org.a11y.atspi.Accessible";
+
+    /// The first value of the answer.
+    [[nodiscard]] QVariant ask(const QString& interface, const QString& method, const QVariantList& words = {}) const;
+    [[nodiscard]] QVariant property(const QString& interface, const QString& name) const;
 };
 
 /// A screen reader's view of the programs that are started while it lives: a bus of their own, on which they tell what

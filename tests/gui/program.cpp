@@ -47,15 +47,13 @@ Program::Program(Stage until)
         return title == mainTitle;
     });
     waitForHelp();
-    if (until == Stage::drawing) {
-        waitUntil("the help window's frame", [] { return QProcess::execute("wmctrl", {"-F", "-c", "Help"}) == 0; });
-        waitUntil("the help window's end", [this] { return !isOpen("Help"); });
-        xdotool("windowmove " + m_window + " 40 40");
-        waitUntil("the main window in its place", [this] {
-            findCanvas();
-            return m_canvas.left() == 40;
-        });
-    }
+    waitUntil("the help window's frame", [] { return QProcess::execute("wmctrl", {"-F", "-c", "Help"}) == 0; });
+    waitUntil("the help window's end", [this] { return !isOpen("Help"); });
+    xdotool("windowmove " + m_window + " 40 40");
+    waitUntil("the main window in its place", [this] {
+        findCanvas();
+        return m_canvas.left() == 40;
+    });
 }
 
 void Program::waitForHelp()

@@ -18,8 +18,7 @@ class Program {
 public:
     enum class Stage {
         splash,  ///< the splash has the keyboard
-        help,    ///< the main window has it, and the help window has opened beside
-        drawing, ///< that is closed
+        drawing, ///< the main window has it, and the help window is closed
     };
 
     /// Starts it in a home folder of its own, and waits until it has come so far.
