@@ -46,10 +46,13 @@ std::vector<Accessible> Accessible::children() const
 
 std::vector<Accessible> Accessible::contents(bool closedMenusToo) const
 {
-    std::vector<Accessible> found{*this};
-    if (closedMenusToo || role() != "popup menu" || is(showing)) {
-        for (const Accessible& child : children()) {
-            std::ranges::copy(child.contents(closedMenusToo), std::back_inserter(found));
+    std::vector<Accessible> found;
+    for (std::vector<Accessible> open{*this}; !open.empty();) {
+        const Accessible next = found.emplace_back(open.back());
+        open.pop_back();
+        if (closedMenusToo || next.role() != "popup menu" || next.is(showing)) {
+            const std::vector<Accessible> children = next.children();
+            open.insert(open.end(), children.rbegin(), children.rend());
         }
     }
     return found;

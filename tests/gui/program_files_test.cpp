@@ -102,14 +102,6 @@ TEST(Program, SavesReopensAndSavesAgainPixelForPixel)
     QPainter(&expected).drawImage(318, 318, second, 318, 318, 25, 25);
     EXPECT_TRUE(second == expected);
     EXPECT_TRUE(second != first);
-
-    store(path, "damaged");
-    command(program, "ctrl+o", "n");
-    choose(program, "Open", "second.png");
-    program.waitForText("Invalid picture*");
-    program.keys("Return");
-    program.waitForWindow("- Schemlet 2.0 second.png");
-    waitForCanvas(second);
 }
 
 } // namespace schemlet
