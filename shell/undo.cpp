@@ -18,15 +18,19 @@ namespace schemlet {
 namespace {
 
 /// Brings the windows in line with the state.
-void showDrawing(Form1& form, const Drawing& before)
+void showDrawing(Form1& form, const Drawing& before, const std::string& titleBefore)
 {
     setMarkerLeft(form, form.markerLeft);
     setMarkerTop(form, form.markerTop);
-    setTitle(form, form.title);
-    showOutputTexts(form);
     form.window.setVisible(control::Label27, form.eraseMode == 1);
     for (std::size_t family = 0; family < confirmCount; ++family) {
         form.window.setChecked(confirmItems[family], form.confirm[family] == 1);
+    }
+    if (form.title != titleBefore) {
+        setTitle(form, form.title);
+    }
+    if (form.outputTexts != before.outputTexts) {
+        showOutputTexts(form);
     }
     if (form.canvasBackColor != before.canvasBackColor) {
         colorPanel(form);
@@ -39,9 +43,10 @@ void showDrawing(Form1& form, const Drawing& before)
 void restore(Form1& form, std::string (History::*way)(Form1&), std::string_view done)
 {
     const Drawing before = form;
+    const std::string titleBefore = form.title;
     const std::string name = (form.history.*way)(form);
     if (!name.empty()) {
-        showDrawing(form, before);
+        showDrawing(form, before, titleBefore);
         notify(form, std::string(done) + name);
     }
 }

@@ -44,7 +44,7 @@ void CanvasSurface::makeScreen()
     m_screen->changed = [this](const QRect& part) {
         note(QRectF(QPointF(part.topLeft()) / m_ratio, QSizeF(part.size()) / m_ratio).toAlignedRect());
     };
-    enlarge(seen());
+    enlargeOldInk(seen());
 }
 
 void CanvasSurface::growTo(QSize window)
@@ -54,7 +54,7 @@ void CanvasSurface::growTo(QSize window)
         // The last pixels may hold what lay beyond the canvas when they were drawn.
         const QSize kept = m_screen->image().size() / m_ratio - QSize(2, 2);
         m_screen->growTo(withMargin(window));
-        enlarge(QRegion(seen()) - QRect(QPoint(), kept));
+        enlargeOldInk(QRegion(seen()) - QRect(QPoint(), kept));
     }
 }
 
@@ -149,6 +149,7 @@ template <typename Draw> void CanvasSurface::draw(Draw stroke)
         stroke(*m_screen);
         for (const QRect& part : m_changed& seen()) {
             ink::reconcile(m_canvas.pixels(), m_screen->pixels(), toArea(part));
+            m_screen->mark(toArea(onScreen(part)));
         }
         reportChanged();
     }
@@ -179,13 +180,34 @@ QRect CanvasSurface::seen() const
     return m_canvas.image().rect() & QRect(QPoint(), screen);
 }
 
+/// The pixels of the second image that show a part of the canvas. The last ones of the canvas show up to its edges.
+QRect CanvasSurface::onScreen(const QRect& part) const
+{
+    const QRect screen = m_screen->image().rect();
+    QRect scaled = QRectF(QPointF(part.topLeft()) * m_ratio, QSizeF(part.size()) * m_ratio).toAlignedRect() & screen;
+    if (part.right() == m_canvas.image().rect().right()) {
+        scaled.setRight(screen.right());
+    }
+    if (part.bottom() == m_canvas.image().rect().bottom()) {
+        scaled.setBottom(screen.bottom());
+    }
+    return scaled;
+}
+
 void CanvasSurface::enlarge(const QRegion& part)
 {
     for (const QRect& rect : part) {
         ink::enlarge(m_canvas.pixels(), m_screen->pixels(), toArea(rect));
-        m_screen->accept(toArea(QRect((QPointF(rect.topLeft()) * m_ratio).toPoint() - QPoint(1, 1),
-                                      m_screen->image().rect().bottomRight()) &
-                                m_screen->image().rect()));
+    }
+}
+
+/// Enlarges what was drawn before, so undo must not take it back.
+void CanvasSurface::enlargeOldInk(const QRegion& part)
+{
+    enlarge(part);
+    const QRect screen = m_screen->image().rect();
+    for (const QRect& rect : part) {
+        m_screen->accept(toArea(QRect(onScreen(rect).topLeft(), screen.bottomRight())));
     }
 }
 

@@ -57,7 +57,9 @@ private:
     void reportChanged();
     /// The part of the canvas that the second image has.
     [[nodiscard]] QRect seen() const;
+    [[nodiscard]] QRect onScreen(const QRect& part) const;
     void enlarge(const QRegion& part);
+    void enlargeOldInk(const QRegion& part);
 
     double m_ratio = 1;
     int m_screenNumber = 0; ///< another one for each finer image that was made for another ratio

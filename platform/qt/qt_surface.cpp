@@ -103,7 +103,6 @@ void QtSurface::exchangePatch(ink::Patch& patch)
     ink::Patch reverse = ink::reverse(pixels(), m_backColor, patch);
     const bool fits = fit(patch);
     m_changes.put(pixels(), m_backColor, patch);
-    reverse.after = {m_image.width(), m_image.height(), m_backColor};
     patch = std::move(reverse);
     if (changed) {
         changed(fits ? toRect(ink::cover(patch)) & m_image.rect() : m_image.rect());
@@ -120,8 +119,10 @@ bool QtSurface::fit(const ink::Patch& patch)
     m_backColor = patch.before.paper;
     QImage fitting(size, QImage::Format_RGB32);
     fitting.fill(m_backColor);
-    // What lies beyond that came with a larger window since, and is empty.
-    QPainter(&fitting).drawImage(QPoint(), m_image, QRect(0, 0, patch.after.width, patch.after.height));
+    // What lies beyond both came with a larger window since, and is empty.
+    const QSize known =
+        QSize(patch.before.width, patch.before.height).expandedTo({patch.after.width, patch.after.height});
+    QPainter(&fitting).drawImage(QPoint(), m_image, QRect(QPoint(), known));
     m_image = fitting;
     return false;
 }

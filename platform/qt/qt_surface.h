@@ -41,6 +41,8 @@ public:
     [[nodiscard]] ink::Patch takePatch() { return m_changes.take(pixels(), m_backColor); }
     /// Takes back what a patch holds, which then holds what was there.
     void exchangePatch(ink::Patch& patch);
+    /// Says that the image's memory was written to here.
+    void mark(const ink::Area& area) { m_changes.mark(area); }
     /// Lets what was written into this part of the image's memory be no change.
     void accept(const ink::Area& area) { m_changes.accept(pixels(), m_backColor, area); }
 

@@ -116,6 +116,23 @@ constexpr Scenario scenarios[] = {
     {"Windows hide by their buttons and frames",
      "click about; click Form3.Command1; click Form3.Command2; click Form2.Command1; close Form2; close Form3; "
      "close Form4"},
+    // Undo
+    {"Undo and redo bring back pen, marker, totals and what Output shows",
+     "right; click undo; click redo; R < 4; click output; I < 2; click output; tick statusTimer; click undo; "
+     "click undo; tick statusTimer; click redo; source V 5; source - 9; click pndoide < yes; click undo; click undo; "
+     "click undo; click undo"},
+    {"Undo leaves alone what is the hand's",
+     "right; click forec < 255; click linee; e; click gg; click jj; click save < /a/b.JPEG; click undo"},
+    {"Undoing New brings back all that it reset",
+     "right; click save < /a/b.JPEG; click bc < 255; R < 4; click forec < 255; click eraser; click gg; click Label1; "
+     "click new < no; click open; click undo; click open < cancel; click redo; click undo"},
+    {"Undoing Open brings back the title, undoing anything else does not",
+     "right; click open < no < /a/b.png; down; click forec < 255; click save < /c/d.JPEG; click undo; click undo; "
+     "click redo"},
+    {"A canvas color is taken back from toolbox and panel, too", "s; click bc < 255; click undo; click redo"},
+    {"Without a step undo and redo do nothing",
+     "right; click save < /a/b.JPEG; click redo; click undo; "
+     "click save < /a/b.JPEG; click undo; click redo; press left 15 15; click undo; release left 15 15"},
     // Files
     {"Save writes the picture and names it in the title",
      "right; click save < /home/me/my circuit.JPEG; click save < cancel"},

@@ -1,0 +1,96 @@
+#include "canvas/history.h"
+
+#include "tests/support/rig.h"
+
+#include <algorithm>
+
+namespace schemlet {
+
+namespace {
+
+/// Takes back all steps, and names them from the last to the first.
+std::string takenBack(Rig& rig)
+{
+    std::string names;
+    while (!rig.form.history.undoable().empty()) {
+        names += (names.empty() ? "" : ", ") + std::string(rig.form.history.undoable());
+        rig.run("click undo");
+    }
+    return names;
+}
+
+struct Case {
+    const char* script;
+    const char* steps;
+    bool wireAhead = false;
+};
+
+} // namespace
+
+TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
+{
+    for (const Case& c : std::initializer_list<Case>{
+             {"right; right; right", "wire"},
+             {"right; right; down; left", "wire, wire, wire"},
+             {"right; tick Timer2; tick statusTimer; move none 15 15; hover Image1; right", "wire"},
+             {"right; tick Timer2; right; tick Timer2; right", "wire"},
+             {"right; tick Timer2 2; right", "wire, wire"},
+             {"right; click save < /a/b.JPEG; right; click save < /broken/a; right", "wire"},
+             {"right; press left 900 900; release left 900 900; right", "wire, wire"},
+             {"right; press middle 900 900; right", "wire, wire"},
+             {"right; x; right", "wire, wire"},
+             {"e; right; left", ""},
+             {"right; e; press left 1590 1500; move left 1600 1500; release left 1600 1500; e", "eraser, wire"},
+             {"click pencil1; press left 900 900; move left 960 900; tick Timer2 3; move left 990 990; "
+              "release left 990 990; press left 900 900; release left 900 900",
+              "pencil"},
+             {"click linee; press left 900 900; release left 990 990; click Box; press left 900 300; "
+              "release left 990 990",
+              "rectangle, line"},
+             {"press left 900 900; right; r < 5; click undo; click ground; release left 900 900", "wire"},
+             {"click and < yes; click and < no; left; click and < yes", "wire, AND Gate"},
+             {"r < 5; r < cancel; r < abc; r < 0; click Image16 < 2", "Inductance, Resistance"},
+             {"right; click open < no < cancel; r < 5", "Resistance, wire"}, // counted, but not drawn
+             {"source V 5; source - 9; s; choose Option3; s; text 5; click Command3", "Battery, Supply"},
+             {"click gatescolor < 255; click forec < 255; click gg; click jj; click toolbox; click print < yes", ""},
+             {"click output; R < 4; click output", "Resistance"},
+             {"click bc < 255; click Back < 255; click backc < 0", "Backcolor, Backcolor"},
+             {"right; click new < cancel; click new < no; click new", "New, wire"},
+             {"right; click open < cancel; click open < no < /broken/a; click open < no < /a/b.png", "Open, wire"},
+             {"j; right < no; right < no; right < yes; right < no; right < no", "wire, Jumper, wire", true},
+             {"j; right < yes; right < yes; click jumper; click jumper", "Jumper, Jumper, Jumper, Jumper", true},
+             {"right; click undo; down; click redo", "wire"},
+             {"right; down; click undo; press left 900 900; release left 900 900; e; e; click redo", "wire, wire"},
+             {"right; click undo; right; right", "wire"}}) {
+        SCOPED_TRACE(c.script);
+        Rig rig;
+        if (c.wireAhead) {
+            rig.surface.underPoint = black;
+        }
+        rig.run(c.script);
+        EXPECT_EQ(takenBack(rig), c.steps);
+    }
+}
+
+TEST(History, ForgetsTheOldestStepsBeyondItsMemoryButNeverTheLast)
+{
+    Rig rig;
+    rig.ink.kept = false;
+    const auto draw = [&rig](std::size_t bytes) {
+        rig.run("r < " + std::string(bytes, '0') + "5");
+        rig.run("click undo");
+        rig.run("click redo");
+    };
+    const auto steps = [&rig] {
+        const std::string names = takenBack(rig);
+        return std::ranges::count(names, 'R');
+    };
+    for (int i = 0; i < 20; ++i) {
+        draw(4 << 20);
+    }
+    EXPECT_EQ(steps(), 7); // of 64 MB: each step has its own text and the one before, and some other things
+    draw(100 << 20);
+    EXPECT_EQ(steps(), 1);
+}
+
+} // namespace schemlet
