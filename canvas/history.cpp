@@ -2,6 +2,7 @@
 
 #include "canvas/form1.h"
 #include "canvas/keyboard.h"
+#include "platform/event.h"
 
 #include <cmath>
 #include <tuple>
@@ -28,7 +29,7 @@ std::size_t texts(const Drawing& drawing)
 
 void History::begin(Form1& form, int arrow)
 {
-    if (m_pressed) {
+    if (leftIsHeld()) {
         return;
     }
     m_arrow = arrow;
@@ -45,7 +46,7 @@ void History::begin(Form1& form, int arrow)
 
 bool History::end(Form1& form)
 {
-    if (m_pressed || m_restored) {
+    if (leftIsHeld() || m_restored) {
         return false;
     }
     m_blinks = 0; // those that came while a box was open too
@@ -72,6 +73,11 @@ bool History::end(Form1& form)
     return true;
 }
 
+bool History::leftIsHeld() const
+{
+    return (m_buttons & button::left) != 0;
+}
+
 void History::pause()
 {
     if (++m_blinks == 2) {
@@ -81,22 +87,23 @@ void History::pause()
 
 std::string History::undo(Form1& form)
 {
-    if (m_pressed || m_done == 0) {
+    if (m_buttons != 0 || m_done == 0) {
         return {};
     }
-    Step& step = m_steps[--m_done];
-    restore(form, step, step.before);
-    return step.name;
+    std::string name = m_steps[--m_done].name; // restoring may forget the step
+    restore(form, m_steps[m_done], m_steps[m_done].before);
+    return name;
 }
 
 std::string History::redo(Form1& form)
 {
-    if (m_pressed || m_done == m_steps.size()) {
+    if (m_buttons != 0 || m_done == m_steps.size()) {
         return {};
     }
-    Step& step = m_steps[m_done++];
-    restore(form, step, step.after);
-    return step.name;
+    std::string name = m_steps[m_done].name;
+    ++m_done;
+    restore(form, m_steps[m_done - 1], m_steps[m_done - 1].after);
+    return name;
 }
 
 std::string_view History::undoable() const

@@ -26,14 +26,15 @@ public:
     /// The drawing before the step that end() told of.
     [[nodiscard]] const Drawing& before() const { return m_before.drawing; }
 
-    /// All events from a press of the left button to its release are one step.
-    void press() { m_pressed = true; }
-    void release() { m_pressed = false; }
+    /// A mouse button, as in platform/event.h, went down or came up. All events from a press of the left one to its
+    /// release are one step.
+    void press(int button) { m_buttons |= button; }
+    void release(int button) { m_buttons &= ~button; }
     /// The pen marker blinked. Two blinks without an arrow key between end a run.
     void pause();
 
     /// Takes back the last step, or brings again the one that was taken back last: ink and state, but not yet what the
-    /// windows show of it. Returns the step's name; empty if there is no step, or while the left button is held.
+    /// windows show of it. Returns the step's name; empty if there is no step, or while a button is held.
     std::string undo(Form1& form);
     std::string redo(Form1& form);
 
@@ -64,6 +65,7 @@ private:
     static void look(const Form1& form, Moment& moment);
     static bool isStep(const Moment& before, const CanvasState& now);
     static std::size_t bytes(const Step& step);
+    [[nodiscard]] bool leftIsHeld() const;
     void finishRun(Form1& form);
     void keep(Step step);
     void restore(Form1& form, Step& step, const Moment& moment);
@@ -79,7 +81,7 @@ private:
     bool m_goesOn = false;   ///< the event is a key of that run
     bool m_unseen = false;   ///< and what it changes is looked at later
     bool m_grew = false;     ///< the run's last keys are not yet part of its step
-    bool m_pressed = false;
+    int m_buttons = 0;       ///< those that are held
     bool m_restored = false; ///< the event was an undo or a redo
 };
 

@@ -57,11 +57,6 @@ bool mayChangeDrawing(const Event& event)
            (event.kind != click || commandOf(event) != save);
 }
 
-bool isOfLeftButton(const Event& event, Event::Kind kind)
-{
-    return event.kind == kind && event.code == button::left;
-}
-
 } // namespace
 
 void Events::deliver(const Event& event)
@@ -107,10 +102,10 @@ void Events::handle(const Event& event)
 void Events::endStep(const Event& event)
 {
     History& history = m_form.history;
-    if (isOfLeftButton(event, Event::Kind::mouseDown)) {
-        history.press();
-    } else if (isOfLeftButton(event, Event::Kind::mouseUp)) {
-        history.release();
+    if (event.kind == Event::Kind::mouseDown) {
+        history.press(event.code);
+    } else if (event.kind == Event::Kind::mouseUp) {
+        history.release(event.code);
     }
     if (history.end(m_form)) {
         history.name(stepName(m_form, event));

@@ -37,7 +37,7 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
              {"right; tick Timer2 2; right", "wire, wire"},
              {"right; click save < /a/b.JPEG; right; click save < /broken/a; right", "wire"},
              {"right; press left 900 900; release left 900 900; right", "wire, wire"},
-             {"right; press middle 900 900; right", "wire, wire"},
+             {"right; press middle 900 900; right; click undo; release middle 900 900", "wire, wire"},
              {"right; x; right", "wire, wire"},
              {"e; right; left", ""},
              {"right; e; press left 1590 1500; move left 1600 1500; release left 1600 1500; e", "eraser, wire"},

@@ -56,22 +56,26 @@ public:
     }
 
     /// Takes back some steps and brings them again. On the way, drawing and state are what they were between two
-    /// events, in the order of the events.
+    /// events.
     void undoAndRedo(long most)
     {
-        deliver({.kind = Event::Kind::mouseUp, .code = button::left}); // a step may be going on
-        auto back = m_seen.rbegin();
-        long steps = 0;
-        for (; steps < most && !form.history.undoable().empty(); ++steps) {
-            events.deliver({.kind = Event::Kind::click, .name = control::undo.text()});
-            back = std::find(back, m_seen.rend(), digest());
-            demand(back != m_seen.rend(), "undo leads to what never was");
+        for (const int held : {button::left, button::middle, button::right}) { // a step may be going on
+            deliver({.kind = Event::Kind::mouseUp, .code = held});
         }
-        for (auto forward = back.base(); steps > 0; --steps) {
-            events.deliver({.kind = Event::Kind::click, .name = control::redo.text()});
-            forward = std::find(forward, m_seen.end(), digest());
-            demand(forward != m_seen.end(), "redo leads to what never was");
-        }
+        const auto walk = [this](Name command, long steps) {
+            long done = 0;
+            const auto left = [&] {
+                return command == control::undo ? form.history.undoable() : form.history.redoable();
+            };
+            for (auto place = m_seen.rbegin(); done < steps && !left().empty(); ++done) {
+                events.deliver({.kind = Event::Kind::click, .name = command.text()});
+                // Undo goes back in the order of the events.
+                place = std::find(command == control::undo ? place : m_seen.rbegin(), m_seen.rend(), digest());
+                demand(place != m_seen.rend(), "undo or redo leads to what never was");
+            }
+            return done;
+        };
+        walk(control::redo, walk(control::undo, most));
         m_seen.push_back(digest());
     }
 
@@ -303,7 +307,7 @@ int main(int argc, char* argv[])
             }
         }
         constexpr std::size_t most = 100 << 20; // bytes, for the history above all
-        demand(mallinfo2().uordblks - events * sizeof(std::size_t) <= most, "memory grows");
+        demand(mallinfo2().uordblks <= most, "memory grows");
     } catch (const std::exception& error) {
         const Event& last = drive.lastEvent();
         std::cerr << "seed " << words[1] << ", event " << event << ": " << error.what() << "\n  kind "
