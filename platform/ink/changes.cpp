@@ -144,11 +144,13 @@ Patch reverse(const Image& image, std::uint32_t paper, const Patch& patch)
 
 void Changes::mark(const Area& area)
 {
-    const Area grid = inSquares(area);
-    if (grid != m_lastMarked) { // as the next dot of a wire often is
-        forEachSquare(grid, [this](GridPlace place) { markSquare(place); });
-        m_lastMarked = grid;
+    const Area& last = m_lastMarked;
+    if (area.left >= last.left && area.top >= last.top && area.right <= last.right && area.bottom <= last.bottom) {
+        return; // as the next dot of a wire often is
     }
+    const Area grid = inSquares(area);
+    forEachSquare(grid, [this](GridPlace place) { markSquare(place); });
+    m_lastMarked = {grid.left * squareSide, grid.top * squareSide, grid.right * squareSide, grid.bottom * squareSide};
 }
 
 void Changes::markSquare(GridPlace place)

@@ -22,7 +22,7 @@ struct Sheet {
     friend bool operator==(const Sheet&, const Sheet&) = default;
 };
 
-inline constexpr int squareSide = 16; ///< pixels
+inline constexpr int squareSide = 8; ///< pixels
 using SquarePixels = std::array<std::uint32_t, squareSide * squareSide>;
 
 /// The place of a square in the grid of squares.
@@ -84,7 +84,7 @@ private:
     int m_width = 0;
     int m_height = 0;
     std::vector<GridPlace> m_marked;
-    Area m_lastMarked;            ///< in squares
+    Area m_lastMarked;            ///< whole squares
     std::vector<bool> m_isMarked; ///< m_columns in a row
     int m_columns = 0;
 };
