@@ -9,7 +9,7 @@ namespace schemlet {
 
 namespace {
 
-/// A widget without those of its children that only decorate it.
+/// A widget without its decorative children.
 class Undecorated final : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -40,8 +40,8 @@ struct ClassRole {
     QAccessible::Role role{};
 };
 
-/// Whatever may have decorations, and what the toolkit takes for something else: a frame would be a window to a screen
-/// reader. A class is looked for before those it extends.
+/// The classes that may contain decorations, or whose default role is wrong: screen readers would call a frame a
+/// window. Qt asks for a class before its base classes.
 constexpr ClassRole classes[] = {
     {QLatin1String("schemlet::CanvasWidget"), QAccessible::Canvas},
     {QLatin1String("QDialog"), QAccessible::Dialog},

@@ -2,9 +2,9 @@
 
 namespace schemlet {
 
-/// Tells assistive programs that a CanvasWidget is a canvas and what a form marks as "isStatusBar" a status bar, and
-/// keeps from them what it marks as "isDecoration".
-/// Call once, when the application object exists.
+/// Tells assistive programs that a CanvasWidget is a canvas, and that a widget with the property "isStatusBar" is a
+/// status bar. Hides widgets with the property "isDecoration" from them. Call once, after creating the application
+/// object.
 void installAccessibility();
 
 } // namespace schemlet

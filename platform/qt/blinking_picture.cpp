@@ -6,20 +6,20 @@ namespace schemlet {
 
 BlinkingPicture::BlinkingPicture(QWidget* parent) : QLabel(parent)
 {
-    QLabel::setVisible(true); // else its window would switch it on when it first shows
+    QLabel::setVisible(true); // otherwise the window would call setVisible(true) when it is first shown
 }
 
 void BlinkingPicture::setPicture(const QIcon& picture)
 {
     m_picture = picture;
-    setPixmap(picture.pixmap(size())); // so that assistive programs know it for a picture
+    setPixmap(picture.pixmap(size())); // makes it a picture for assistive programs
 }
 
 void BlinkingPicture::setVisible(bool visible)
 {
     if (m_on != visible) {
         m_on = visible;
-        parentWidget()->update(geometry()); // the canvas is opaque, so the repaint starts there and not at the window
+        parentWidget()->update(geometry()); // the canvas is opaque, so the repaint does not start at the window
     }
 }
 

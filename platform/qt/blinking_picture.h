@@ -5,9 +5,9 @@
 
 namespace schemlet {
 
-/// A picture on the canvas that is shown and hidden all day. It stays in place for Qt and merely paints nothing while
-/// it is off: a repaint of its few pixels instead of the event, layout and focus work of a widget's hiding. An icon, as
-/// that is sharp on every screen.
+/// A picture on the canvas that is often shown and hidden, such as the pen marker. While it is off, it stays visible to
+/// Qt but paints nothing. So a change repaints a few pixels, without the events, layout and focus changes of hiding a
+/// widget. The picture is an icon, which is sharp on every screen.
 class BlinkingPicture final : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QIcon picture READ picture WRITE setPicture)
@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QIcon picture() const { return m_picture; }
     void setPicture(const QIcon& picture);
     void setVisible(bool visible) override;
-    /// What setVisible() said last; isHidden() does not know.
+    /// The value set last by setVisible(); isHidden() is always false.
     [[nodiscard]] bool isOn() const { return m_on; }
 
 protected:

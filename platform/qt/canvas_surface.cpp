@@ -9,7 +9,7 @@ namespace schemlet {
 
 namespace {
 
-/// The canvas may start between two pixels of the screen and then shows a part of one more at its end.
+/// If the canvas starts between two screen pixels, it shows part of one more pixel at its far edge.
 QSize withMargin(QSize window)
 {
     return window + QSize(1, 1);
@@ -44,17 +44,17 @@ void CanvasSurface::makeScreen()
     m_screen->changed = [this](const QRect& part) {
         note(QRectF(QPointF(part.topLeft()) / m_ratio, QSizeF(part.size()) / m_ratio).toAlignedRect());
     };
-    enlargeOldInk(seen());
+    enlargeOldInk(coveredPart());
 }
 
 void CanvasSurface::growTo(QSize window)
 {
     m_canvas.growTo(window);
     if (m_screen) {
-        // The last pixels may hold what lay beyond the canvas when they were drawn.
+        // The last pixels may have ink from strokes beyond the picture, so they are enlarged again.
         const QSize kept = m_screen->image().size() / m_ratio - QSize(2, 2);
         m_screen->growTo(withMargin(window));
-        enlargeOldInk(QRegion(seen()) - QRect(QPoint(), kept));
+        enlargeOldInk(QRegion(coveredPart()) - QRect(QPoint(), kept));
     }
 }
 
@@ -63,7 +63,7 @@ void CanvasSurface::setPicture(const QImage& picture)
     m_canvas.setPicture(picture);
     if (m_screen) {
         m_screen->clear();
-        enlarge(seen());
+        enlarge(coveredPart());
         reportChanged();
     }
 }
@@ -85,7 +85,7 @@ void CanvasSurface::exchange(InkChange& change)
     } else {
         change.screen = {};
         if (m_screen) {
-            makeScreen(); // everything there is older than this screen and has no finer pixels
+            makeScreen(); // all ink that is left was drawn before this image existed
             note(m_canvas.image().rect());
         }
     }
@@ -147,7 +147,7 @@ template <typename Draw> void CanvasSurface::draw(Draw stroke)
     stroke(m_canvas);
     if (m_screen) {
         stroke(*m_screen);
-        for (const QRect& part : m_changed& seen()) {
+        for (const QRect& part : m_changed& coveredPart()) {
             ink::reconcile(m_canvas.pixels(), m_screen->pixels(), toArea(part));
             m_screen->mark(toArea(onScreen(part)));
         }
@@ -158,7 +158,7 @@ template <typename Draw> void CanvasSurface::draw(Draw stroke)
 void CanvasSurface::note(const QRect& part)
 {
     if (m_screen) {
-        m_changed += part.adjusted(-1, -1, 1, 1); // so far may a stroke's change of its pixels reach
+        m_changed += part.adjusted(-1, -1, 1, 1); // reconcile() needs one pixel beyond the stroke
     } else if (changed) {
         changed(part);
     }
@@ -174,13 +174,13 @@ void CanvasSurface::reportChanged()
     }
 }
 
-QRect CanvasSurface::seen() const
+QRect CanvasSurface::coveredPart() const
 {
     const QSize screen = m_screen->image().size() / m_ratio + QSize(1, 1);
     return m_canvas.image().rect() & QRect(QPoint(), screen);
 }
 
-/// The pixels of the second image that show a part of the canvas. The last ones of the canvas show up to its edges.
+/// The last pixels of the canvas extend to the edges of the finer image.
 QRect CanvasSurface::onScreen(const QRect& part) const
 {
     const QRect screen = m_screen->image().rect();
@@ -201,7 +201,7 @@ void CanvasSurface::enlarge(const QRegion& part)
     }
 }
 
-/// Enlarges what was drawn before, so undo must not take it back.
+/// Enlarges ink that was drawn before. Undo must not take that as a change.
 void CanvasSurface::enlargeOldInk(const QRegion& part)
 {
     enlarge(part);

@@ -7,30 +7,30 @@
 
 namespace schemlet {
 
-/// The canvas on screens of every sharpness. The picture is the image of one pixel per 15 twips: it is saved, opened
-/// and asked for colours, and it is the same whatever the screen. Where the screen has more pixels than that, a second
-/// image has as many and gets every stroke too; otherwise there is none.
+/// The canvas on screens of any pixel ratio. The picture has one pixel per 15 twips and is the same on every screen.
+/// Saving, opening and point() use the picture. If the screen has more pixels, a second image with the screen's pixels
+/// gets every stroke too.
 class CanvasSurface final : public Surface {
 public:
     CanvasSurface();
-    CanvasSurface(const CanvasSurface&) = delete; // its images report to this object
+    CanvasSurface(const CanvasSurface&) = delete; // the callbacks of its images hold this
     CanvasSurface& operator=(const CanvasSurface&) = delete;
 
-    /// Called with the changed part of the canvas, in its pixels, after every change.
+    /// Called after every change, with the changed part in canvas pixels.
     std::function<void(const QRect&)> changed;
 
     [[nodiscard]] const QImage& picture() const { return m_canvas.image(); }
-    /// What the screen shows, and its pixels along each of the canvas's.
+    /// The image that the screen shows; ratio() is its number of pixels along each canvas pixel.
     [[nodiscard]] const QImage& screenImage() const { return m_screen ? m_screen->image() : m_canvas.image(); }
     [[nodiscard]] double ratio() const { return m_ratio; }
-    /// For a screen of another ratio: what is drawn so far shows its pixels there, what comes is sharp again. Returns
-    /// whether the image is another one now. Ratios below 1 count as 1.
+    /// Sets the screen's pixel ratio; ratios below 1 count as 1. Earlier ink then shows the picture's pixels, new ink
+    /// is sharp. Returns whether the ratio changed.
     bool setRatio(double ratio);
 
-    /// Makes room for a window of this many pixels of the canvas; no image ever shrinks.
+    /// Makes room for a window of this size, in canvas pixels. Never shrinks an image.
     void growTo(QSize window);
-    /// Lays a picture, one pixel of it to one of the canvas, on clean paper that is as large as window and picture
-    /// need.
+    /// Wipes the canvas and puts a picture at its top left, one picture pixel to one canvas pixel. The image becomes
+    /// large enough for the window and the picture.
     void setPicture(const QImage& picture);
 
     void line(Point from, Point to) override;
@@ -55,18 +55,19 @@ private:
     void makeScreen();
     void note(const QRect& part);
     void reportChanged();
-    /// The part of the canvas that the second image has.
-    [[nodiscard]] QRect seen() const;
+    /// The part of the canvas that the finer image covers.
+    [[nodiscard]] QRect coveredPart() const;
+    /// The pixels of the finer image that show a part of the canvas.
     [[nodiscard]] QRect onScreen(const QRect& part) const;
     void enlarge(const QRegion& part);
     void enlargeOldInk(const QRegion& part);
 
     double m_ratio = 1;
-    int m_screenNumber = 0; ///< another one for each finer image that was made for another ratio
-    QtSurface m_canvas;
-    /// Reaches as far as the window did since the last wipe: nothing beyond it was seen.
+    int m_screenNumber = 0; ///< increases with every change of the ratio
+    QtSurface m_canvas;     ///< the picture
+    /// The finer image, null at ratio 1. It is as large as the window has been since the last wipe.
     std::unique_ptr<QtSurface> m_screen;
-    QRegion m_changed; ///< by the stroke that is being drawn on both
+    QRegion m_changed; ///< by the stroke that is being drawn, in canvas pixels
 };
 
 } // namespace schemlet

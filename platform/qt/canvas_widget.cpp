@@ -32,12 +32,13 @@ CanvasWidget::CanvasWidget(QWidget* parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    // The image covers every pixel and stays at the top left when the window grows: nothing to wipe or to move.
+    // The image covers every pixel and stays at the top left when the window grows, so nothing needs to be wiped or
+    // moved.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_StaticContents);
     m_surface.changed = [this](const QRect& part) {
-        // On a screen of an odd ratio the edges lie between its pixels.
+        // At a fractional ratio the edges may lie between two screen pixels.
         update(m_surface.ratio() > 1 ? part.adjusted(-1, -1, 1, 1) : part);
     };
 }
@@ -45,7 +46,7 @@ CanvasWidget::CanvasWidget(QWidget* parent)
 void CanvasWidget::paintEvent(QPaintEvent* event)
 {
     if (m_surface.setRatio(devicePixelRatioF())) {
-        update(); // more than this event's part
+        update(); // all of it, not only this event's region
     }
     drawInk(event->region());
     if (m_showsFocus) {
@@ -55,7 +56,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event)
 
 void CanvasWidget::drawInk(const QRegion& region)
 {
-    // The image's pixels are the screen's, and stay so where the canvas starts between two of them.
+    // One image pixel goes to one screen pixel, even if the canvas starts between two of them.
     const double ratio = m_surface.ratio();
     QPainter painter(this);
     painter.scale(1 / ratio, 1 / ratio);
@@ -78,13 +79,14 @@ void CanvasWidget::drawFocus()
 void CanvasWidget::resizeEvent(QResizeEvent* /*event*/)
 {
     m_surface.growTo(size());
-    showFocus(m_showsFocus); // where the edges are now
+    showFocus(m_showsFocus); // moves the frame to the new edges
 }
 
 void CanvasWidget::focusInEvent(QFocusEvent* event)
 {
     showFocus(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
-    // A menu or a box is gone, and with it perhaps what lay over the mouse. It is gone from the screen a moment later.
+    // The menu or dialog that has just closed may have covered the canvas under the mouse. It leaves the screen a
+    // moment later.
     QMetaObject::invokeMethod(
         this, [this] { reportPointer(); }, Qt::QueuedConnection);
 }

@@ -10,15 +10,15 @@ namespace schemlet {
 
 class HeldButtons;
 
-/// The drawing area: shows the surface's image and reports keys and mouse. It repaints only what changed, and draws
-/// nothing of its own but a frame when Tab has brought the keyboard here.
+/// The drawing area. It shows the surface's image and reports keys and mouse events. It repaints only what changed, and
+/// draws a frame while it has the focus through Tab.
 class CanvasWidget final : public QWidget {
     Q_OBJECT
 
 public:
     explicit CanvasWidget(QWidget* parent = nullptr);
 
-    /// Takes every event of the canvas; set once before the window is shown.
+    /// Called with every event of the canvas. Set it before the window is shown.
     std::function<void(const Event&)> report;
 
     [[nodiscard]] CanvasSurface& surface() { return m_surface; }
@@ -41,7 +41,7 @@ private:
     void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
     CanvasSurface m_surface;
-    HeldButtons* m_buttons; ///< reports their releases
+    HeldButtons* m_buttons;
     bool m_showsFocus = false;
 };
 

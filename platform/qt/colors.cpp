@@ -18,17 +18,18 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// From 1, the same, to 21, black and white.
+/// From 1 (equal luminance) to 21 (black and white).
 double contrast(const QColor& one, const QColor& other)
 {
     const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// Black or white, whichever has at least 4.5 to 1 on this ground, the style's shading of it included.
+/// Black or white: the one that has a contrast of at least 4.5 to 1 on this ground, even where the style shades it.
 QColor readableOn(const QColor& ground)
 {
-    // Both would do from 0.175 to 0.1833. Black loses a little where the style shades the inside of a group.
+    // Both have enough contrast from 0.175 to 0.1833. The limit is near the upper end, because the style darkens the
+    // inside of a group and black loses contrast there.
     constexpr double lastForWhite = 0.183;
     return luminance(ground) > lastForWhite ? Qt::black : Qt::white;
 }
@@ -40,8 +41,8 @@ QColor mixed(const QColor& one, const QColor& other, double part)
                             mix(one.blueF(), other.blueF()));
 }
 
-/// The inside of a field or of an option's circle. On a dark ground it is dark, as the mark in it is light; it is the
-/// lighter one of the two where that leaves the mark readable.
+/// The colour inside a text field or an option's circle. On a light ground it is nearly white. On a dark ground the
+/// mark in it is white, so it is a darker shade of the ground, or a lighter one if the ground is almost black.
 QColor insideOn(const QColor& ground)
 {
     if (readableOn(ground) == Qt::black) {
@@ -66,8 +67,7 @@ Color toColor(const QColor& color)
 QPalette paletteOn(const QColor& ground)
 {
     const QColor text = readableOn(ground);
-    // The style outlines a button darker than the ground, which is not to be seen on a dark one: it is nearly white
-    // everywhere.
+    // Nearly white on every ground: the style's outline is darker than the ground and would not show on a dark one.
     const QColor button = mixed(ground, Qt::white, 0.9);
     const QColor inside = insideOn(ground);
     QPalette palette(button, ground);
@@ -79,7 +79,7 @@ QPalette paletteOn(const QColor& ground)
         palette.setColor(role, mark);
         palette.setColor(QPalette::Disabled, role, mixed(mark, behind, 0.5));
     }
-    // The style draws the ring of the focus a little darker.
+    // The style draws the focus ring a little darker than the highlight.
     constexpr double visible = 3;
     const QColor ring = QGuiApplication::palette().color(QPalette::Highlight).darker(125);
     if (std::min(contrast(ring, inside), contrast(ring, ground)) < visible) {

@@ -7,13 +7,13 @@
 
 namespace schemlet {
 
-// The core's colours have red in the lowest byte, Qt's have blue there.
+// The core's colours have red in the lowest byte; Qt's have blue there.
 
 [[nodiscard]] QColor toQColor(Color color);
 [[nodiscard]] Color toColor(const QColor& color);
 
-/// All colours of a control that lies on this ground: its texts have at least 4.5 to 1, and its fields and buttons
-/// stand out, whatever the desktop's colours are.
+/// All colours of a control on a ground of this colour. Texts have a contrast of at least 4.5 to 1, and fields and
+/// buttons stand out, with any colours of the desktop.
 [[nodiscard]] QPalette paletteOn(const QColor& ground);
 
 } // namespace schemlet

@@ -7,13 +7,14 @@ class QWidget;
 
 namespace schemlet {
 
-/// A double click whose first press was on something that went away, the answer in a box, say, must not reach what lay
-/// below: neither the canvas nor a button. A press that only closed a menu counts for what lay under it.
+/// Ignores the second press of a double click if the first press hit another widget. That widget went away, such as a
+/// button in a dialog, and the press is not meant for the canvas or the button below it. A press that only closed a
+/// menu counts as a press on the widget below the menu.
 class DoubleClicks final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the canvas, and looks after the buttons of its window too.
+    /// Belongs to the canvas. Guards the canvas and the buttons of its window.
     explicit DoubleClicks(QWidget& canvas);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
@@ -22,7 +23,7 @@ private:
     [[nodiscard]] bool guards(const QObject& target) const;
 
     QWidget& m_canvas;
-    QPointer<QObject> m_pressed; ///< by the press before
+    QPointer<QObject> m_pressed; ///< the target of the previous press
 };
 
 } // namespace schemlet

@@ -29,7 +29,7 @@ void fitFont(QWidget& window, int largest, int width)
         font.setPixelSize(--size);
         window.setFont(font);
         for (QLayout* const layout : window.findChildren<QLayout*>()) {
-            layout->invalidate(); // those of a hidden window do not notice
+            layout->invalidate(); // a hidden window's layouts do not notice the new font
         }
     }
 }

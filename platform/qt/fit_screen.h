@@ -7,20 +7,21 @@ class QWidget;
 
 namespace schemlet {
 
-/// The room that a window has on its screen inside its frame.
+/// The largest size of a window inside its frame that fits on its screen.
 [[nodiscard]] QSize roomOnScreen(const QWidget& window);
 
-/// Gives a window this size, in unscaled pixels, or as much of it as its screen has room for.
+/// Resizes a window to this size, in unscaled pixels, or to as much of it as fits on its screen.
 void resizeOnScreen(QWidget& window, QSize size);
 
-/// Gives a window the desktop's font, but none larger than this, in pixels, and none that makes it wider than this.
+/// Gives a window the desktop's font, but reduces its size to at most this many pixels, and further while the window
+/// would be wider than this.
 void fitFont(QWidget& window, int largest, int width);
 
-/// Moves a window that has grown up from its screen's lower edge, as far as there is room above.
+/// Moves a window up if it extends below its screen, as far as there is room above it.
 void keepOnScreen(QWidget& window);
 
-/// Where a second window of this size lies best, all frames included: below the main window, beside it or above it,
-/// wherever the screen has room for it, else along the lower edge of the main window's canvas.
+/// The place for a second window of this size, all frames included: below, beside or above the main window, wherever
+/// it fits on the screen first. If it fits nowhere, it lies along the lower edge of the main window's canvas.
 [[nodiscard]] QPoint placeBeside(QSize size, const QRect& mainWindow, const QRect& canvas, const QRect& screen);
 
 } // namespace schemlet

@@ -15,7 +15,7 @@ namespace schemlet {
 
 namespace {
 
-/// As arrow keys do not move in a group of options, Tab must; the toolkit leaves it only the option with the focus.
+/// Lets Tab stop at each option of a group, because the arrow keys go to the canvas. Qt lets Tab stop at one only.
 void letTabReachOptions(const QWidget& button)
 {
     for (auto* const option : button.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
@@ -23,7 +23,7 @@ void letTabReachOptions(const QWidget& button)
     }
 }
 
-/// With a button held a widget also gets moves outside it, and those that its children ignore.
+/// A widget also gets moves outside it while a button is held, and moves that its children ignore.
 bool isOver(const QWidget& widget, QPoint place)
 {
     return widget.rect().contains(place) && widget.childAt(place) == nullptr;
@@ -36,12 +36,13 @@ bool takesNoRoom(const QWidget& widget)
 
 } // namespace
 
-CloseWish::CloseWish(QWidget& window, std::function<void()> wished) : QObject(&window), m_wished(std::move(wished))
+CloseRequest::CloseRequest(QWidget& window, std::function<void()> requested)
+    : QObject(&window), m_requested(std::move(requested))
 {
     window.installEventFilter(this);
 }
 
-bool CloseWish::eventFilter(QObject* watched, QEvent* event)
+bool CloseRequest::eventFilter(QObject* watched, QEvent* event)
 {
     const bool escape = event->type() == QEvent::KeyPress && qobject_cast<const QDialog*>(watched) != nullptr &&
                         dynamic_cast<const QKeyEvent&>(*event).matches(QKeySequence::Cancel);
@@ -49,7 +50,7 @@ bool CloseWish::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     event->ignore();
-    m_wished();
+    m_requested();
     return true;
 }
 
@@ -100,12 +101,12 @@ bool Hovering::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonRelease: break;
     default: return QObject::eventFilter(watched, event);
     }
-    return watched == &m_frame; // what its controls leave alone goes no further than the frame
+    return watched == &m_frame; // events that its controls ignore stop here
 }
 
 Floating::Floating(QWidget& control) : QObject(&control), m_control(control), m_margin(control.y())
 {
-    control.installEventFilter(this); // it grows when its layout is done
+    control.installEventFilter(this); // the control grows when its layout is done
     control.parentWidget()->installEventFilter(this);
 }
 
@@ -131,7 +132,7 @@ QPoint Floating::topRight() const
     return {std::max(0, room.width() - m_margin), std::max(0, std::min(m_margin, room.height()))};
 }
 
-/// A side that has not shrunk leaves it where it is, even beyond the edge.
+/// Moves the control only along sides that have shrunk. Elsewhere it may lie beyond the edge, as the user dropped it.
 void Floating::keepInside(QPoint wanted, QSize roomBefore)
 {
     const QSize room = m_control.parentWidget()->size();
@@ -151,10 +152,10 @@ void Floating::place(QPoint place)
     m_control.move(place);
 }
 
-ShowsWith::ShowsWith(QWidget& part, QWidget& frame) : QObject(&part), m_part(part), m_frame(frame)
+ShowsWith::ShowsWith(QWidget& widget, QWidget& frame) : QObject(&widget), m_widget(widget), m_frame(frame)
 {
     frame.installEventFilter(this);
-    for (QWidget* const content : m_part.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (QWidget* const content : m_widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         content->installEventFilter(this);
     }
 }
@@ -162,9 +163,9 @@ ShowsWith::ShowsWith(QWidget& part, QWidget& frame) : QObject(&part), m_part(par
 bool ShowsWith::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-        const auto contents = m_part.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        const auto contents = m_widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
         const bool empty = std::ranges::all_of(contents, [](const QWidget* each) { return takesNoRoom(*each); });
-        m_part.setVisible(!m_frame.isHidden() && !empty);
+        m_widget.setVisible(!m_frame.isHidden() && !empty);
     }
     return QObject::eventFilter(watched, event);
 }
@@ -176,7 +177,7 @@ OwnKeys::OwnKeys(QWidget& textBox, QList<QKeySequence> keys) : QObject(&textBox)
 
 bool OwnKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    // Asks whether the text box wants the key before the short-cuts get it.
+    // Qt asks whether the text box wants the key before shortcuts get it.
     if (event->type() == QEvent::ShortcutOverride &&
         m_keys.contains(QKeySequence(dynamic_cast<const QKeyEvent&>(*event).keyCombination()))) {
         event->accept();

@@ -13,19 +13,19 @@ class QWidget;
 
 namespace schemlet {
 
-/// Tells when the user wants a window to go away: by its frame, or by Esc in a dialog. The window itself stays as it
-/// is.
-class CloseWish final : public QObject {
+/// Reports that the user wants to close a window, with its close button or with Esc in a dialog, and keeps the window
+/// open.
+class CloseRequest final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the window. Without its event filter the window closes again.
-    CloseWish(QWidget& window, std::function<void()> wished);
+    /// Belongs to the window. Once this event filter is removed, the window can be closed.
+    CloseRequest(QWidget& window, std::function<void()> requested);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    std::function<void()> m_wished;
+    std::function<void()> m_requested;
 };
 
 /// Makes a label clickable with the mouse.
@@ -43,8 +43,8 @@ private:
     std::function<void()> m_clicked;
 };
 
-/// A frame that lies on the canvas and keeps the mouse to itself: tells over which of its widgets, itself included, the
-/// mouse moves.
+/// For a frame that lies on the canvas. Reports which of its widgets the mouse moves over, the frame included, and
+/// keeps mouse events from the canvas.
 class Hovering final : public QObject {
     Q_OBJECT
 
@@ -59,13 +59,13 @@ private:
     std::function<void(const QWidget&)> m_hovered;
 };
 
-/// A control that floats over its parent, at the top right until the user drops it elsewhere. A parent that shrinks
-/// pushes it back inside, so that it can be picked up again; shown again it lies where it was dropped.
+/// Keeps a control at the top right of its parent until the user drops it elsewhere. If the parent shrinks, the control
+/// moves back inside so that the user can reach it. When it is shown again, it lies where it was dropped.
 class Floating final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the control, which keeps as far from the right edge as it is from the top now.
+    /// Belongs to the control. The margin to the right edge is the control's present distance from the top.
     explicit Floating(QWidget& control);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
@@ -77,28 +77,28 @@ private:
 
     QWidget& m_control;
     int m_margin;
-    QPoint m_placed; ///< by this: any other place is the user's
+    QPoint m_placed; ///< where this object moved the control; any other place is the user's
     std::optional<QPoint> m_dropped;
     QSize m_roomAtDrop;
 };
 
-/// A part of a frame that lies elsewhere: it shows while the frame does, unless there is nothing in it to show. An
-/// empty part would leave a gap.
+/// Shows a widget while a frame elsewhere is visible. The widget stays hidden while nothing in it is visible, because
+/// it would leave a gap.
 class ShowsWith final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the part.
-    ShowsWith(QWidget& part, QWidget& frame);
+    /// Belongs to the widget.
+    ShowsWith(QWidget& widget, QWidget& frame);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QWidget& m_part;
+    QWidget& m_widget;
     const QWidget& m_frame;
 };
 
-/// Keys that are a text box's own while it has the focus, although the window has short-cuts on them.
+/// Gives certain keys to a text box while it has the focus, although the window has shortcuts on them.
 class OwnKeys final : public QObject {
     Q_OBJECT
 
@@ -112,8 +112,8 @@ private:
     QList<QKeySequence> m_keys;
 };
 
-/// Arrow keys and what types something are the canvas's even while a button has the focus; Tab, Space, Enter and Esc
-/// are the button's. Tab goes to each option of a group.
+/// Sends arrow keys and keys that type a character to the canvas while a button has the focus. The button keeps Tab,
+/// Space, Enter and Esc. Tab stops at each option of a group.
 class KeyDetour final : public QObject {
     Q_OBJECT
 

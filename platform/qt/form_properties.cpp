@@ -7,22 +7,22 @@ namespace schemlet {
 
 void applyFormProperties(QWidget& control)
 {
-    // A label keeps the size of the widest text it may show, which is its text in the form: a new text then repaints
-    // the label and lays out nothing.
+    // The text in the form is the widest that the label may show. With a fixed size, a new text repaints the label and
+    // changes no layout.
     if (control.property("fixedToText").toBool()) {
         control.ensurePolished();
         control.setFixedSize(control.sizeHint());
     }
-    // The same where a text may ask for more.
+    // A longer text makes the control larger.
     if (control.property("atLeastItsText").toBool()) {
         control.ensurePolished();
         control.setMinimumSize(control.sizeHint());
     }
-    // It lies on the canvas, which gets the mouse all the same.
+    // The canvas below gets the mouse events.
     if (control.property("mouseGoesThrough").toBool()) {
         control.setAttribute(Qt::WA_TransparentForMouseEvents);
     }
-    // The controls around it do not move when it is shown and hidden.
+    // The controls around it do not move when it is shown or hidden.
     if (control.property("keepsItsPlace").toBool()) {
         QSizePolicy policy = control.sizePolicy();
         policy.setRetainSizeWhenHidden(true);

@@ -4,7 +4,7 @@ class QWidget;
 
 namespace schemlet {
 
-/// Applies the dynamic properties that a form gives a control; those about events are for QtWindow.
+/// Applies the dynamic properties that a form sets on a control. QtWindow reads those that concern events.
 void applyFormProperties(QWidget& control);
 
 } // namespace schemlet

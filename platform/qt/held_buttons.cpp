@@ -22,8 +22,8 @@ void HeldButtons::press(const QMouseEvent& event)
 bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
 {
     if (m_held != Qt::NoButton) {
-        // Whatever tells first that a button is up, release or not. While a box is open and the mouse beside it, that
-        // is the end of the box.
+        // Any mouse event may be the first that shows that a button is up. If the button was released beside an open
+        // dialog, the first sign is that the dialog closes.
         if (event->type() == QEvent::WindowUnblocked) {
             release(QCursor::pos());
         } else if (event->isSinglePointEvent()) {

@@ -9,13 +9,13 @@ class QWidget;
 
 namespace schemlet {
 
-/// The mouse buttons that went down on a canvas and are still held. Reports every release to the canvas, also those
-/// that an open menu takes and those that a modal box blocks.
+/// The mouse buttons that were pressed on the canvas and are still held. Reports every release, even if an open menu
+/// receives it or a modal dialog blocks it.
 class HeldButtons final : public QObject {
     Q_OBJECT
 
 public:
-    /// Belongs to the canvas. The function gets every release and its place on the canvas.
+    /// Belongs to the canvas. Calls released with each button and its place on the canvas, in pixels.
     HeldButtons(QWidget& canvas, std::function<void(Qt::MouseButton, QPointF)> released);
 
     void press(const QMouseEvent& event);

@@ -18,18 +18,18 @@ HeldKeys::HeldKeys()
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-void HeldKeys::ignoreArrows(QObject& box)
+void HeldKeys::ignoreArrows(QObject& dialog)
 {
-    box.setProperty(arrowsProperty, true);
+    dialog.setProperty(arrowsProperty, true);
 }
 
 bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Show:
-        if (const auto* const box = qobject_cast<QWidget*>(watched); box != nullptr && box->isModal()) {
+        if (const auto* const dialog = qobject_cast<QWidget*>(watched); dialog != nullptr && dialog->isModal()) {
             m_pressed.clear();
-            m_ignoresArrows = box->property(arrowsProperty).toBool();
+            m_ignoresArrows = dialog->property(arrowsProperty).toBool();
         }
         break;
     case QEvent::KeyRelease: {
@@ -37,7 +37,7 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
         m_lastRelease = {release.nativeScanCode(), release.timestamp()};
         break;
     }
-    case QEvent::ShortcutOverride: // asks whether somebody wants the key more than the short-cuts do
+    case QEvent::ShortcutOverride: // asks whether a widget wants the key before shortcuts get it
     case QEvent::KeyPress:
         if (QApplication::activeModalWidget() != nullptr && isStray(dynamic_cast<const QKeyEvent&>(*event))) {
             event->accept();
@@ -49,8 +49,8 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// X11 tells of a repeat as a release and a press at the same time. The toolkit marks the two as a repeat only if both
-/// have arrived when it looks, which the first ones often have not.
+/// X11 sends a repeat as a release and a press with the same time. Qt marks them as a repeat only if both have arrived
+/// when it looks, and often misses the first ones.
 bool HeldKeys::isRepeat(const QKeyEvent& press) const
 {
     return press.isAutoRepeat() ||

@@ -8,25 +8,25 @@ class QKeyEvent;
 
 namespace schemlet {
 
-/// Drops the repeats of a key that was already down when a modal window opened. Works for every modal window of the
-/// program, the toolkit's own included.
+/// Drops the repeats of a key that was already down when a modal window opened. This works for every modal window,
+/// including Qt's own dialogs.
 class HeldKeys final : public QObject {
 public:
     HeldKeys();
 
-    /// Makes a box that has not opened yet ignore the arrow keys too, until another key is pressed.
-    static void ignoreArrows(QObject& box);
+    /// Makes a dialog also ignore the arrow keys until another key is pressed. Call before the dialog opens.
+    static void ignoreArrows(QObject& dialog);
 
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    using Key = quint32; ///< its place on the keyboard, which stays the same when Shift changes what it types
+    using Key = quint32; ///< the scan code, which stays the same when Shift changes what the key types
 
     [[nodiscard]] bool isRepeat(const QKeyEvent& press) const;
     [[nodiscard]] bool isStray(const QKeyEvent& press);
 
-    std::set<Key> m_pressed;               ///< since the last box opened; may have come up again
-    std::pair<Key, quint64> m_lastRelease; ///< and its time in milliseconds
+    std::set<Key> m_pressed;               ///< since the last dialog opened, even if released since
+    std::pair<Key, quint64> m_lastRelease; ///< the key and the time in milliseconds
     bool m_ignoresArrows = false;
 };
 

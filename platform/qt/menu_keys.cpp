@@ -12,9 +12,9 @@ namespace schemlet {
 
 namespace {
 
-/// Leaves the keyboard alone when Alt is tapped or Esc closes a menu. It would go to the bar, where arrow keys draw
-/// nothing, and most styles do not show that it is there.
-class ClosedBarTakesNoKeys final : public QProxyStyle {
+/// Keeps the focus off the menu bar when Alt is tapped or Esc closes a menu. Arrow keys would draw nothing there, and
+/// most styles do not show that the bar has the focus.
+class UnfocusedBarStyle final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override
@@ -28,7 +28,7 @@ public:
 MenuKeys::MenuKeys(QWidget& window, std::function<void()> popupWanted)
     : QObject(&window), m_window(window), m_bar(*window.findChild<QMenuBar*>()), m_popupWanted(std::move(popupWanted))
 {
-    auto* const style = new ClosedBarTakesNoKeys;
+    auto* const style = new UnfocusedBarStyle;
     style->setParent(this);
     m_bar.setStyle(style);
     window.installEventFilter(this);
@@ -38,7 +38,8 @@ MenuKeys::MenuKeys(QWidget& window, std::function<void()> popupWanted)
 
 bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    // It reaches the window if no control inside has a menu of its own. The mouse opens the popup menu by itself.
+    // The event reaches the window if the control with the focus has no menu of its own. A right click does not need
+    // this: the canvas reports it as a press.
     if (event->type() == QEvent::ContextMenu &&
         dynamic_cast<const QContextMenuEvent&>(*event).reason() == QContextMenuEvent::Keyboard) {
         m_popupWanted();
@@ -47,7 +48,7 @@ bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// With an item marked, as every other key that opens a menu does.
+/// Selects the first item, as every other key that opens a menu does.
 void MenuKeys::openFirst()
 {
     QAction* const first = m_bar.actions().first();

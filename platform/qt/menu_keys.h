@@ -8,8 +8,8 @@ class QWidget;
 
 namespace schemlet {
 
-/// The keys for a window's menus. F10 opens the first one of the menu bar. Menu and Shift+F10 open the popup menu of
-/// the control that has the keyboard, or ask for the window's own if that control has none.
+/// The keys for a window's menus. F10 opens the first menu of the menu bar. Menu and Shift+F10 open the popup menu of
+/// the control that has the focus. If that control has none, they call popupWanted, which opens the window's.
 class MenuKeys final : public QObject {
     Q_OBJECT
 

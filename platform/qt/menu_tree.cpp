@@ -22,7 +22,7 @@ QAction& MenuTree::add(int depth, const MenuItem& item)
     action->setVisible(item.look != Look::hidden);
     action->setObjectName(toQString(item.name));
     connect(action, &QAction::triggered, this, [this, action, name = item.name](bool checked) {
-        // Qt has flipped a check item's mark already. Take that back: the command flips it.
+        // Qt has already flipped the mark of a check item. Undo that, because the command flips it.
         if (action->isCheckable()) {
             action->setChecked(!checked);
         }
@@ -47,7 +47,7 @@ QWidget& MenuTree::menuAt(int depth)
         auto* const menu = new QMenu(&m_form);
         menu->setObjectName(parent.objectName() + "Menu");
         menu->setAccessibleName(parent.text().remove('&').trimmed());
-        menu->setSeparatorsCollapsible(false); // the last row may be one
+        menu->setSeparatorsCollapsible(false); // the last row may be a separator
         parent.setMenu(menu);
     }
     return *parent.menu();

@@ -18,7 +18,7 @@ class MenuTree final : public QObject {
 public:
     MenuTree(QWidget& form, std::function<void(Name)> clicked);
 
-    /// Appends a row: depth 0 is the bar itself, each further depth lies under the last row above it.
+    /// Appends a row. Depth 0 is the menu bar. A deeper row goes into the menu of the last row one level above.
     QAction& add(int depth, const MenuItem& item);
 
 private:

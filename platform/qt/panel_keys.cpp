@@ -15,16 +15,15 @@ PanelKeys::PanelKeys(QWidget& panel, std::function<void()> escape)
 
 bool PanelKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    // All keys of the program pass through here, but only while the panel shows.
+    // Filters all keys of the program, but only while the panel is visible.
     if (watched == &m_panel && event->type() == QEvent::Show) {
         QCoreApplication::instance()->installEventFilter(this);
     } else if (watched == &m_panel && event->type() == QEvent::Hide) {
         QCoreApplication::instance()->removeEventFilter(this);
     }
-    // A ShortcutOverride asks whether a widget wants the key before the short-cuts get it; a KeyPress is the key
-    // itself.
+    // A ShortcutOverride asks whether a widget wants the key before shortcuts get it. The KeyPress follows.
     const bool asks = event->type() == QEvent::ShortcutOverride;
-    if ((!asks && event->type() != QEvent::KeyPress) || !isPanels(*watched)) {
+    if ((!asks && event->type() != QEvent::KeyPress) || !isForPanel(*watched)) {
         return QObject::eventFilter(watched, event);
     }
     const auto& key = dynamic_cast<const QKeyEvent&>(*event);
@@ -42,7 +41,7 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-bool PanelKeys::isPanels(const QObject& watched) const
+bool PanelKeys::isForPanel(const QObject& watched) const
 {
     const auto* const widget = qobject_cast<const QWidget*>(&watched);
     return widget != nullptr && widget->window() == m_panel.window() &&

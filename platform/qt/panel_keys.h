@@ -9,8 +9,8 @@ class QWidget;
 
 namespace schemlet {
 
-/// The keys of a panel that lies open over a canvas, wherever in its window the focus is: mnemonics of its buttons,
-/// which go before those of the menu bar, and Esc.
+/// The keys of a panel that lies over the canvas: the mnemonics of its buttons, and Esc. They work while the panel is
+/// visible, wherever the focus is in its window, and before the mnemonics of the menu bar.
 class PanelKeys final : public QObject {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    [[nodiscard]] bool isPanels(const QObject& watched) const;
+    [[nodiscard]] bool isForPanel(const QObject& watched) const;
     [[nodiscard]] QAbstractButton* buttonFor(const QKeyEvent& key) const;
 
     QWidget& m_panel;

@@ -16,7 +16,7 @@ int rank(const QLabel& label)
     return label.property("givesWay").toInt();
 }
 
-/// A panel that takes what the others leave needs its smallest width only.
+/// A panel that fills the remaining width needs only its smallest width.
 int neededWidth(const QLabel& label, int smallest, int largest)
 {
     return label.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored
@@ -48,22 +48,22 @@ void PanelRoom::fit()
     const QMargins margins = m_bar.layout()->contentsMargins();
     int taken = margins.left() + margins.right();
     for (const auto* const button : m_bar.findChildren<QAbstractButton*>()) {
-        taken += button->sizeHint().width(); // they never give way
+        taken += button->sizeHint().width(); // buttons never vanish
     }
     for (const auto& [label, smallest, largest] : m_panels) {
         if (label->isHidden()) {
             continue;
         }
         taken += neededWidth(*label, smallest, largest);
-        // Narrowed to nothing rather than hidden, which is the program's own switch.
+        // A panel vanishes by having no width. Hiding it is up to the core.
         const bool fits = taken <= m_bar.width() || rank(*label) == 0;
         label->setMinimumWidth(fits ? smallest : 0);
         label->setMaximumWidth(fits ? largest : 0);
         if (rank(*label) == 0) {
-            label->setToolTip(label->text()); // it may be longer than the bar
+            label->setToolTip(label->text()); // the text may be longer than the bar
         }
     }
-    m_bar.layout()->activate(); // at once: nothing is painted in between
+    m_bar.layout()->activate(); // now, so that nothing is painted in between
 }
 
 } // namespace schemlet

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace schemlet {
 
-/// Fits the panels of a status bar into its width: where room is short, those that matter least vanish, so that the
-/// others are whole. A property of each panel, `givesWay`, says how soon: the highest number first, 0 never.
+/// Fits the panels of a status bar into its width. If room is short, the least important panels vanish, so that the
+/// others show their whole text. The property `givesWay` sets the order: the highest number vanishes first, 0 never.
 class PanelRoom final : public QObject {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private:
     void fit();
 
     QWidget& m_bar;
-    std::vector<Panel> m_panels; // what stays longest comes first
+    std::vector<Panel> m_panels; ///< in the order of `givesWay`
 };
 
 } // namespace schemlet

@@ -16,11 +16,11 @@ namespace schemlet {
 
 namespace {
 
-/// Qt asks for this much at most before it decodes a picture: four channels of 16 bits, as some PNGs have.
-constexpr int mostMegabytes = 8 * (mostPixels >> 20);
+/// What Qt may allocate to decode a picture: some PNG files have four channels of 16 bits.
+constexpr int maxMegabytes = 8 * (maxPixels >> 20);
 
-/// No picture of mostPixels takes more on the disk, save with megabytes of texts.
-constexpr int mostBytes = 8 * mostPixels + 1'000'000;
+/// No file of a picture of maxPixels is larger, unless it has megabytes of text.
+constexpr int maxBytes = 8 * maxPixels + 1'000'000;
 
 constexpr int dotsPerMetre = 3780; // 96 dpi
 
@@ -46,7 +46,7 @@ const QString& unreadable()
     return cause;
 }
 
-/// Opens regular files alone: a pipe or a device would keep the program waiting.
+/// Opens only regular files, because the program would wait for a pipe or a device.
 void open(QFile& file)
 {
     const QFileInfo info(file);
@@ -56,7 +56,7 @@ void open(QFile& file)
     if (info.isDir()) {
         refuse(file.fileName(), QStringLiteral("is a folder"));
     }
-    if (!info.isFile() || info.size() == 0) { // files of /proc that have no size may keep it waiting as well
+    if (!info.isFile() || info.size() == 0) { // reading a file of /proc without a size may block, too
         refuse(file.fileName(), unreadable());
     }
     if (!file.open(QIODevice::ReadOnly)) {
@@ -66,11 +66,11 @@ void open(QFile& file)
 
 void refuseTooLarge(const QString& path, QSize size)
 {
-    if (!size.isEmpty() && size.width() > mostPixels / size.height()) {
+    if (!size.isEmpty() && size.width() > maxPixels / size.height()) {
         refuse(path, QStringLiteral("is too large: %1 x %2 pixels, at most %3 megapixels")
                          .arg(size.width())
                          .arg(size.height())
-                         .arg(mostPixels / 1'000'000));
+                         .arg(maxPixels / 1'000'000));
     }
 }
 
@@ -83,26 +83,27 @@ QSize sizeInHeader(QFile& file)
     return size;
 }
 
-/// The file is read, not mapped into memory: should it shrink or its disk fail meanwhile, that would end the program.
+/// Reads the file instead of mapping it into memory: if a mapped file shrank or its disk failed, a signal would end the
+/// program.
 void refuseIncomplete(QFile& file)
 {
-    if (file.size() > mostBytes) {
+    if (file.size() > maxBytes) {
         refuse(file.fileName(), QStringLiteral("is too large: %1 megabytes, at most %2 megabytes")
                                     .arg(file.size() / 1'000'000)
-                                    .arg(mostBytes / 1'000'000));
+                                    .arg(maxBytes / 1'000'000));
     }
     const QByteArray bytes = file.readAll();
     switch (picture::check({bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
     case picture::State::cutShort: refuse(file.fileName(), QStringLiteral("is cut short"));
     case picture::State::unreadable: refuse(file.fileName(), unreadable());
     case picture::State::whole:
-    case picture::State::unknownFormat: break; // the latter is for Qt to judge
+    case picture::State::unknownFormat: break; // Qt decides about other formats
     }
     file.seek(0);
 }
 
-/// In place where Qt can: two copies of a large picture are a lot of memory. Not with a QPainter, which blends nothing
-/// beyond 32767 pixels.
+/// Converts in place where Qt can, because a second copy of a large picture takes much memory. A QPainter would not do:
+/// it blends nothing beyond 32767 pixels.
 void putOnWhite(QImage& image)
 {
     if (!image.hasAlphaChannel()) {
@@ -121,10 +122,10 @@ void putOnWhite(QImage& image)
     image.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
-/// Everything that was sent to the file is on the disk; the last chance to hear that it is full.
+/// Writes everything to the disk and returns whether that succeeded. A full disk may show only here.
 bool isOnDisk(QSaveFile& file)
 {
-    return file.flush() && (fsync(file.handle()) == 0 || errno == EINVAL); // some file systems do not know fsync
+    return file.flush() && (fsync(file.handle()) == 0 || errno == EINVAL); // some file systems do not support fsync
 }
 
 } // namespace
@@ -136,7 +137,7 @@ QImage loadPicture(const QString& path)
     refuseTooLarge(path, sizeInHeader(file));
     refuseIncomplete(file);
 
-    QImageReader::setAllocationLimit(mostMegabytes);
+    QImageReader::setAllocationLimit(maxMegabytes);
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
@@ -144,7 +145,7 @@ QImage loadPicture(const QString& path)
     if (image.isNull()) {
         refuse(path, unreadable());
     }
-    refuseTooLarge(path, image.size()); // some formats say their size nowhere
+    refuseTooLarge(path, image.size()); // some formats have no size in the header
     putOnWhite(image);
     image.setDevicePixelRatio(1);
     return image;
@@ -156,7 +157,7 @@ void savePicture(const QImage& image, const QString& path)
     if (info.isDir()) {
         refuseToSave(QStringLiteral("that is a folder"));
     }
-    if (info.exists() && !info.isFile()) { // a device would be replaced by a file
+    if (info.exists() && !info.isFile()) { // the new file would replace a device
         refuseToSave(QStringLiteral("that is no ordinary file"));
     }
     if (info.exists() && !info.isWritable()) {
@@ -168,7 +169,8 @@ void savePicture(const QImage& image, const QString& path)
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
     QImage picture = image.convertToFormat(QImage::Format_RGB32);
-    if (picture.dotsPerMeterX() != dotsPerMetre || picture.dotsPerMeterY() != dotsPerMetre) { // else a copy for nothing
+    if (picture.dotsPerMeterX() != dotsPerMetre ||
+        picture.dotsPerMeterY() != dotsPerMetre) { // setting them makes a copy
         picture.setDotsPerMeterX(dotsPerMetre);
         picture.setDotsPerMeterY(dotsPerMetre);
     }
@@ -176,7 +178,7 @@ void savePicture(const QImage& image, const QString& path)
         refuseToSave(file.errorString().toLower());
     }
     if (!QImageWriter(&file, "bmp").write(picture) || !isOnDisk(file) || !file.commit()) {
-        // Qt has no reason to give for a write that stopped half-way.
+        // Qt gives no reason why a write stopped half-way.
         const bool full = QStorageInfo(info.path()).bytesAvailable() < picture.sizeInBytes();
         refuseToSave(full ? QStringLiteral("disk full") : QStringLiteral("the disk takes no more"));
     }

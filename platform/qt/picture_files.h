@@ -5,17 +5,17 @@
 
 namespace schemlet {
 
-/// What a canvas may become by loading a picture: 8192 x 8192 pixels, or what a camera of 64 megapixels takes, which is
-/// a little more than 64 million. A picture this large takes 256 MB while it is open.
-inline constexpr int mostPixels = 64 << 20;
+/// The most pixels of a picture that can be opened: 8192 x 8192, or a photograph of 64 megapixels. Such a picture takes
+/// 256 MB while it is open.
+inline constexpr int maxPixels = 64 << 20;
 
-/// The picture in any file that Qt reads, whatever the file is called: in Format_RGB32, upright, on white where it is
-/// transparent, one pixel of the picture to one of the screen. What cannot be shown whole is refused: throws
-/// RuntimeError(Fault::invalidPicture) whose text names the file and the cause.
+/// Loads a picture from any file that Qt can read, whatever its name. The image is upright, in Format_RGB32 with a
+/// pixel ratio of 1, on white where the picture is transparent. Throws RuntimeError(Fault::invalidPicture) if the
+/// picture cannot be shown whole; the text names the file and the cause.
 [[nodiscard]] QImage loadPicture(const QString& path);
 
-/// Writes a BMP of 24 bits and 96 dpi under exactly this path, in place of what was there. Throws
-/// RuntimeError(Fault::pictureNotSaved); then the old file is as it was, and nothing is left beside it.
+/// Writes a BMP of 24 bits and 96 dpi to exactly this path and replaces an old file there. Throws
+/// RuntimeError(Fault::pictureNotSaved); then the old file is unchanged, and no other file is left behind.
 void savePicture(const QImage& image, const QString& path);
 
 } // namespace schemlet

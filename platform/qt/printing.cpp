@@ -20,7 +20,7 @@ namespace {
     throw RuntimeError(Fault::printerError, "Printer error\n\n" + why.toStdString());
 }
 
-/// The print service's library, loaded when something is printed: linked, it would take a fifth of the program's start.
+/// The library of CUPS. It is loaded only to print, because loading it would take a fifth of the start-up time.
 class Cups {
 public:
     using Queue = std::unique_ptr<cups_dest_t, std::function<void(cups_dest_t*)>>;
@@ -55,8 +55,8 @@ private:
     decltype(cupsLastErrorString)* m_lastErrorString = find<decltype(cupsLastErrorString)>("cupsLastErrorString");
 };
 
-/// The default queue's name, once it is known to take jobs: Qt would lose them without a word, and without a default
-/// printer it would want to write a file.
+/// The name of the default queue. Fails if there is none or it rejects jobs: Qt would try to write a file, or lose the
+/// job without a message.
 QString openQueue(const Cups& cups)
 {
     const Cups::Queue queue = cups.defaultQueue();
@@ -74,16 +74,16 @@ QString openQueue(const Cups& cups)
     return name;
 }
 
-/// What the printer can print on, in its dots on the paper. A page on its side has the printer's margins turned with
-/// it, to the left or to the right as the printer likes; Qt leaves them where they are.
+/// The printable part of the paper, in the printer's dots. In landscape the printer's margins turn with the page, to
+/// the left or to the right; Qt does not turn them. So the larger margin counts on both sides.
 QRectF printablePart(const QPrinter& printer)
 {
     const QPageLayout layout = printer.pageLayout();
     QMargins margins = layout.marginsPixels(printer.resolution());
     if (layout.orientation() == QPageLayout::Landscape) {
-        const int atSides = std::max(margins.top(), margins.bottom());
-        const int atEnds = std::max(margins.left(), margins.right());
-        margins = {atSides, atEnds, atSides, atEnds};
+        const int leftAndRight = std::max(margins.top(), margins.bottom());
+        const int topAndBottom = std::max(margins.left(), margins.right());
+        margins = {leftAndRight, topAndBottom, leftAndRight, topAndBottom};
     }
     return layout.fullRectPixels(printer.resolution()).marginsRemoved(margins);
 }
@@ -113,9 +113,9 @@ void printPicture(const QImage& picture, const QString& title)
         !painter.begin(&printer)) {
         fail("Printing on " + queue + " could not be started.");
     }
-    painter.setRenderHint(QPainter::LosslessImageRendering); // thin lines would blur
+    painter.setRenderHint(QPainter::LosslessImageRendering); // JPEG would blur thin lines
     painter.drawImage(placeOnPaper(printer, picture.deviceIndependentSize()), picture);
-    // Qt sends the job when the page ends, and only the print service's answer says whether it arrived.
+    // Qt sends the job when the page ends. Only the print service's answer says whether it arrived.
     if (!painter.end() || printer.printerState() == QPrinter::Error || cups.failed()) {
         fail("The printer " + queue + " did not get the job:\n" + cups.lastError());
     }

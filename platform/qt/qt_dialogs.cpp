@@ -20,7 +20,7 @@ namespace schemlet {
 
 namespace {
 
-/// A box is as wide as its text; a longer title would be cut off in the middle.
+/// A message box is as wide as its text, so a longer title would be cut off.
 void makeRoomForTitle(QMessageBox& box)
 {
     constexpr int frameButtons = 140; // pixels, generous: window managers differ
@@ -30,7 +30,7 @@ void makeRoomForTitle(QMessageBox& box)
     }
 }
 
-/// The style's buttons and icon.
+/// Sets the buttons and the icon.
 void applyStyle(QMessageBox& box, Box style)
 {
     switch (style) {
@@ -44,7 +44,7 @@ void applyStyle(QMessageBox& box, Box style)
     case Box::yesNoCancelWarning:
         box.setIcon(QMessageBox::Warning);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-        box.button(QMessageBox::Cancel)->setText("&Cancel"); // the toolkit gives mnemonics to the others only
+        box.button(QMessageBox::Cancel)->setText("&Cancel"); // Qt gives mnemonics only to the others
         break;
     }
     box.setDefaultButton(QMessageBox::Yes);
@@ -60,7 +60,7 @@ int answerOf(int button)
     }
 }
 
-/// Every picture that the toolkit reads, then all files.
+/// All formats that Qt reads, and all files.
 QStringList pictureFilters()
 {
     QString patterns;
@@ -70,7 +70,8 @@ QStringList pictureFilters()
     return {"Pictures (" + patterns.trimmed() + ")", "All files (*)"};
 }
 
-/// The toolkit forgot these two, which are for the mouse; its number boxes do the same by keyboard.
+/// Qt does not name these two fields for screen readers. They work with the mouse only; the number boxes beside them
+/// work with the keyboard.
 void nameColorFields(QColorDialog& dialog)
 {
     for (auto* const field : dialog.findChildren<QWidget*>()) {
@@ -82,7 +83,7 @@ void nameColorFields(QColorDialog& dialog)
     }
 }
 
-/// The labels before these boxes are not tied to them.
+/// Qt does not connect the labels of these two boxes with them, so screen readers need names.
 void nameFileFields(const QFileDialog& dialog)
 {
     for (const auto& [field, name] :
@@ -101,37 +102,39 @@ QWidget* QtDialogs::front() const
     return active != nullptr ? active : &m_owner;
 }
 
-int QtDialogs::runAside(QDialog& dialog)
+int QtDialogs::run(QDialog& dialog)
 {
     const int result = dialog.exec();
-    // A screen without a window manager gives the keyboard to nobody, and so do some managers after two boxes at once.
+    // Without a window manager no window would get the focus. The same happens with some managers after two dialogs in
+    // a row.
     dialog.parentWidget()->activateWindow();
     return result;
 }
 
-int QtDialogs::run(QDialog& dialog)
+int QtDialogs::runThenFocusCanvas(QDialog& dialog)
 {
-    const int result = runAside(dialog);
+    const int result = run(dialog);
     m_canvas.setFocus();
     return result;
 }
 
 std::optional<std::string> QtDialogs::chooseFile(QFileDialog& dialog)
 {
-    dialog.setOption(QFileDialog::DontUseNativeDialog);   // desktops' own dialogs keep a list of recent files
+    dialog.setOption(QFileDialog::DontUseNativeDialog);   // the desktop's own dialogs keep a list of recent files
     resizeOnScreen(dialog, {760, 480});                   // room for all columns
-    dialog.setOption(QFileDialog::HideNameFilterDetails); // its description of the files says enough
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the filter's description says enough
     if (!m_folder.isEmpty()) {
         dialog.setDirectory(m_folder);
     }
     nameFileFields(dialog);
     if (const auto* const files = dialog.findChild<QTreeView*>()) {
-        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // the toolkit cuts the dates off
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents); // Qt would cut the dates off
     }
-    // What is selected once the dialog is over may be something else, or nothing: a key may have come meanwhile.
+    // The signal says what was chosen. The selection may have changed by the time the dialog returns, if a key came in
+    // between.
     QString chosen;
     QObject::connect(&dialog, &QFileDialog::fileSelected, [&](const QString& file) { chosen = file; });
-    run(dialog);
+    runThenFocusCanvas(dialog);
     if (chosen.isEmpty()) {
         return {};
     }
@@ -147,7 +150,7 @@ int QtDialogs::messageBox(std::string_view prompt, Box style, std::string_view t
     box.setTextFormat(Qt::PlainText);
     applyStyle(box, style);
     makeRoomForTitle(box);
-    return answerOf(style == Box::okWarning ? runAside(box) : run(box));
+    return answerOf(style == Box::okWarning ? run(box) : runThenFocusCanvas(box));
 }
 
 std::optional<std::string> QtDialogs::inputBox(std::string_view prompt, std::string_view title, std::string_view preset)
@@ -156,22 +159,22 @@ std::optional<std::string> QtDialogs::inputBox(std::string_view prompt, std::str
     box.setWindowTitle(toQString(title));
     box.setLabelText(toQString(prompt));
     box.setTextValue(toQString(preset));
-    if (run(box) != QDialog::Accepted) {
+    if (runThenFocusCanvas(box) != QDialog::Accepted) {
         return {};
     }
-    return box.textValue().remove('\n').remove('\r').toStdString(); // a pasted line end is nothing that anybody typed
+    return box.textValue().remove('\n').remove('\r').toStdString(); // a pasted text may have line ends
 }
 
-std::optional<Color> QtDialogs::pickColor(std::string_view title, Color first)
+std::optional<Color> QtDialogs::pickColor(std::string_view title, Color initial)
 {
     if (m_colorDialog == nullptr) {
         m_colorDialog = new QColorDialog(&m_owner);
-        m_colorDialog->setOption(QColorDialog::DontUseNativeDialog); // desktops' own dialogs keep what was picked
+        m_colorDialog->setOption(QColorDialog::DontUseNativeDialog); // the desktop's own dialogs keep recent colours
         nameColorFields(*m_colorDialog);
     }
     m_colorDialog->setWindowTitle(toQString(title));
-    m_colorDialog->setCurrentColor(toQColor(first));
-    if (run(*m_colorDialog) != QDialog::Accepted) {
+    m_colorDialog->setCurrentColor(toQColor(initial));
+    if (runThenFocusCanvas(*m_colorDialog) != QDialog::Accepted) {
         return {};
     }
     return toColor(m_colorDialog->selectedColor());

@@ -31,7 +31,7 @@ namespace {
 
 constexpr QSize cursorSize(24, 24); // pixels
 
-// Left is left in every language: the canvas is never mirrored.
+// Absolute, because the canvas is not mirrored for languages that are written from right to left.
 constexpr Qt::Alignment corners[] = {
     Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignBottom, Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignBottom,
     Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignTop, Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignTop};
@@ -41,7 +41,8 @@ QIcon toolPicture(Name key)
     return QIcon(":/pictures/toolbar/" + toQString(key) + ".svg");
 }
 
-/// The toolkit's own button in a narrow window has no name, and its picture is black on any desktop.
+/// In a narrow window, Qt adds a button for the entries that do not fit. It has no name, and its picture is black even
+/// on a dark desktop, so it gets a name and a text.
 void labelOverflow(const QWidget& form, const char* button, const char* name)
 {
     if (auto* const overflow = form.findChild<QToolButton*>(button)) {
@@ -97,7 +98,7 @@ void QtMainWindow::printForm()
 void QtMainWindow::setVisible(Name control, bool visible)
 {
     if (!visible) {
-        takeKeyboardFrom(control);
+        takeFocusFrom(control);
     }
     QtWindow::setVisible(control, visible);
 }
@@ -105,17 +106,17 @@ void QtMainWindow::setVisible(Name control, bool visible)
 void QtMainWindow::setEnabled(Name control, bool enabled)
 {
     if (!enabled) {
-        takeKeyboardFrom(control);
+        takeFocusFrom(control);
     }
     QtWindow::setEnabled(control, enabled);
 }
 
-/// The toolkit would pass the focus on to the next controls, as Tab does, and a screen reader would speak each of them.
-void QtMainWindow::takeKeyboardFrom(Name control) const
+/// Qt would pass the focus on to the next controls, as Tab does, and a screen reader would read out each of them.
+void QtMainWindow::takeFocusFrom(Name control) const
 {
     const auto* const widget = findIf<QWidget>(control);
-    const QWidget* const keyboard = form().focusWidget();
-    if (widget != nullptr && keyboard != nullptr && (keyboard == widget || widget->isAncestorOf(keyboard))) {
+    const QWidget* const focused = form().focusWidget();
+    if (widget != nullptr && focused != nullptr && (focused == widget || widget->isAncestorOf(focused))) {
         m_canvas.setFocus();
     }
 }
@@ -165,7 +166,7 @@ void QtMainWindow::addToolButton(Name key, std::string_view tip, Look look)
     button->setToolTip(toQString(tip));
     button->setCheckable(look != Look::plain);
     connect(button, &QAction::triggered, this, [this, key, button](bool checked) {
-        button->setChecked(!checked); // the toolkit has flipped it; the program says what it shows
+        button->setChecked(!checked); // undoes Qt's flip, because only the core checks a button
         report({.kind = Event::Kind::click, .name = key.text()});
     });
     connect(button, &QAction::hovered, this, [this, key] { report({.kind = Event::Kind::hover, .name = key.text()}); });
@@ -223,10 +224,10 @@ void QtMainWindow::placeAwayFrom(Name control, Point from, Name other)
     if (widget.isHidden()) {
         return;
     }
-    QRegion hidden; // by the other windows
+    QRegion covered; // by the other windows
     for (const auto* const dialog : form().findChildren<QDialog*>(Qt::FindDirectChildrenOnly)) {
         if (dialog->isVisible()) {
-            hidden += dialog->frameGeometry().translated(-m_canvas.mapToGlobal(QPoint()));
+            covered += dialog->frameGeometry().translated(-m_canvas.mapToGlobal(QPoint()));
         }
     }
     const QPoint place(toPixels(from.x), toPixels(from.y));
@@ -236,7 +237,7 @@ void QtMainWindow::placeAwayFrom(Name control, Point from, Name other)
     const auto badness = [&](Qt::Alignment corner) {
         const QRect there = QStyle::alignedRect(Qt::LeftToRight, corner, size, m_canvas.rect());
         const QPoint away = there.center() - place;
-        return std::tuple(there.contains(place), there.intersects(taken), hidden.intersects(there),
+        return std::tuple(there.contains(place), there.intersects(taken), covered.intersects(there),
                           -QPoint::dotProduct(away, away));
     };
     const Qt::Alignment best = *std::ranges::min_element(corners, {}, badness);

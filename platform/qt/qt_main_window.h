@@ -8,7 +8,7 @@ namespace schemlet {
 
 class CanvasWidget;
 
-/// The window whose form has the canvas, a menu bar and a toolbar. What lies on the canvas moves in its places.
+/// The window whose form has the canvas, a menu bar and a toolbar.
 class QtMainWindow final : public QtWindow, public MainWindow {
     Q_OBJECT
 
@@ -16,9 +16,9 @@ public:
     QtMainWindow(QWidget& form, std::function<void(const Event&)> report);
 
     void showWindow() override;
-    /// Without what only guides the hand.
+    /// Prints the canvas without the pen marker and the eraser's outline.
     void printForm() override;
-    // A control that goes away while it has the keyboard leaves that to the canvas.
+    // If a control has the focus when it is hidden or disabled, the focus goes to the canvas.
     void setVisible(Name control, bool visible) override;
     void setEnabled(Name control, bool enabled) override;
 
@@ -37,7 +37,7 @@ public:
     void placeAwayFrom(Name control, Point place, Name other) override;
 
 private:
-    void takeKeyboardFrom(Name control) const;
+    void takeFocusFrom(Name control) const;
 
     CanvasWidget& m_canvas;
     std::string_view m_cursor;

@@ -5,7 +5,7 @@
 
 namespace schemlet {
 
-/// The picture files of one canvas.
+/// Loads and saves the canvas as picture files.
 class QtPictures final : public Pictures {
 public:
     explicit QtPictures(CanvasSurface& surface) : m_surface(surface) {}

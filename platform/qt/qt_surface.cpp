@@ -74,22 +74,22 @@ void QtSurface::growTo(QSize window)
 
 void QtSurface::setPicture(const QImage& picture)
 {
-    startAfresh(scaled(m_window).expandedTo(picture.size()));
+    wipe(scaled(m_window).expandedTo(picture.size()));
     QPainter(&m_image).drawImage(0, 0, picture);
 }
 
 void QtSurface::clear()
 {
-    startAfresh(scaled(m_window));
+    wipe(scaled(m_window));
 }
 
 void QtSurface::setBackColor(Color color)
 {
     m_backColor = toQColor(color).rgb();
-    startAfresh(m_image.size());
+    wipe(m_image.size());
 }
 
-void QtSurface::startAfresh(QSize size)
+void QtSurface::wipe(QSize size)
 {
     if (size != m_image.size()) {
         m_image = QImage(size, QImage::Format_RGB32);
@@ -101,29 +101,29 @@ void QtSurface::startAfresh(QSize size)
 void QtSurface::exchangePatch(ink::Patch& patch)
 {
     ink::Patch reverse = ink::reverse(pixels(), m_backColor, patch);
-    const bool fits = fit(patch);
+    const bool sameSheet = restoreSheet(patch);
     m_changes.put(pixels(), m_backColor, patch);
     patch = std::move(reverse);
     if (changed) {
-        changed(fits ? toRect(ink::cover(patch)) & m_image.rect() : m_image.rect());
+        changed(sameSheet ? toRect(ink::cover(patch)) & m_image.rect() : m_image.rect());
     }
 }
 
-/// Gives the image the size and the paper that it had. Returns whether it has them already.
-bool QtSurface::fit(const ink::Patch& patch)
+/// Gives the image the size and the paper that it had before the change. Returns whether it already has them.
+bool QtSurface::restoreSheet(const ink::Patch& patch)
 {
     const QSize size = QSize(patch.before.width, patch.before.height).expandedTo(scaled(m_window));
     if (size == m_image.size() && patch.before.paper == m_backColor) {
         return true;
     }
     m_backColor = patch.before.paper;
-    QImage fitting(size, QImage::Format_RGB32);
-    fitting.fill(m_backColor);
-    // What lies beyond both came with a larger window since, and is empty.
+    QImage restored(size, QImage::Format_RGB32);
+    restored.fill(m_backColor);
+    // If the window has grown since, the image has more room than the step knew, and that room is blank.
     const QSize known =
         QSize(patch.before.width, patch.before.height).expandedTo({patch.after.width, patch.after.height});
-    QPainter(&fitting).drawImage(QPoint(), m_image, QRect(QPoint(), known));
-    m_image = fitting;
+    QPainter(&restored).drawImage(QPoint(), m_image, QRect(QPoint(), known));
+    m_image = restored;
     return false;
 }
 
@@ -155,7 +155,7 @@ void QtSurface::arc(Point centre, float radius, float start, float end)
 void QtSurface::print(std::string_view text, bool endLine)
 {
     const QString string = toQString(text);
-    const QFontMetrics metrics(m_font, &m_image); // the current point moves alike at every scale
+    const QFontMetrics metrics(m_font, &m_image); // unscaled, so that the current point moves equally at every scale
     const int height = metrics.height();
     const int advance = metrics.horizontalAdvance(string);
     const QRectF place(std::round(m_current.x / twipsPerPixel), std::round(m_current.y / twipsPerPixel), advance,
@@ -171,7 +171,8 @@ void QtSurface::print(std::string_view text, bool endLine)
                         : Point{static_cast<float>(m_current.x + advance * twipsPerPixel), m_current.y};
 }
 
-/// Each glyph at the place that it has at scale 1: laid out for its own size, a text would be of another length.
+/// Draws each glyph at the place that it has at scale 1. If the text were laid out at the larger size, its length would
+/// differ.
 void QtSurface::drawText(const QString& text, QPointF topLeft)
 {
     QTextLayout layout(text, m_font, &m_image);

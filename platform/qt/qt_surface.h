@@ -10,40 +10,42 @@
 
 namespace schemlet {
 
-/// The font of everything printed on the canvas: lines of 13 pixels, no antialiasing.
+/// The font for text on the canvas: lines of 13 pixels, no antialiasing.
 [[nodiscard]] QFont canvasFont();
 
 [[nodiscard]] ink::Area toArea(const QRect& part);
 
-/// Ink: one retained image and nothing else, however much is drawn. At scale 1 the image has one pixel per 15 twips, at
-/// scale 2 four of them: lines, their width and texts grow with the scale, places on the canvas stay.
+/// A surface that draws on one image and keeps nothing else. At scale 1 the image has one pixel per 15 twips, at scale
+/// 2 twice as many in each direction. Coordinates do not depend on the scale; line widths and texts grow with it.
 class QtSurface final : public Surface {
 public:
-    /// scale is above 0.
+    /// The scale is above 0.
     explicit QtSurface(double scale = 1);
 
-    /// Called with the changed part of the image, in its own pixels, after every change.
+    /// Called after every change, with the changed part in pixels of the image.
     std::function<void(const QRect&)> changed;
 
-    /// Draws on from here at another scale, with the same colours, pen and current point, on clean paper.
+    /// A surface at another scale with the same colours, pen and current point. Its paper is blank.
     [[nodiscard]] QtSurface atScale(double scale) const;
 
     [[nodiscard]] const QImage& image() const { return m_image; }
     [[nodiscard]] QSize window() const { return m_window; }
-    /// The image's memory, until it is wiped or grows.
+    /// The image's memory. Valid until the image is wiped or grows.
     [[nodiscard]] ink::Image pixels();
-    /// Makes room for a window of this many pixels of the unscaled canvas; the image never shrinks, so that nothing
-    /// drawn is lost. New room has the back colour.
+    /// Makes room for a window of this size, in unscaled pixels. The image does not shrink, so that no ink is lost. New
+    /// room has the back colour.
     void growTo(QSize window);
-    /// Lays a picture on clean paper; the image becomes as large as the window and the picture need.
+    /// Wipes the image and puts a picture at its top left. The image becomes large enough for the window and the
+    /// picture.
     void setPicture(const QImage& picture);
-    /// What changed in the image since this was called last.
+    /// The changes of the image since the last call.
     [[nodiscard]] ink::Patch takePatch() { return m_changes.take(pixels(), m_backColor); }
-    /// Takes back what a patch holds, which then holds what was there.
+    /// Swaps the pixels, the size and the paper of a patch with those of the image. So it undoes a change, and the
+    /// patch then holds what redoes it.
     void exchangePatch(ink::Patch& patch);
-    /// Says that the image's memory was written to here.
+    /// Call after writing to this part of the image's memory.
     void mark(const ink::Area& area) { m_changes.mark(area); }
-    /// Lets what was written into this part of the image's memory be no change.
+    /// Makes takePatch() ignore what was written to this part of the image's memory.
     void accept(const ink::Area& area) { m_changes.accept(pixels(), m_backColor, area); }
 
     void line(Point from, Point to) override;
@@ -64,14 +66,14 @@ public:
     void exchange(InkChange& change) override { exchangePatch(change.picture); }
 
 private:
-    void startAfresh(QSize size);
-    bool fit(const ink::Patch& patch);
+    void wipe(QSize size);
+    bool restoreSheet(const ink::Patch& patch);
     [[nodiscard]] QSize scaled(QSize canvas) const;
     [[nodiscard]] ink::Pen pen() const { return {m_foreColor, static_cast<double>(m_drawWidth)}; }
     void drawText(const QString& text, QPointF topLeft);
     void report(const ink::Area& area);
 
-    QSize m_window; ///< as far as the user sees, in unscaled pixels
+    QSize m_window; ///< in unscaled pixels
     double m_scale;
     QImage m_image;
     QFont m_font = canvasFont();

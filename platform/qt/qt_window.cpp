@@ -21,7 +21,7 @@ namespace schemlet {
 
 namespace {
 
-/// Whether an object belongs to this window and not to another one that the window owns.
+/// Whether an object belongs to this window itself and not to another window that it owns.
 bool liesIn(const QWidget& window, const QObject& object)
 {
     const QObject* up = &object;
@@ -40,7 +40,7 @@ int QtWindow::toPixels(double twips)
 
 QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
     : m_form(form), m_name(form.objectName().toStdString()),
-      m_closeWish(new CloseWish(form, [this] { this->report({.kind = Event::Kind::close}); })),
+      m_closeRequest(new CloseRequest(form, [this] { this->report({.kind = Event::Kind::close}); })),
       m_report(std::move(report))
 {
     for (QObject* const object : form.findChildren<QObject*>()) {
@@ -56,7 +56,7 @@ QtWindow::QtWindow(QWidget& form, std::function<void(const Event&)> report)
         fitFont(form, largest, roomOnScreen(form).width());
     }
     connectControls();
-    form.setAttribute(Qt::WA_KeyboardFocusChange); // what has the focus looks so from the start, not from the first Tab
+    form.setAttribute(Qt::WA_KeyboardFocusChange); // shows the focus from the start, not from the first Tab on
 }
 
 void QtWindow::connectControls()
@@ -104,7 +104,7 @@ void QtWindow::report(const Event& event) const
 
 void QtWindow::setCaption(std::string_view title)
 {
-    // The toolkit would leave out a [*], its place for the mark of a changed document.
+    // Qt would replace a [*] with its mark for a changed document.
     m_form.setWindowTitle(toQString(title).replace("[*]", "[*][*]"));
 }
 
@@ -119,7 +119,7 @@ void QtWindow::showWithoutKeyboard()
 {
     const QWidget& owner = *m_form.parentWidget();
     if (!owner.windowHandle()->isExposed()) {
-        owner.windowHandle()->installEventFilter(this); // the window manager has not placed it yet
+        owner.windowHandle()->installEventFilter(this); // wait until the window manager has placed the owner
         return;
     }
     const auto& canvas = *owner.findChild<CanvasWidget*>();
@@ -133,10 +133,10 @@ void QtWindow::showWithoutKeyboard()
 
 void QtWindow::hideWindow()
 {
-    const bool hadKeyboard = m_form.isActiveWindow();
+    const bool wasActive = m_form.isActiveWindow();
     m_form.hide();
-    if (hadKeyboard && m_form.parentWidget() != nullptr) {
-        m_form.parentWidget()->activateWindow(); // a screen without a window manager gives the keyboard to nobody
+    if (wasActive && m_form.parentWidget() != nullptr) {
+        m_form.parentWidget()->activateWindow(); // without a window manager no window would get the focus
     }
 }
 
@@ -145,7 +145,7 @@ void QtWindow::unload()
     for (auto* const timer : findChildren<QTimer*>()) {
         timer->stop();
     }
-    m_form.removeEventFilter(m_closeWish);
+    m_form.removeEventFilter(m_closeRequest);
     m_form.close();
 }
 
@@ -169,7 +169,7 @@ void QtWindow::printForm()
     if (focused == nullptr) {
         return print(m_form.grab().toImage());
     }
-    focused->clearFocus(); // nothing on paper has the keyboard
+    focused->clearFocus(); // a focus ring does not belong on paper
     const QImage picture = m_form.grab().toImage();
     focused->setFocus();
     print(picture);
@@ -188,7 +188,7 @@ void QtWindow::setInterval(Name timer, int milliseconds)
 {
     if (!m_named.contains(timer.text())) {
         auto* const made = new QTimer(this);
-        made->setTimerType(Qt::PreciseTimer); // a coarse one may be late by a twentieth
+        made->setTimerType(Qt::PreciseTimer); // a coarse timer may be off by 5 %
         connect(made, &QTimer::timeout, this,
                 [this, timer] { report({.kind = Event::Kind::tick, .name = timer.text()}); });
         addNamed(timer, *made);

@@ -13,14 +13,14 @@ class QWidget;
 
 namespace schemlet {
 
-class CloseWish;
+class CloseRequest;
 
 /// A window made from a form. Its controls are found by their object names.
 class QtWindow : public QObject, public virtual Window {
     Q_OBJECT
 
 public:
-    /// The form's controls must be set up. Every event of the window goes to report.
+    /// The form must be complete. Calls report with every event of the window.
     QtWindow(QWidget& form, std::function<void(const Event&)> report);
 
     void setCaption(std::string_view title) override;
@@ -56,7 +56,7 @@ protected:
     void addNamed(Name name, QObject& object);
     void report(const Event& event) const;
     void print(const QImage& picture) const;
-    /// The object with this name if it is of this kind, else null.
+    /// The object with this name if it is of this type, otherwise null.
     template <typename Kind> [[nodiscard]] Kind* findIf(std::string_view name) const
     {
         const auto found = m_named.find(name);
@@ -82,7 +82,7 @@ private:
     QWidget& m_form;
     std::string m_name;
     int m_height = 0;
-    CloseWish* m_closeWish; ///< lets no window close before the program says so
+    CloseRequest* m_closeRequest; ///< keeps the window open until unload()
     std::function<void(const Event&)> m_report;
     std::map<std::string, QObject*, std::less<>> m_named;
 };

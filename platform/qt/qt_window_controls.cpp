@@ -1,4 +1,4 @@
-// The controls of a window; qt_window.cpp has the window itself.
+// The controls of a window. The window itself is in qt_window.cpp.
 #include "platform/qt/blinking_picture.h"
 #include "platform/qt/colors.h"
 #include "platform/qt/qt_surface.h"
@@ -17,7 +17,7 @@ namespace schemlet {
 
 void QtWindow::setVisible(Name control, bool visible)
 {
-    // Option1 is never seen: it is an action, which has switches but no place in the window.
+    // Option1 is an action: it has the switches of a control, but no place in the window.
     if (auto* const action = findIf<QAction>(control)) {
         action->setVisible(visible);
     } else {
@@ -47,7 +47,7 @@ void QtWindow::setEnabled(Name control, bool enabled)
 bool QtWindow::enabled(Name control) const
 {
     const auto* const action = findIf<QAction>(control);
-    // Not isEnabled(), which asks the frames around it too.
+    // Not isEnabled(), which also depends on the frames around the control.
     return action != nullptr ? action->isEnabled() : !find<QWidget>(control).testAttribute(Qt::WA_ForceDisabled);
 }
 
@@ -77,7 +77,7 @@ void QtWindow::setDescription(Name control, std::string_view text)
 {
     auto& widget = find<QWidget>(control);
     const QString description = toQString(text);
-    // Qt announces every setting, even of the same text.
+    // Qt announces every call to screen readers, even if the text is the same.
     if (widget.accessibleDescription() != description) {
         widget.setAccessibleDescription(description);
     }
@@ -94,7 +94,7 @@ void QtWindow::setValue(Name control, int value)
         return bar->setValue(value);
     }
     auto& button = find<QAbstractButton>(control);
-    // The chosen one of a group cannot be taken back while it is exclusive.
+    // The chosen option of an exclusive group cannot be unchecked.
     const bool exclusive = button.autoExclusive();
     button.setAutoExclusive(false);
     button.setChecked(value != 0);
@@ -113,11 +113,12 @@ void QtWindow::setBackColor(Name control, Color color)
 {
     auto& widget = find<QWidget>(control);
     QPalette palette = paletteOn(toQColor(color));
-    // A group paints its title in the colour of typed text, but on its own ground.
+    // A group box paints its title with the text colour of fields, but on its own ground.
     if (qobject_cast<const QGroupBox*>(&widget) != nullptr) {
         palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
     }
-    // An option's circle is outlined a little darker than its ground, which the option does not paint.
+    // The style outlines an option's circle a little darker than QPalette::Window, which an option does not paint
+    // otherwise.
     if (qobject_cast<const QRadioButton*>(&widget) != nullptr) {
         palette.setColor(QPalette::Window, palette.color(QPalette::WindowText));
     }

@@ -8,13 +8,13 @@ namespace schemlet {
 
 namespace {
 
-// In the pictures' own units.
+// In the units of the SVG pictures.
 constexpr double pictureSize = 24;
 constexpr QRectF bar(2.5, 15.5, 19, 6);
-// That of the pictures: it sets off white on a light toolbar, and black on a dark one.
+// The pictures' outline colour. It sets off a white bar on a light toolbar and a black one on a dark toolbar.
 constexpr QColor outline(0x5A, 0x6D, 0x82);
 
-/// The toolkit asks it for each size and ratio anew.
+/// Paints the icon anew for each size and pixel ratio.
 class SwatchEngine final : public QIconEngine {
 public:
     SwatchEngine(QIcon picture, const QColor& color) : m_picture(std::move(picture)), m_color(color) {}

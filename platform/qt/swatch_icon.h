@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-/// A toolbar button's picture with a bar of a colour across its lower end, as sharp as the screen can.
+/// A toolbar button's picture with a coloured bar across its lower end, sharp at every pixel ratio.
 [[nodiscard]] QIcon swatchIcon(const QIcon& picture, const QColor& color);
 
 } // namespace schemlet

@@ -13,7 +13,7 @@ namespace {
 
 int wakeUp = -1;
 
-/// A signal handler may do very little; the main loop does the rest.
+/// A signal handler may call few functions, so it only wakes the main loop.
 void noteSignal(int /*signal*/)
 {
     const std::uint64_t one = 1;
@@ -26,10 +26,10 @@ void endOnSignals()
 {
     wakeUp = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     if (wakeUp < 0) {
-        return; // then they end the program the hard way, as they do by default
+        return; // the signals then end the program at once, as they do by default
     }
     auto* const notifier = new QSocketNotifier(wakeUp, QSocketNotifier::Read, QCoreApplication::instance());
-    // Not quit(): that asks every window first.
+    // Not quit(), which first asks every window to close.
     QObject::connect(notifier, &QSocketNotifier::activated, [] { QCoreApplication::exit(); });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         std::signal(signal, noteSignal);

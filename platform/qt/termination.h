@@ -2,8 +2,8 @@
 
 namespace schemlet {
 
-/// Lets SIGTERM, SIGINT and SIGHUP end the main loop with exit status 0, wherever it is; what runs at that moment runs
-/// to its end. Call once, when the application object exists.
+/// Makes SIGTERM, SIGINT and SIGHUP end the main loop with exit status 0, even while a dialog is open. A running
+/// handler finishes first. Call once, after creating the application object.
 void endOnSignals();
 
 } // namespace schemlet
