@@ -10,8 +10,8 @@
 
 namespace schemlet {
 
-/// Directions of the pen. The File menu stores answers of its question in the heading too; for those numbers nothing is
-/// drawn.
+/// Directions of the pen. The File menu also stores the answer to its question in the heading. Cancel (2) then means
+/// left; Yes (6) and No (7) are no direction, and nothing is drawn for them.
 namespace heading {
 inline constexpr int right = 1;
 inline constexpr int left = 2;
@@ -19,10 +19,10 @@ inline constexpr int up = 3;
 inline constexpr int down = 4;
 } // namespace heading
 
-/// In words, for the user; empty for a number that is no direction.
+/// The direction in words; empty for a number that is no direction.
 [[nodiscard]] std::string_view headingName(int heading);
 
-/// The families that can ask before they draw, in the order of their switches.
+/// The families that can ask before they draw: indexes of their switches in Modes::confirm.
 enum Confirm : std::size_t {
     motorsConfirm,
     generatorsConfirm,
@@ -40,30 +40,30 @@ enum Confirm : std::size_t {
     confirmCount
 };
 
-/// Where the next wire or symbol starts, in twips, and where it goes.
+/// Where the next wire or symbol starts, in twips, and its direction.
 struct Pen {
     double x = 0;
     double y = 0;
-    int heading = 0; ///< a code of namespace heading, or another number, for which nothing is drawn
+    int heading = 0; ///< a code of namespace heading; nothing is drawn for any other number
 };
 
-/// The place beside a pen that is so many twips to the right and down. Only the result is rounded to single precision.
+/// The place dx twips to the right of a pen and dy twips below it. Only the result is rounded to single precision.
 inline Point pointBeside(const Pen& pen, double dx = 0, double dy = 0)
 {
     return {static_cast<float>(pen.x + dx), static_cast<float>(pen.y + dy)};
 }
 
-/// What the Output window shows: as many texts as it has values.
+/// The texts of the Output window's values.
 using OutputTexts = std::array<std::string, 9>;
 
-/// What belongs to the drawing, and what undo takes back with it: all of it that the surface does not keep.
+/// What belongs to the drawing besides its ink. Undo restores it.
 struct Drawing : Pen {
     int penMoved = 0;      ///< 1 once an arrow key was pressed
     double markerLeft = 0; ///< of the pen marker
     double markerTop = 0;
 
     Color canvasBackColor = black; ///< the canvas colour picked last
-    Color paperColor = white;      ///< the colour that the canvas has: never black
+    Color paperColor = white;      ///< the canvas's present colour: never black
     Color toolboxColor = white;
 
     double resist = 0;       ///< sum of the resistances, ohm
@@ -91,13 +91,13 @@ struct Drawing : Pen {
     OutputTexts outputTexts; ///< in the order of the window's values
 };
 
-/// What New and Open give another drawing; what undoes one of them brings back the one before.
+/// The drawing's names. Undoing New or Open restores them.
 struct Title {
-    std::string fileTitle; ///< the name of the file saved last since New, without its folder
-    std::string title;     ///< what the window's title says in its place
+    std::string fileTitle; ///< the file saved last, without its folder; empty after New
+    std::string title;     ///< the file's name in the window's title
 };
 
-/// What New resets beside the drawing, and undoing New brings back.
+/// Settings that New resets. Undoing New restores them.
 struct Modes {
     Color wireColor = black;
     int eraseMode = 0;
@@ -105,13 +105,13 @@ struct Modes {
     std::array<int, confirmCount> confirm{}; ///< 1 = ask before drawing
 };
 
-/// Everything the program knows besides the ink: the drawing, and the tools and settings of the person who draws it.
-/// One plain field per fact, 0 until something sets it; switches are 1 or 0; lengths are twips.
+/// The whole state besides the ink: the drawing, and the user's tools and settings. It has one plain field per fact.
+/// Fields are 0 at first, switches are 1 or 0, lengths are in twips.
 struct CanvasState : Drawing, Title, Modes {
-    int newDrawings = 0;    ///< begun by New
-    int openedDrawings = 0; ///< titled by Open
+    int newDrawings = 0;    ///< how often New began a drawing
+    int openedDrawings = 0; ///< how often Open set the title
 
-    int eraseHint = 0; ///< always 0, so the hint that it stands for never shows
+    int eraseHint = 0; ///< always 0, so the status bar never shows its hint
     int lineTool = 0;  ///< at most one of the three tools is 1
     int rectTool = 0;
     int pencilTool = 0;
@@ -120,24 +120,24 @@ struct CanvasState : Drawing, Title, Modes {
     std::optional<Point> pointer; ///< where the mouse is, while it is over the canvas
 
     int autoJumper = 0;
-    Color probeColor = black; ///< what lay ahead of the pen at the last arrow key
+    Color probeColor = black; ///< the colour ahead of the pen at the last arrow key
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
     Name lastFamily;          ///< the frame of the source panel that was opened last
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     int printAnswer = 0;   ///< the button that closed the question about printing
     int blinkCount = 0;    ///< 0 to 9975: the marker shows at multiples of 50
-    int statusDue = 0;     ///< 1 while the status bar waits to be brought up to date
-    std::string notice;    ///< what the status bar says for some seconds
-    std::string saveFault; ///< what it says until the next save or New, after a save that failed
+    int statusDue = 0;     ///< 1 while the timer that updates the status bar is running
+    std::string notice;    ///< a message that the status bar shows for some seconds
+    std::string saveFault; ///< why a save failed; the status bar shows it until the next save or New
 
-    int startShown = 0;     ///< 1 once the help window has shown itself at start
-    int splashProgress = 0; ///< of the splash's bar, 0 to 100
+    int startShown = 0;     ///< 1 once the help window was shown at start
+    int splashProgress = 0; ///< the value of the splash's bar, 0 to 100
     int helpOpen = 0;       ///< 1 = the help window slides open when it loads; always 0, so it opens collapsed
     int helpLoaded = 0;     ///< 1 once the help window was shown
-    int form4Loaded = 0;    ///< 1 once the Output window was touched
+    int form4Loaded = 0;    ///< 1 once the Output window was filled
 
-    Color pickedColor = black; ///< by the colour dialog, last
+    Color pickedColor = black; ///< the colour picked last in the dialog
 
     // The families' colours, black until the user picks one. Transistors share the transformers'.
     Color resistanceColor = black;
@@ -153,7 +153,7 @@ struct CanvasState : Drawing, Title, Modes {
     Color opampColor = black;
     Color bufferColor = black;
 
-    // The button that closed a symbol's question last.
+    // The button that last closed each symbol's question.
     int andAnswer = 0, orAnswer = 0, notAnswer = 0, norAnswer = 0, nandAnswer = 0, exorAnswer = 0, exnorAnswer = 0;
     int bufferAnswer = 0, opampAnswer = 0;
     int diodeAnswer = 0, diodAnswer = 0, npdiodeAnswer = 0, tunneldiodeAnswer = 0;

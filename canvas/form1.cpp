@@ -19,7 +19,7 @@ void resetCanvas(Form1& form)
     form.blinkCount = 0;
     form.toolboxFollow = 0;
     form.window.setText(control::sb, " Press F1 for Help ");
-    // Before the pen gets its place: the first free-hand line starts at (0, 0), and after a reset at the old pen.
+    // Before the pen moves to its start, so the first free-hand line starts at (0, 0), and after New at the old pen.
     form.surface.setCurrent(pointBeside(form));
     form.x = 1600;
     form.y = 1500;

@@ -9,7 +9,7 @@
 
 namespace schemlet {
 
-/// What every command gets: the state and the way to the screen.
+/// The argument of every command: the state and the interfaces to the screen.
 struct Form1 : CanvasState {
     Form1(Surface& canvas, MainWindow& main, Dialogs& boxes, Pictures& files, Window& help, Window& about,
           Window& output, Window& splash)
@@ -29,11 +29,11 @@ struct Form1 : CanvasState {
     Window& form6; ///< the splash
 };
 
-/// The one shape of every command.
+/// The type of every command.
 using Handler = void (*)(Form1&);
 
-/// Sets the canvas's part of the state to its start values and puts the pen and the marker at their start. What it does
-/// not assign stays: the families' colours, the tool in hand, automatic jumpers.
+/// Gives the canvas's part of the state its start values and moves the pen and the marker to their start. Keeps the
+/// families' colours, the chosen tool and automatic jumpers.
 void resetCanvas(Form1& form);
 
 } // namespace schemlet

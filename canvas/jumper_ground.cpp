@@ -10,11 +10,11 @@ namespace {
 
 struct Hop {
     int heading;
-    int halfX, halfY; // half the pen's way over the crossing, twips
+    int halfX, halfY; // half the pen's move over the crossing, twips
     float start, end; // radians, counter-clockwise
 };
 
-// About 160 degrees each. The vertical hops take ten twips more than the radius, so they end just short of the wire.
+// About 160 degrees each. A vertical hop starts ten twips beyond the pen and ends ten twips short of the wire.
 constexpr Hop hops[] = {{heading::right, 100, 0, 3.5F, 0.0F},
                         {heading::left, -100, 0, 3.5F, 0.0F},
                         {heading::up, 0, -110, 5.0F, 1.5F},

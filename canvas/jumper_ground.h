@@ -4,14 +4,14 @@
 
 namespace schemlet {
 
-/// Hops over a crossing wire along the heading, in the foreground colour, and moves the pen past it: 200 twips to the
-/// right or left, 220 up or down. For any other heading it does nothing and returns false.
+/// Draws a hop over a crossing wire along the heading, in the foreground colour, and moves the pen past it: 200 twips
+/// to the right or left, 220 up or down. Does nothing and returns false for any other heading.
 bool drawJumper(Surface& surface, Pen& pen);
 
-/// Draws the ground symbol at the pen and down to 150 twips below it, in the foreground colour.
+/// Draws the ground symbol from the pen down to 150 twips below it, in the foreground colour.
 void drawGround(Surface& surface, const Pen& pen);
 
-// The commands. The marker stays.
+// The commands. They do not move the marker.
 void jumper(Form1& form);
 void ground(Form1& form);
 

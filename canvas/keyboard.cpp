@@ -13,13 +13,13 @@ namespace {
 struct ArrowKey {
     int code;
     int heading;
-    int dx, dy;       // one step along the heading
-    int probe;        // how far ahead a crossing wire is looked for, twips
+    int dx, dy;       // the direction
+    int probe;        // the distance from the pen at which a crossing wire is looked for, twips
     int markerOffset; // of the marker's left edge from the pen, twips
 };
 
-// The vertical probe is shorter and the marker steps aside there: the piece just laid is never found on a straight
-// run, and the marker does not hide a vertical wire.
+// The vertical probe is shorter, but still does not find the wire that a straight run has just drawn. Beside a vertical
+// wire, the marker stands aside so that it does not hide it.
 constexpr ArrowKey arrowKeys[] = {{key::right, heading::right, 1, 0, 110, 0},
                                   {key::left, heading::left, -1, 0, 110, 0},
                                   {key::up, heading::up, 0, -1, 100, -100},

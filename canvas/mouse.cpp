@@ -12,7 +12,7 @@ struct Offset {
     float dx, dy;
 };
 
-// Rings of the eraser, close enough to blot out a whole patch: at 10 pixels' width each one leaves a hole of its own.
+// The eraser draws several rings, because one ring of a pen 10 pixels wide leaves a hole in its middle.
 constexpr Offset eraserRings[] = {{0, 0},   {-10, 0}, {10, 0},  {0, -10}, {0, 10},  {-20, 0}, {20, 0},
                                   {0, -20}, {0, 20},  {-30, 0}, {30, 0},  {0, -30}, {0, 30}};
 constexpr float eraserRingRadius = 100;
@@ -44,7 +44,7 @@ void choose(Form1& form, int CanvasState::*tool)
 
 void mouseDown(Form1& form, int button, Point place)
 {
-    form.pointer = place; // a menu that was open kept the moves to itself
+    form.pointer = place; // an open menu may have received the moves before
     if (button == button::left) {
         form.x = place.x;
         form.y = place.y;

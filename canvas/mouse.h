@@ -4,19 +4,21 @@
 
 namespace schemlet {
 
-/// Mouse on the canvas; places in twips, buttons as in platform/event.h. A press of the left button puts the pen, a
-/// press of the right one opens the popup menu.
+// The mouse on the canvas. Places are in twips, buttons as in platform/event.h.
+
+/// The left button moves the pen to the place, the right one opens the popup menu there.
 void mouseDown(Form1& form, int button, Point place);
-/// With the left button alone held: the pencil draws, erase mode erases, in this order.
+/// While only the left button is held, the pencil draws, and then erase mode erases.
 void mouseMove(Form1& form, int buttons, Point place);
-/// Any button marks the drawing changed. The left one brings the marker, and draws the line or the rectangle from where
-/// it went down.
+/// Any button marks the drawing as changed. The left one moves the marker, and draws the line or the rectangle from the
+/// surface's current point.
 void mouseUp(Form1& form, int button, Point place);
 
-/// The popup menu for who has no mouse at hand.
+/// Opens the popup menu at the pen, for the keyboard.
 void popUpAtPen(Form1& form);
 
-// Tool commands. At most one tool is on; once one is chosen, only Open puts one away, the pencil.
+// Tool commands. At most one tool is chosen. It stays chosen until another one is, except that Open puts the pencil
+// away.
 void linee(Form1& form);
 void rectan(Form1& form);
 void pencil1(Form1& form);

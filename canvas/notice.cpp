@@ -15,7 +15,7 @@ void forgetNotice(Form1& form)
     form.window.setInterval(control::noticeTimer, 0);
 }
 
-void tell(Form1& form, const RuntimeError& error)
+void showError(Form1& form, const RuntimeError& error)
 {
     form.dialogs.messageBox(error.what(), Box::okWarning, productName);
 }

@@ -5,21 +5,21 @@
 
 namespace schemlet {
 
-/// Names the program in the titles of its windows and boxes.
+/// The program's name in the titles of its windows and dialogs.
 inline constexpr std::string_view productName = "Schemlet 2.0";
 
 inline constexpr std::string_view noDirection = "Nothing drawn: no direction";
-/// Of what has a value, which is in the totals all the same.
+/// For a component with a value, which is added to the total anyway.
 inline constexpr std::string_view countedOnly = "Counted but not drawn: no direction";
 
-/// Says in the status bar for some seconds why a command did nothing, or not all of it, where the canvas does not show
-/// it. In a few words: a narrow window has room for about 40 letters.
+/// Shows a notice in the status bar for some seconds. It says why a command did nothing or only a part of its work, if
+/// the canvas does not show that. A narrow window has room for about 40 letters.
 void notify(Form1& form, std::string_view text);
 
-/// Ends it. The status bar follows.
+/// Ends the notice in the state; showStatus() removes it from the status bar.
 void forgetNotice(Form1& form);
 
-/// Tells the user in a message box what went wrong.
-void tell(Form1& form, const RuntimeError& error);
+/// Shows an error in a message box.
+void showError(Form1& form, const RuntimeError& error);
 
 } // namespace schemlet

@@ -25,7 +25,7 @@ void Timer2(Form1& form)
     form.window.setVisible(control::Picture1, form.blinkCount % 50 == 0);
     form.blinkCount += 25;
     if (form.blinkCount >= 10000) {
-        form.blinkCount = 50; // a visible tick like 10000, so the wrap keeps the phase
+        form.blinkCount = 50; // the marker is visible at 50 as it is at 10000, so the blinking goes on evenly
     }
 }
 

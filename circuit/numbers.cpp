@@ -35,7 +35,7 @@ std::size_t signAt(std::string_view text, std::size_t from)
     return from < text.size() && (text[from] == '+' || text[from] == '-') ? 1 : 0;
 }
 
-/// How many of the text's first characters form a number; 0 if none do.
+/// The length of the longest number at the start of a text; 0 if there is none.
 std::size_t numberLength(std::string_view text)
 {
     std::size_t length = signAt(text, 0);
@@ -74,7 +74,7 @@ std::string_view withoutBlanks(std::string_view text)
     return text;
 }
 
-/// A text that is a number by numberLength(). Unlike from_chars, a stream tells too large from too small.
+/// Converts a text that numberLength() accepts. Unlike from_chars, a stream distinguishes too large from too small.
 double parsed(std::string_view number)
 {
     std::istringstream in{std::string(number)};
@@ -108,7 +108,7 @@ double leadingNumber(std::string_view text)
 
 std::string toText(double number)
 {
-    constexpr int digits = 15;      // all that a double holds of a decimal number for certain
+    constexpr int digits = 15;      // a double keeps any decimal number of this length
     std::array<char, 32> written{}; // a sign, 15 digits, a point, four leading zeros or an exponent
     char* const end =
         std::to_chars(written.begin(), written.end(), number == 0 ? 0 : number, std::chars_format::general, digits).ptr;

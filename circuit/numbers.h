@@ -5,13 +5,13 @@
 
 namespace schemlet {
 
-// Every conversion between texts and numbers. The decimal mark is a point, whatever the locale.
+// Every conversion between texts and numbers. The decimal mark is a point in every locale.
 
-/// Converts a text that is a number: blanks around it are ignored; a sign, digits with at most one decimal point and an
-/// exponent, nothing else. Throws RuntimeError: typeMismatch for any other text, overflow beyond the range of a double.
+/// Converts a number: an optional sign, digits with at most one decimal point, and an optional exponent. Blanks around
+/// it are ignored. Throws RuntimeError: typeMismatch for any other text, overflow beyond the range of a double.
 [[nodiscard]] double toNumber(std::string_view text);
 
-/// The longest number at the start of a text after any blanks; 0 if there is none. Throws
+/// Converts the longest number at the start of a text, after any blanks. Returns 0 if there is none. Throws
 /// RuntimeError(Fault::overflow).
 [[nodiscard]] double leadingNumber(std::string_view text);
 
@@ -19,7 +19,7 @@ namespace schemlet {
 /// "1E+15" or "1E-05".
 [[nodiscard]] std::string toText(double number);
 
-/// Returns a finite number as it is. Throws RuntimeError(Fault::overflow) for any other.
+/// Returns a finite number unchanged. Throws RuntimeError(Fault::overflow) for any other.
 [[nodiscard]] double checked(double result);
 
 /// Throws RuntimeError(Fault::invalidArgument) below 0.

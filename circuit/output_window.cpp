@@ -13,7 +13,7 @@ namespace {
 
 constexpr double twoPi = 6.285714; // stands for two pi in every result, and must not be made more precise
 
-/// Once, when the window is first touched.
+/// Clears the window before it is filled for the first time.
 void loadForm4(Form1& form)
 {
     if (form.form4Loaded == 1) {
@@ -51,7 +51,7 @@ void computeQuality(Form1& form)
     form.frequencyCopy = form.resonanceFrequency;
     form.angularFrequency = checked(form.frequencyCopy * twoPi);
     form.frequencyCapac = checked(form.frequencyCopy * form.capac);
-    form.capacitiveReactance = checked(1 / form.frequencyCapac); // kept, though nothing shows it
+    form.capacitiveReactance = checked(1 / form.frequencyCapac); // stored, but not shown
     showNumber(form, form4::control::Label22, form.qualityFactor);
     showNumber(form, form4::control::Label23, checked(form.induc * form.angularFrequency));
     showNumber(form, form4::control::Label24, form.capac);
@@ -87,8 +87,8 @@ void output(Form1& form)
     try {
         computeOutput(form);
     } catch (const RuntimeError& error) {
-        tell(form, error);
-        form.form4.showWindow(); // it got the keyboard too late for the box to give it back
+        showError(form, error);
+        form.form4.showWindow(); // it became active too late for the message box to return the focus to it
     }
 }
 

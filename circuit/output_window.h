@@ -6,10 +6,9 @@
 
 namespace schemlet {
 
-// The Output window shows the totals and what follows from them. A value that cannot be computed leaves what stood
-// there before. Formulas and the figure for two pi are the product's own: they take the sum of the capacitances'
-// reciprocals wherever a capacitance enters, so only resistance (ohm), inductance (henry), capacitance (farad), voltage
-// (volt) and current (ampere) are in the units that they are entered in.
+// The Output window shows the totals and the values computed from them. If a value cannot be computed, the old one
+// stays. The formulas take the sum of the capacitances' reciprocals for a capacitance and 6.285714 for two pi. So only
+// resistance (ohm), inductance (henry), capacitance (farad), voltage (volt) and current (ampere) have a true unit.
 
 /// The Output window and its controls.
 namespace form4 {
@@ -49,17 +48,18 @@ void printForm(Form1& form);
 
 } // namespace form4
 
-/// Fills the Output window and shows it beside the main window. Throws invalidArgument if the product of inductance
-/// and capacitance is negative, overflow if a result is out of range; the values before that are shown.
+/// Shows the Output window beside the main window and fills it. If a value throws an error as in refreshOutput(), a
+/// message box shows the error.
 void output(Form1& form);
 
-/// Fills the window without showing it. Throws RuntimeError as output() tells it.
+/// Fills the window without showing it. Throws RuntimeError: invalidArgument if the product of inductance and
+/// capacitance is negative, overflow if a result is out of range. The values before that are filled in.
 void refreshOutput(Form1& form);
 
 /// Shows 0 for every value.
 void clearOutput(Form1& form);
 
-/// Shows the texts that the state has.
+/// Shows the texts that the state holds.
 void showOutputTexts(Form1& form);
 
 } // namespace schemlet

@@ -8,7 +8,8 @@ namespace schemlet {
 
 namespace {
 
-// The positive battery has its long plate first, the negative one its short one; their odd reaches are intended.
+// The positive battery starts with its long plate, the negative one with its short plate. Their uneven lengths are
+// intended.
 constexpr auto positiveRight =
     strokes(line(0, 0, 0, -150), dot(-70, -400), value(), line(0, -150, 0, 200), line(100, 100, 100, -100));
 constexpr auto positiveLeft =
@@ -35,7 +36,7 @@ constexpr Branch negativeBatteryBranches[] = {{.heading = heading::right, .strok
                                               {.heading = heading::up, .strokes = negativeUp, .after = {0, -120}},
                                               {.heading = heading::down, .strokes = negativeDown, .after = {0, 120}}};
 
-// A circle around the moved pen; its text is never turned.
+// A circle around the moved pen. Its text is the same for every heading.
 constexpr auto supplyRows = strokes(circle(0, 0, 200), dot(-200, -50), value(), dot(50, -50));
 constexpr auto voltageRows = join(supplyRows, strokes(sameLine("V")));
 constexpr auto currentRows = join(supplyRows, strokes(sameLine("A")));

@@ -13,7 +13,7 @@ namespace {
 
 constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, control::Option5};
 
-/// The box shows as long as a family is open.
+/// Shows the panel while a family is open.
 void followFamilies(Form1& form)
 {
     const bool open = form.window.visible(control::sup) || form.window.visible(control::bat);
@@ -28,7 +28,7 @@ void askForValue(Form1& form, Name prompt, Name cancel)
     form.window.focus(control::Text11);
 }
 
-/// Where the number is too large, the keyboard goes to it.
+/// If the number is too large, its text box gets the focus.
 double typedValue(Form1& form)
 {
     try {
@@ -46,14 +46,14 @@ void hideRestOfPanel(Form1& form)
     followFamilies(form);
 }
 
-/// And not cancelled, which leaves the choice but disables it.
+/// A cancelled option is still chosen, but disabled.
 bool isChosen(const Form1& form, Name option)
 {
     return form.window.value(option) != 0 && form.window.enabled(option);
 }
 
-/// Whether this kind was chosen. If so, it is drawn next, and the choice is used up.
-bool takes(Form1& form, Name option)
+/// Returns whether this kind is chosen. If so, clears the choice and hides the rest of the panel.
+bool takeChoice(Form1& form, Name option)
 {
     if (!isChosen(form, option)) {
         return false;
@@ -126,23 +126,23 @@ void Option5(Form1& form)
 
 void Command3(Form1& form)
 {
-    const double typed = typedValue(form); // before anything is hidden: it may overflow
+    const double typed = typedValue(form); // may throw, so it comes before anything is hidden
     form.window.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
     form.supplyValue = typed;
     if (std::ranges::none_of(kinds, [&form](Name kind) { return isChosen(form, kind); })) {
         notify(form, "Nothing drawn: no kind was chosen");
     }
-    if (takes(form, control::Option4)) {
+    if (takeChoice(form, control::Option4)) {
         place(form, positiveBattery, typed);
     }
-    if (takes(form, control::Option5)) {
+    if (takeChoice(form, control::Option5)) {
         place(form, negativeBattery, typed);
     }
     form.window.setText(control::Text11, "");
-    if (takes(form, control::Option3)) {
+    if (takeChoice(form, control::Option3)) {
         place(form, voltageSupply, typed);
     }
-    if (takes(form, control::Option2)) {
+    if (takeChoice(form, control::Option2)) {
         place(form, currentSupply, typed);
     }
 }
@@ -154,7 +154,7 @@ void Command7(Form1& form)
     form.window.disable({control::Command3, control::Command7});
     form.window.hide({control::Option4, control::Option5});
     form.window.disable({control::Text11});
-    form.lastFamily = control::sup; // if that is open too
+    form.lastFamily = control::sup; // supplies may be open too
     followFamilies(form);
 }
 

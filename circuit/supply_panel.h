@@ -4,11 +4,10 @@
 
 namespace schemlet {
 
-// Supplies and batteries are chosen and typed in a panel on the canvas. Both families may be open at once: one click
-// on its button then draws a battery and a supply, one after the other. Sources are black, which stays the foreground
-// colour, and leave the marker where it is.
+// The panel on the canvas in which the user chooses a supply or a battery and types its value. Both families may be
+// open at once; one click on OK then draws a battery and a supply, one after the other.
 
-/// Hides and disables all of it, as it is at start.
+/// Hides and disables the whole panel, as it is at start.
 void preparePanel(Form1& form);
 
 /// Opens the panel for supplies.
@@ -16,7 +15,7 @@ void suppl(Form1& form);
 /// Opens the panel for batteries.
 void batter(Form1& form);
 
-// Choosing a kind brings up the value's text box.
+// Choosing a kind shows the text box for the value.
 void Option2(Form1& form); ///< current
 void Option3(Form1& form); ///< voltage
 void Option4(Form1& form); ///< positive
@@ -26,20 +25,20 @@ void Option5(Form1& form); ///< negative
 /// the panel. Throws overflow for a number or a sum out of range.
 void Command3(Form1& form);
 
-/// Cancel the batteries or the supplies: draw and sum nothing.
+/// Cancel the batteries or the supplies: draw nothing and add nothing.
 void Command7(Form1& form);
 void Command8(Form1& form);
 
-/// Runs the cancel button of the family that was opened last.
+/// Cancels the family that was opened last.
 void cancelPanel(Form1& form);
 
-/// Keeps the panel off the pen and the toolbox.
+/// Moves the panel away from the pen and the toolbox.
 void keepPanelAside(Form1& form);
 
-/// Takes back what was chosen.
+/// Unchecks all kinds.
 void clearOptions(Form1& form);
 
-/// Gives the panel the canvas's colour, black too.
+/// Gives the panel the canvas colour picked last, even black.
 void colorPanel(Form1& form);
 
 } // namespace schemlet

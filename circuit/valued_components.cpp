@@ -8,12 +8,12 @@ namespace schemlet {
 
 namespace {
 
-// The zig-zag to the right ends 40 above the axis; the dot stands apart from it.
+// The zigzag to the right ends 40 twips above the axis. The dot is apart from it.
 constexpr auto resistorRight =
     strokes(line(0, 0, 100, -100), line(100, -100, 200, 200), line(200, 200, 350, -100), dot(500, -350),
             line(350, -100, 450, 200), value(), line(450, 200, 600, -100), line(600, -100, 700, 200),
             line(700, 200, 850, -100), line(850, -100, 950, 200), line(950, 200, 1050, -40));
-// Turned, but for its dot and for the value, which stands one stroke further.
+// The rows of resistorRight turned, with another dot, and with the value one stroke later.
 constexpr auto resistorLeft =
     join(turned(rows<1, 3>(resistorRight)), strokes(dot(-550, -400)), turned(rows<5, 5>(resistorRight)),
          turned(rows<7, 7>(resistorRight)), strokes(value()), turned(rows<8, 11>(resistorRight)));
@@ -29,7 +29,7 @@ constexpr Branch resistorBranches[] = {{.heading = heading::right, .strokes = re
                                        {.heading = heading::up, .strokes = resistorUp, .after = {0, -750}},
                                        {.heading = heading::down, .strokes = resistorDown, .after = {0, 750}}};
 
-// Five turns a radius apart; to the right two of them are drawn again over the text.
+// Five turns, one radius apart. To the right, two of them are drawn again over the text.
 constexpr auto turnsRight =
     strokes(circle(150, 0, 150), circle(300, 0, 150), circle(450, 0, 150), circle(600, 0, 150), circle(750, 0, 150));
 constexpr auto turnsDown =
@@ -44,7 +44,7 @@ constexpr Branch inductorBranches[] = {{.heading = heading::right, .strokes = in
                                        {.heading = heading::up, .strokes = inductorUp, .after = {0, -900}},
                                        {.heading = heading::down, .strokes = inductorDown, .after = {0, 900}}};
 
-// The first plate reaches 180 to one side and 210 to the other, the second 200 to both.
+// The first plate reaches 180 twips to one side and 210 to the other, the second one 200 to both.
 constexpr auto capacitorRight = strokes(line(0, 0, 0, -180), line(0, -180, 0, 210), value(), line(150, 200, 150, -200));
 constexpr auto capacitorLeft = strokes(line(0, 0, 0, 180), line(0, 180, 0, -210), line(-150, -200, -150, 200), value());
 constexpr auto capacitorUp = strokes(line(0, 0, 180, 0), line(180, 0, -210, 0), line(-500, -150, -501, -150), value(),

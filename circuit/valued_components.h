@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-/// A component whose value is asked for, added to a total and printed beside it as typed.
+/// A component with a value. The user is asked for the value, which is added to a total and printed as typed.
 struct ValuedComponent {
     std::string_view prompt;
     std::string_view title;
@@ -17,12 +17,12 @@ struct ValuedComponent {
 
 extern const ValuedComponent resistor;  ///< adds to the sum of resistances, in ohm
 extern const ValuedComponent inductor;  ///< adds to the sum of inductances, in henry
-extern const ValuedComponent capacitor; ///< adds to the sum of reciprocals, in 1/farad: capacitors stand in series
+extern const ValuedComponent capacitor; ///< adds to the sum of reciprocals, in 1/farad: as if all were in series
 
 /// Asks for the value in an input box, adds it to the total, draws the component along the heading and moves the pen
-/// past it. Zero, an empty box or Cancel adds and draws nothing. The foreground is black afterwards; the marker's left
-/// edge follows the pen. Throws typeMismatch if the text is no number, overflow if the number or the total is out of
-/// range: then total, pen and drawing stay, but the foreground is the family's colour.
+/// past it. For zero, an empty text or Cancel, adds and draws nothing. Afterwards the foreground is black, and the
+/// marker's left edge follows the pen. Throws typeMismatch if the text is no number, overflow if the number or the
+/// total is out of range. Then the total, the pen and the ink are unchanged, but the foreground is the family's colour.
 void place(Form1& form, const ValuedComponent& component);
 
 template <const ValuedComponent& component> void place(Form1& form)

@@ -89,7 +89,7 @@ void Events::handle(const Event& event)
     try {
         dispatch(event);
     } catch (const RuntimeError& error) {
-        tell(m_form, error);
+        showError(m_form, error);
     }
     if (isStep) {
         endStep(event);

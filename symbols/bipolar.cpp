@@ -6,7 +6,7 @@ namespace schemlet {
 
 namespace {
 
-// The ground bars are not centred on the lead that comes down to them.
+// The ground bars are not centred below their lead.
 constexpr auto emitterRows =
     strokes(circle(150, -25, 300), line(0, 180, 0, -230), label(-350, -200, " b"), label(80, -330, " c"),
             line(0, -80, 420, -200), line(0, 100, 300, 200), label(270, 0, "e"), line(250, 170, 200, 100),

@@ -4,8 +4,8 @@
 
 namespace schemlet {
 
-// Bipolar transistors with the ground that their circuit ties them to, drawn the same way whatever the heading, in the
-// colour they share with the transformers. The marker's left edge follows the pen.
+// Bipolar transistors, each with the ground of its circuit. They look the same for every heading and share the
+// transformers' colour. The marker's left edge follows the pen.
 
 extern const Symbol npnEmitter;
 extern const Symbol npnBase;

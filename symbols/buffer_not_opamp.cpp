@@ -9,12 +9,12 @@ namespace {
 constexpr auto bufferRight =
     strokes(line(0, 0, 0, 150), line(0, 150, 0, -150), line(0, -150, 300, 0), line(300, 0, 0, 150));
 constexpr auto bufferLeft = dxNegated(bufferRight);
-// The first row lies inside the base that the second one draws.
+// The first row is part of the base, which the second row draws.
 constexpr auto bufferUp =
     strokes(line(0, 0, -100, 0), line(-150, 0, 150, 0), line(150, 0, 0, -300), line(0, -300, -150, 0));
 constexpr auto bufferDown = dyNegated(bufferUp);
 
-// To the right the pen ends at the tip, in the other directions ten twips beyond it.
+// To the right, the pen ends at the tip. In the other directions it ends ten twips beyond the tip.
 constexpr Branch bufferBranches[] = {{.heading = heading::right, .strokes = bufferRight, .after = {300, 0}},
                                      {.heading = heading::left, .strokes = bufferLeft, .after = {-310, 0}},
                                      {.heading = heading::up, .strokes = bufferUp, .after = {0, -310}},
@@ -29,7 +29,7 @@ constexpr auto notUp = strokes(line(0, 0, -100, 0), line(-100, 0, 250, 0), line(
                                line(75, -300, -100, 0), circle(75, -330, 30));
 constexpr auto notDown = dyNegated(notUp);
 
-// Downwards alone the pen is brought over to the output.
+// The pen also moves sideways to the output, except upwards.
 constexpr Branch notBranches[] = {{.heading = heading::right, .strokes = notRight, .after = {375, 75}},
                                   {.heading = heading::left, .strokes = notLeft, .after = {-375, 75}},
                                   {.heading = heading::up, .strokes = notUp, .after = {0, -375}},

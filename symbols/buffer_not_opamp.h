@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-// Triangles with one input, drawn along the heading. The pen leaves at the output or a little beyond it. The marker's
+// Triangles with one input, drawn along the heading. The pen ends at the output or a little beyond it. The marker's
 // left edge follows the pen.
 extern const Symbol bufferSymbol;
 extern const Symbol notGate;

@@ -6,7 +6,7 @@ namespace schemlet {
 
 namespace {
 
-// The bar's lower end is 20 longer than its upper one.
+// The bar reaches 20 twips farther down than up.
 constexpr auto zenerRows = strokes(line(0, 150, 0, -150), line(0, -150, 200, 0), line(200, 0, 0, 150),
                                    line(200, -150, 200, 170), line(200, -150, 300, -200), line(200, 170, 100, 220));
 constexpr Branch zenerBranches[] = {{.strokes = zenerRows, .after = {230, 0}}};
@@ -22,7 +22,8 @@ constexpr Branch pnBranches[] = {{.heading = heading::right, .strokes = pnRight,
                                  {.heading = heading::up, .strokes = pnUp, .after = {0, -220}},
                                  {.heading = heading::down, .strokes = pnDown, .after = {0, 220}}};
 
-// To the right a figure of its own; otherwise the pen moves first and the opposite PN figure is drawn from there.
+// To the right, the NP diode has strokes of its own. In the other directions, the pen moves first, and the strokes of a
+// PN diode that points back are drawn from there.
 constexpr auto npRight =
     strokes(line(0, -150, 0, 150), line(0, 0, 200, 150), line(0, 0, 200, -150), line(200, -150, 200, 150));
 constexpr Branch npBranches[] = {

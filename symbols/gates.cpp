@@ -6,18 +6,19 @@ namespace schemlet {
 
 namespace {
 
-// A flat back, drawn twice in its lower part, and a chamfered nose; the top edge is 20 longer than the bottom one.
+// A flat back, whose lower part is drawn twice, and a chamfered nose. The top edge is 20 twips longer than the bottom
+// edge.
 constexpr auto andRows =
     strokes(line(0, 0, 0, 250), line(0, 250, 0, -100), line(0, -100, 220, -100), line(0, 250, 200, 250),
             line(200, 250, 300, 150), line(300, 150, 300, 0), line(300, 0, 200, -100));
 constexpr auto nandRows = join(andRows, strokes(circle(350, 70, 30)));
 
-// The side lines end 20 apart at the nose and cross just before it.
+// The side lines cross just before the nose and end 20 twips apart.
 constexpr auto orRows = strokes(line(-10, -100, 50, 50), line(50, 50, 50, 200), line(50, 200, -10, 300),
                                 line(-10, 300, 300, 80), line(-10, -100, 300, 100));
 constexpr auto norRows = join(orRows, strokes(circle(320, 100, 30)));
 
-// The outer back ends 20 lower than the inner one.
+// The outer back ends 20 twips lower than the inner one.
 constexpr auto exorRows =
     strokes(line(70, -100, 130, 50), line(130, 50, 130, 200), line(130, 200, 70, 300), line(-20, -100, 50, 50),
             line(50, 50, 50, 200), line(50, 200, -20, 320), line(70, 300, 380, 80), line(70, -100, 380, 100));

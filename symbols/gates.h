@@ -4,14 +4,14 @@
 
 namespace schemlet {
 
-// The two-input gates: bare outlines in the gates' colour; the pen leaves at the output.
+// The gates with two inputs: outlines in the gates' colour. The pen ends at the output.
 
-// These four draw only when the pen heads right. The marker's left edge follows the pen.
+// These four are drawn only if the pen is heading right. The marker's left edge follows the pen.
 extern const Symbol andGate;
 extern const Symbol orGate;
 extern const Symbol norGate;
 extern const Symbol nandGate;
-// These two draw to the right whatever the heading. The marker stays.
+// These two always point right. The marker stays.
 extern const Symbol exorGate;
 extern const Symbol exnorGate;
 

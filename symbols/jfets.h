@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-// Junction field-effect transistors hang down from the pen whatever the heading, in the transistors' colour. The marker
+// Junction field-effect transistors hang down from the pen for every heading, in the transistors' colour. The marker
 // stays.
 
 extern const Symbol nChannelJfet;

@@ -6,7 +6,7 @@ namespace schemlet {
 
 namespace {
 
-// About the machine's centre. No two of the terminal strokes are equally long.
+// Offsets from the machine's centre. The terminal strokes all have different lengths.
 constexpr auto bodyRows =
     strokes(circle(0, 0, 300), line(-135, 400, 170, 400), line(170, 400, 170, 230), line(-135, 400, -135, 255),
             line(125, -400, -150, -400), line(-150, -400, -150, -240), line(135, -400, 135, -245));
@@ -29,7 +29,7 @@ constexpr Branch acGeneratorBranches[] = {machine(acGeneratorRows)};
 constexpr Branch dcGeneratorBranches[] = {machine(dcGeneratorRows)};
 constexpr Branch armatureBranches[] = {machine(armatureRows)};
 
-// Five turns a radius apart between two leads, the labels above its ends.
+// Five turns, one radius apart, between two leads. The labels are above its ends.
 constexpr auto fieldRows =
     strokes(line(0, 0, 300, 0), circle(450, 0, 150), circle(600, 0, 150), circle(750, 0, 150), circle(900, 0, 150),
             circle(1050, 0, 150), label(1300, -300, "FF"), label(150, -300, "F"), line(1200, 0, 1500, 0));

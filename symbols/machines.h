@@ -4,8 +4,8 @@
 
 namespace schemlet {
 
-// Electrical machines, drawn the same way whatever the heading: motors, generators and the armature downwards from the
-// pen, the field winding to the right. The foreground stays the family's colour, the marker stays where it was.
+// Electrical machines look the same for every heading: motors, generators and the armature point down from the pen, the
+// field winding points right. The foreground keeps the family's colour. The marker stays.
 
 extern const Symbol acMotor;
 extern const Symbol dcMotor;

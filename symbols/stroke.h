@@ -14,8 +14,8 @@ struct Offset {
 /// One row of a symbol's stroke table.
 struct Stroke {
     enum class Kind {
-        line,   ///< from, to; then prints its text, if any, where the line ends
-        circle, ///< a full circle around from
+        line,   ///< goes from `from` to `to` and prints its text, if any, at its end
+        circle, ///< a full circle with the centre `from`
         text,   ///< prints its text at the surface's current point
         value   ///< prints what the user typed for this symbol at the surface's current point
     };
@@ -25,12 +25,12 @@ struct Stroke {
     Offset to{};
     int radius = 0; ///< twips
     std::string_view text{};
-    bool endLine = true; ///< printing moves on to the next text line
+    bool endLine = true; ///< after the text, the current point moves to the next text line
 };
 
 inline constexpr int anyHeading = 0;
 
-/// From which pen the rows of a branch count that moves the pen before it draws.
+/// The place from which a branch's offsets count, if it moves the pen before it draws.
 enum class Origin { penAtStart, movedPen };
 
 /// What a symbol draws for one heading of the pen, and how it moves the pen.

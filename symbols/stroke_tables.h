@@ -14,13 +14,13 @@ constexpr Stroke line(int x1, int y1, int x2, int y2, std::string_view text = {}
     return {.kind = Stroke::Kind::line, .from = {x1, y1}, .to = {x2, y2}, .text = text};
 }
 
-/// A zero-length line, which leaves its dot.
+/// A zero-length line, which leaves a dot.
 constexpr Stroke dot(int x, int y)
 {
     return line(x, y, x, y);
 }
 
-/// A dot with a text whose top-left corner is there.
+/// A dot with a text; the dot is at the text's top-left corner.
 constexpr Stroke label(int x, int y, std::string_view text)
 {
     return line(x, y, x, y, text);
@@ -36,7 +36,7 @@ constexpr Stroke text(std::string_view text)
     return {.kind = Stroke::Kind::text, .text = text};
 }
 
-/// A text after which the surface's current point stands behind it instead of on the next text line.
+/// A text that leaves the surface's current point at its end instead of on the next text line.
 constexpr Stroke sameLine(std::string_view text)
 {
     return {.kind = Stroke::Kind::text, .text = text, .endLine = false};
@@ -56,7 +56,7 @@ template <typename... Rows> constexpr Strokes<sizeof...(Rows)> strokes(Rows... r
     return {rows...};
 }
 
-/// The tables' rows, one table after the other.
+/// All rows of several tables, one table after the other.
 template <std::size_t... Sizes> constexpr auto join(const Strokes<Sizes>&... tables)
 {
     Strokes<(Sizes + ...)> joined{};
@@ -70,7 +70,7 @@ template <std::size_t... Sizes> constexpr auto join(const Strokes<Sizes>&... tab
     return joined;
 }
 
-/// Rows First to Last, both included, counted from 1 as people do.
+/// Rows First to Last, both included, counted from 1.
 template <std::size_t First, std::size_t Last, std::size_t N> constexpr auto rows(const Strokes<N>& table)
 {
     static_assert(First >= 1 && First <= Last && Last <= N);
@@ -82,7 +82,7 @@ template <std::size_t First, std::size_t Last, std::size_t N> constexpr auto row
 }
 
 /// The table with every dx multiplied by signX and every dy by signY.
-template <std::size_t N> constexpr Strokes<N> signsTurned(Strokes<N> table, int signX, int signY)
+template <std::size_t N> constexpr Strokes<N> withSigns(Strokes<N> table, int signX, int signY)
 {
     for (Stroke& stroke : table) {
         stroke.from = {signX * stroke.from.dx, signY * stroke.from.dy};
@@ -93,18 +93,18 @@ template <std::size_t N> constexpr Strokes<N> signsTurned(Strokes<N> table, int 
 
 template <std::size_t N> constexpr Strokes<N> dxNegated(const Strokes<N>& table)
 {
-    return signsTurned(table, -1, 1);
+    return withSigns(table, -1, 1);
 }
 
 template <std::size_t N> constexpr Strokes<N> dyNegated(const Strokes<N>& table)
 {
-    return signsTurned(table, 1, -1);
+    return withSigns(table, 1, -1);
 }
 
-/// By 180 degrees about the pen.
+/// The table turned by 180 degrees about the pen.
 template <std::size_t N> constexpr Strokes<N> turned(const Strokes<N>& table)
 {
-    return signsTurned(table, -1, -1);
+    return withSigns(table, -1, -1);
 }
 
 } // namespace schemlet

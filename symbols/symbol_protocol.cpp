@@ -33,7 +33,7 @@ void move(Pen& pen, Offset by)
     pen.y += by.dy;
 }
 
-/// What its title calls it: of "This draws an AND GATE" it is "An AND gate".
+/// The symbol's name from the title of its question: "An AND gate" from "This draws an AND GATE".
 std::string nameOf(const Symbol& symbol)
 {
     std::string name(symbol.title.substr(std::string_view("This draws ").size()));
@@ -78,7 +78,7 @@ bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::str
 
 void moveMarkerLeft(Form1& form)
 {
-    // The pen's height is assigned first and overwritten at once: the top was meant, but keeps its place.
+    // The first call has no effect. It was meant for the top, which therefore stays where it is.
     setMarkerLeft(form, form.y - markerRise);
     setMarkerLeft(form, form.x);
 }

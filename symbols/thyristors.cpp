@@ -6,14 +6,15 @@ namespace schemlet {
 
 namespace {
 
-// The triangle's top side is wider to the right.
+// The triangle's top side reaches farther to the right than to the left.
 constexpr auto scrRows =
     strokes(circle(0, 50, 50), label(150, -50, "A"), line(0, 100, 0, 650), circle(0, 750, 300),
             line(-100, 650, 110, 650), line(110, 650, 0, 850), line(-100, 650, 0, 850), line(0, 850, -100, 1050),
             line(-100, 1050, -500, 1050), circle(-530, 1050, 50), label(-800, 950, "G"), line(-200, 850, 200, 850),
             line(0, 850, 0, 1550), circle(0, 1600, 50), label(150, 1500, "C"));
 
-// "T3" has no place of its own: it lands where printing "T2" left off, at the left edge one line lower.
+// "T3" has no place of its own. It is printed where "T2" left the current point: at the canvas's left edge, one line
+// lower.
 constexpr auto triacRows =
     strokes(circle(0, 50, 50), label(150, -50, "T1"), line(0, 100, 0, 650), circle(100, 750, 300),
             line(-100, 650, 110, 650), line(110, 650, 0, 850), line(-100, 650, 0, 850), line(50, 850, -50, 1030),
@@ -33,7 +34,7 @@ constexpr auto ujtRows =
             line(-300, 800, -400, 650), label(-1300, 350, "G"), line(-600, 650, -1200, 650), circle(-1250, 650, 50),
             line(-300, 950, 0, 950), line(0, 950, 0, 1550), circle(0, 1600, 50), label(150, 1500, "B1"));
 
-// Every lower terminal is centred 1600 below the pen, yet the pen's ways differ.
+// Each lower terminal has its centre 1600 twips below the pen, but the pen moves by different distances.
 constexpr Branch scrBranches[] = {{.before = {0, 50}, .strokes = scrRows, .after = {0, 1600}}};
 constexpr Branch triacBranches[] = {{.before = {0, 50}, .strokes = triacRows, .after = {200, 1620}}};
 constexpr Branch diacBranches[] = {{.before = {0, 50}, .strokes = diacRows, .after = {0, 1620}}};

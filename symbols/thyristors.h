@@ -4,8 +4,8 @@
 
 namespace schemlet {
 
-// Thyristors and their relatives hang down from the pen whatever the heading. They are the one family without a colour
-// of its own: they are drawn in the current foreground colour. The marker stays.
+// Thyristors and related parts hang down from the pen for every heading. They have no colour of their own and are drawn
+// in the current foreground colour. The marker stays.
 
 extern const Symbol scrThyristor;
 extern const Symbol triacThyristor;

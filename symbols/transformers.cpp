@@ -6,7 +6,7 @@ namespace schemlet {
 
 namespace {
 
-// Five turns a winding, a radius apart; the primary is wound downwards, the secondary upwards.
+// Each winding has five turns, one radius apart. The primary is drawn downwards, the secondary upwards.
 constexpr auto primaryLead = strokes(line(0, 0, 400, 0), line(400, 0, 400, 400));
 constexpr auto primary = strokes(circle(400, 550, 150), circle(400, 700, 150), circle(400, 850, 150),
                                  circle(400, 1000, 150), circle(400, 1150, 150));

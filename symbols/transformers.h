@@ -4,8 +4,8 @@
 
 namespace schemlet {
 
-// Transformers hang down and to the right of the pen whatever the heading, in the colour they share with the
-// transistors. Pen and marker stay.
+// Transformers are drawn below the pen and to its right, for every heading. They share the transistors' colour. Pen and
+// marker stay.
 
 extern const Symbol singlePhaseTransformer;
 extern const Symbol centerTappedTransformer;
