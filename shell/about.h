@@ -11,7 +11,7 @@ inline constexpr Name window = "Form3";
 namespace control {
 inline constexpr Name Picture1 = "Picture1"; ///< what the program can draw
 inline constexpr Name Command1 = "Command1"; ///< Ok
-inline constexpr Name Command2 = "Command2"; ///< Cancel; there is nothing to take back, so it does the same
+inline constexpr Name Command2 = "Command2"; ///< Cancel; does the same as Ok
 } // namespace control
 
 /// Hides the window.

@@ -4,15 +4,16 @@
 
 namespace schemlet {
 
-// All colour commands share one dialog. After Cancel they take the colour that was picked last, by whichever of them.
+// All colour commands share one dialog. After Cancel they use the colour picked last, even if another command picked
+// it.
 
-/// One colour variable, and what the dialog's title says of it.
+/// A colour of the state, and the dialog's title for it.
 struct Colored {
     Color CanvasState::*color;
     std::string_view title;
 };
 
-/// What can be coloured; the symbols look at their colour when they are drawn next.
+/// What can be coloured. A new colour of a family applies to the symbols drawn from now on.
 namespace colored {
 inline constexpr Colored resistances{&CanvasState::resistanceColor, "Color of resistances"};
 inline constexpr Colored inductances{&CanvasState::inductanceColor, "Color of inductances"};
@@ -36,13 +37,14 @@ template <const Colored& colored> void pickColor(Form1& form)
     form.*colored.color = form.pickedColor;
 }
 
-/// The wires' colour.
+/// Picks the wires' colour.
 void forec(Form1& form);
 
-/// The canvas's colour, which wipes the drawing. Black reaches only the panel of supplies and batteries.
+/// Picks the canvas's colour and wipes the drawing. Black colours only the eraser's ink and the panel of supplies and
+/// batteries, and wipes nothing.
 void bc(Form1& form);
 
-// Menu items that set nothing.
+// Menu items that set no colour.
 void batterycolor(Form1& form);
 void Thyristorscolor(Form1& form);
 

@@ -32,20 +32,20 @@ namespace {
 
 /// One row of the menu tree.
 struct MenuRow {
-    int depth = 0; ///< 0 on the bar; each further depth lies under the row above it
+    int depth = 0; ///< as in MainWindow::addMenuItem
     MenuItem item;
-    Handler handler = nullptr; ///< none: a submenu or a separator
+    Handler handler = nullptr; ///< null for a submenu or a separator
 };
 
 constexpr MenuItem separator{{}, "-"};
 
-/// The item of a family's question.
+/// The item that turns a family's question on and off.
 template <Confirm family> constexpr MenuRow question(std::string_view caption)
 {
     return {1, {confirmItems[family], caption, "", Look::checked}, toggleConfirm<family>};
 }
 
-// The whole tree in its visible order. Blanks and spellings of the captions are the product's own.
+// The whole tree in its visible order. The blanks and misspellings of the captions are intended.
 // clang-format off
 constexpr MenuRow menu[] = {
     {0, {"file", "  &File  "}},
@@ -164,7 +164,7 @@ constexpr MenuRow menu[] = {
 };
 // clang-format on
 
-/// Draws a symbol, a component or a source for its toolbox picture, the pen at (x, y) twips.
+/// Draws the toolbox picture of a symbol, a component or a source, with the pen at (x, y) twips.
 template <const auto& component, int x, int y> void sketch(Surface& surface)
 {
     Pen pen{x, y, heading::right};
@@ -205,9 +205,9 @@ constexpr ToolPicture pictures[] = {
     {"Image7", " Click to Close the ToolBox ", toolbox},
 };
 
-/// Commands that no menu has.
+/// The keys of a command that is in no menu.
 struct Shortcut {
-    Name name; ///< also of their button, if they have one
+    Name name; ///< also the name of the command's button, if there is one
     std::string_view keys;
     Handler handler;
 };
@@ -222,7 +222,7 @@ struct Letter {
 constexpr Letter letters[] = {{'R', resistanc}, {'J', toggleAutoJumper}, {'S', suppl},  {'B', batter},
                               {'I', inductanc}, {'C', capacitanc},       {'E', eraser1}};
 
-/// Buttons, labels and the source panel itself, on which Esc is a click.
+/// Buttons, labels, and the panel of sources itself: Esc is a click on it.
 constexpr NamedHandler controls[] = {
     {mainWindow, control::Option2, Option2},
     {mainWindow, control::Option3, Option3},
@@ -247,7 +247,8 @@ template <typename Row, std::size_t count> Handler handlerIn(const Row (&rows)[c
     return row != std::end(rows) ? row->handler : nullptr;
 }
 
-/// Of a menu item, a button of toolbar or status bar, or a toolbox picture; null if there is none of this name.
+/// The handler of a menu item, of a button of the toolbar or the status bar, or of a toolbox picture. Null if none has
+/// this name.
 Handler handlerOf(std::string_view name)
 {
     for (const MenuRow& row : menu) {

@@ -10,8 +10,8 @@
 
 namespace schemlet {
 
-// Every way to a command stands in a table of commands.cpp: menus and popup menu, toolbar, toolbox, letters, buttons
-// and labels of all windows.
+// The tables in commands.cpp list every way to a command: menus and popup menu, toolbar, toolbox, letters, shortcuts,
+// and the buttons and labels of all windows.
 
 /// A button of the toolbar; without a name it is a separator.
 struct ToolButton {
@@ -19,8 +19,8 @@ struct ToolButton {
     std::string_view tip;
     std::string_view hint; ///< for the status bar
     Handler handler = nullptr;
-    int CanvasState::*pressed = nullptr;  ///< the switch that it shows, if any
-    Color CanvasState::*swatch = nullptr; ///< the colour that it shows, if any
+    int CanvasState::*pressed = nullptr;  ///< the button looks pressed while this is 1
+    Color CanvasState::*swatch = nullptr; ///< the button shows this colour
 };
 
 /// A button of the toolbox, with a picture of what it draws.
@@ -28,16 +28,16 @@ struct ToolPicture {
     Name name;
     std::string_view hint; ///< for the status bar
     Handler handler = nullptr;
-    void (*draw)(Surface&) = nullptr; ///< none: the form has its picture
+    void (*draw)(Surface&) = nullptr; ///< null if the form has the picture
 };
 
 [[nodiscard]] std::span<const ToolButton> toolbarButtons();
 [[nodiscard]] std::span<const ToolPicture> toolboxPictures();
 
-/// Builds the main window's menus, the popup menu included, and the keys of what no menu has.
+/// Builds the main window's menus, the popup menu, and the shortcuts that are in no menu.
 void addMenus(Form1& form);
 
-/// What a control or a timer of one of the windows does, or a window's frame, which has no name.
+/// The handler of a window's control or timer, or of its close button, which has no name.
 struct NamedHandler {
     Name window;
     Name name;
@@ -47,17 +47,17 @@ struct NamedHandler {
 /// Runs the row with these names; does nothing if there is none.
 void runRow(Form1& form, std::span<const NamedHandler> rows, std::string_view window, std::string_view name);
 
-/// Runs the command of what was clicked in one of the windows. Does nothing for a name without a command.
+/// Runs the command of a clicked control. Does nothing for a name without a command.
 void runCommand(Form1& form, std::string_view window, std::string_view name);
 
-/// Of what was clicked, or of a typed letter; null if it has none.
+/// The command of a click or of a typed letter; null if there is none.
 [[nodiscard]] Handler commandOf(const Event& event);
 
-/// The caption of a command's menu item, without & and outer blanks; empty if it has none.
+/// The caption of a command's menu item, without the &; empty if the command has no menu item.
 [[nodiscard]] std::string captionOf(Handler command);
 
-/// A typed character, a UTF-16 unit: runs the command of its letter, capital or small. Any character marks the drawing
-/// changed.
+/// Handles a typed character, a UTF-16 unit. A capital or small letter runs its command. Any character marks the
+/// drawing as changed.
 void keyPress(Form1& form, int character);
 
 } // namespace schemlet

@@ -10,7 +10,7 @@ namespace schemlet {
 inline constexpr std::array<Name, confirmCount> confirmItems = {"m",     "g",   "tr", "aar", "f",       "pnpt",  "npnt",
                                                                 "jfett", "thy", "gg", "dii", "buffer1", "opamp1"};
 
-/// Flips a family's switch and, on its own, the mark of its menu item.
+/// Toggles a family's switch, and separately the mark of its menu item.
 template <Confirm family> void toggleConfirm(Form1& form)
 {
     form.confirm[family] = form.confirm[family] == 1 ? 0 : 1;

@@ -41,14 +41,14 @@ constexpr NamedHandler frames[] = {
     {form4::window, {}, hideOutput}, {form6::window, {}, form6::finish},
 };
 
-/// Not the clock, nor a mouse that only moves, nor the end of a press.
+/// Whether an event may run a command. Timer ticks, mouse moves and releases do not.
 bool isCommand(Event::Kind kind)
 {
     using enum Event::Kind;
     return kind != tick && kind != mouseMove && kind != hover && kind != mouseUp;
 }
 
-/// Saving changes nothing that undo knows of, and ends no run of an arrow key.
+/// Whether an event may change the drawing or end a run of an arrow key. Saving does neither.
 bool mayChangeDrawing(const Event& event)
 {
     using enum Event::Kind;
@@ -62,7 +62,7 @@ bool mayChangeDrawing(const Event& event)
 void Events::deliver(const Event& event)
 {
     if (event.kind == Event::Kind::tick) {
-        return handle(event); // the clock goes on while a box waits
+        return handle(event); // timers go on while a dialog is open
     }
     m_queue.push_back(event);
     if (m_queue.size() > 1) {
@@ -80,7 +80,7 @@ void Events::handle(const Event& event)
         m_form.history.pause();
     }
     if (!m_form.notice.empty() && isCommand(event.kind)) {
-        forgetNotice(m_form); // it speaks of the command before
+        forgetNotice(m_form); // it is about an earlier command
     }
     const bool isStep = mayChangeDrawing(event);
     if (isStep) {
@@ -94,7 +94,7 @@ void Events::handle(const Event& event)
     if (isStep) {
         endStep(event);
     }
-    if (event.kind != Event::Kind::tick) { // else the blinking marker would keep it busy
+    if (event.kind != Event::Kind::tick) { // otherwise the blinking marker would keep the timer running
         showStatusSoon(m_form);
     }
 }

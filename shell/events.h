@@ -7,9 +7,9 @@
 
 namespace schemlet {
 
-/// The one way in: hands each event of any window to its handler. A RuntimeError that a handler throws is told to the
-/// user in a message box. Events that arrive while a handler runs are queued, except timer ticks: on a slow machine the
-/// keys behind a box's Enter come before the box has returned its answer.
+/// The event boundary: passes each event of any window to its handler. If a handler throws a RuntimeError, a message
+/// box shows it. Events that arrive while a handler runs are queued, except timer ticks: on a slow machine, the keys
+/// after the Enter that closes a dialog arrive before the dialog has returned.
 class Events {
 public:
     explicit Events(Form1& form) : m_form(form) {}
@@ -22,7 +22,7 @@ private:
     void dispatch(const Event& event);
 
     Form1& m_form;
-    std::deque<Event> m_queue; ///< the event that is being handled comes first
+    std::deque<Event> m_queue; ///< its first event is the one being handled
 };
 
 } // namespace schemlet

@@ -40,7 +40,7 @@ void new_(Form1& form)
     askToSave(form);
     const int reply = form.heading;
     if (reply == answer::yes) {
-        save(form); // if it fails, that is said: the drawing is lost
+        save(form); // if this fails, its notice stays: the drawing is lost
     } else if (reply == answer::no) {
         form.saveFault.clear();
     }
@@ -74,7 +74,7 @@ void open(Form1& form)
 
 void save(Form1& form)
 {
-    form.savedMark = 100; // first of all: a save that fails or is cancelled counts too
+    form.savedMark = 100; // now, because a failed or cancelled save counts, too
     const auto path = form.dialogs.saveFile(form.fileTitle, "JPEG", "JPEG Files ( *.jpeg)|*.JPEG");
     if (!path) {
         form.dialogs.messageBox("Unkown error while saving file ", Box::okOnly, productName);
@@ -83,7 +83,7 @@ void save(Form1& form)
     try {
         form.pictures.saveImage(*path);
     } catch (const RuntimeError& error) {
-        // No box: what was on the disk is still there.
+        // A notice is enough, because the old file is still on the disk.
         form.saveFault = "Not saved: " + std::string(error.what());
         return notify(form, form.saveFault);
     }

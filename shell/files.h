@@ -4,24 +4,24 @@
 
 namespace schemlet {
 
-/// What the title shows in place of a file's name.
+/// The title's text while there is no file name.
 inline constexpr std::string_view noFile = " New File ";
 
-/// Puts a file's name into the main window's title.
+/// Shows a file's name in the main window's title.
 void setTitle(Form1& form, std::string_view file);
 
-// The File menu. The answer to the question about saving is stored in the heading and stays there until the next arrow
-// key: symbols mean nothing by 6 and 7, and draw leftward for 2.
+// The File menu. The answer to the question about saving is stored in the heading until the next arrow key. Yes (6) and
+// No (7) are no direction; Cancel (2) makes the pen head left.
 
-/// Starts over, after a question if anything changed.
+/// Starts a new drawing. Asks first if anything has changed.
 void new_(Form1& form);
 
-/// Takes a picture file for the canvas. Only once the pen has moved since start or New. Throws
-/// RuntimeError(Fault::invalidPicture).
+/// Opens a picture file as the drawing's background. Works only if an arrow key was pressed since the start or New.
+/// Throws RuntimeError(Fault::invalidPicture).
 void open(Form1& form);
 
-/// Writes the canvas as a BMP picture. Cancelled or failed, it still counts as saved; cancelling brings a message,
-/// failing a notice.
+/// Saves the canvas as a BMP picture. A cancelled or failed save still counts as saved. After Cancel there is a message
+/// box, after a failure a notice.
 void save(Form1& form);
 
 /// Prints the canvas after a question. Throws RuntimeError(Fault::printerError).
@@ -30,8 +30,8 @@ void print(Form1& form);
 /// Ends the program after a question.
 void exit_(Form1& form);
 
-/// The reset behind New: an empty white canvas, a pen of normal width, no erase mode, all questions on, totals 0,
-/// no name to save it by.
+/// The reset that New does: an empty white canvas, a pen of normal width, no erase mode, all questions on, totals of 0,
+/// no file name.
 void Command4(Form1& form);
 
 /// Ends the program.

@@ -6,7 +6,7 @@ namespace {
 
 constexpr int slideInterval = 100; // milliseconds
 
-/// Once, when the window is first shown.
+/// Sets the window up before it is shown for the first time.
 void loadForm2(Form1& form)
 {
     if (form.helpLoaded == 1) {
@@ -27,7 +27,7 @@ void form2::Check1(Form1& form)
         form.form2.setHeight(collapsedHeight);
         return;
     }
-    form2::Timer2(form); // not the main window's
+    form2::Timer2(form); // qualified, because the main window has a Timer2 too
     form.form2.setInterval(control::Timer2, slideInterval);
 }
 

@@ -4,8 +4,7 @@
 
 namespace schemlet {
 
-// The help window lists hints and can slide open downwards, to a list of all short-cut keys. It is never destroyed: the
-// next time it shows as it was left.
+// The help window lists hints. It can slide open downwards to show a list of all shortcuts. Hiding it keeps its state.
 
 /// The help window and its controls.
 namespace form2 {
@@ -15,18 +14,18 @@ namespace control {
 inline constexpr Name Check1 = "Check1";     ///< slides the window open and closed
 inline constexpr Name Label23 = "Label23";   ///< does the same
 inline constexpr Name Command1 = "Command1"; ///< closes
-inline constexpr Name Timer2 = "Timer2";     ///< the sliding
+inline constexpr Name Timer2 = "Timer2";     ///< slides the window
 } // namespace control
 
 // Heights in twips
 inline constexpr int collapsedHeight = 3210;
 inline constexpr int openHeight = 5055; ///< shows the keys
 
-/// Collapses the window unless it is collapsed, else starts to slide it open. A slide that is under way goes on from
-/// the collapsed height, so a click in the middle of it makes the window open anew.
+/// Starts to slide a collapsed window open. Collapses any other window; if it was still sliding, it goes on sliding
+/// open from the collapsed height.
 void Check1(Form1& form);
 
-/// Ticks Check1 or takes its tick away, and does what it does.
+/// Toggles the tick of Check1 and does the same as Check1.
 void Label23(Form1& form);
 
 /// One step of the sliding.
@@ -40,7 +39,7 @@ void Command1(Form1& form);
 /// Shows the help window.
 void htu(Form1& form);
 
-/// Shows the help window at start, when nobody asked for it: the keyboard stays where it is.
+/// Shows the help window at start, without giving it the focus.
 void showHelpAtStart(Form1& form);
 
 } // namespace schemlet

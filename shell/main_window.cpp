@@ -13,7 +13,7 @@ namespace schemlet {
 
 namespace {
 
-/// What starts hidden, and the toolbox's colour until the canvas gets one.
+/// Hides what is hidden at start, and colours the toolbox until the user picks a canvas colour.
 void prepareControls(Form1& form)
 {
     constexpr Color lightGrey = 0xE0E0E0;

@@ -16,12 +16,12 @@ constexpr Color passive = 0x2030A0; // dark red
 constexpr Color active = 0x407000;  // dark green
 constexpr Color logic = 0xA04000;   // dark blue
 
-/// A surface with a pen on it that starts at a place in twips.
+/// A surface and a pen that draws on it.
 struct Sketch {
     Surface& surface;
     Pen pen;
 
-    /// Lays wire in whole steps, at least as far as asked.
+    /// Draws wire in whole steps, at least this far.
     void wire(int heading, int twips)
     {
         pen.heading = heading;

@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-/// Draws the product's picture, a little circuit made of the program's own symbols: 440 by 190 pixels.
+/// Draws the product's picture, a small circuit of the program's own symbols. It takes 440 by 190 pixels.
 void drawProductPicture(Surface& surface);
 
 } // namespace schemlet

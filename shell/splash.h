@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-// The splash stands alone for a second, fills its bar in another one and makes way for the main window.
+// The splash is visible for a second, then its bar fills in another second, and then the main window opens.
 
 /// The splash and its controls.
 namespace form6 {
@@ -17,15 +17,15 @@ inline constexpr Name Timer1 = "Timer1"; ///< waits for the bar to start
 inline constexpr Name Timer2 = "Timer2"; ///< moves the bar
 } // namespace control
 
-/// Shows the splash and starts its clock. Needs no other window, so that it can be the first thing to be seen.
+/// Shows the splash and starts its timer. Needs no other window, so that the splash can be shown first.
 void load(Window& splash);
 
 void Timer1(Form1& form);
 
-/// One step of the bar; the step after the last one opens the main window.
+/// Moves the bar by a step, or opens the main window if the bar is full.
 void Timer2(Form1& form);
 
-/// Opens the main window at once and ends the splash.
+/// Opens the main window at once and closes the splash.
 void finish(Form1& form);
 
 } // namespace form6

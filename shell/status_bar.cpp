@@ -34,7 +34,7 @@ std::string_view toolText(const CanvasState& state)
     return state.pencilTool == 1 ? "Pencil" : "Pen";
 }
 
-/// The pointer over the canvas: it points where the tool's ink starts.
+/// The pointer over the canvas. Its hot spot is where the tool's ink starts.
 Cursor cursorFor(const CanvasState& state)
 {
     if (state.eraseMode == 1) {
@@ -59,7 +59,7 @@ std::string penText(const CanvasState& state)
     return wholeTwips(state.x) + ", " + wholeTwips(state.y);
 }
 
-/// In the canvas's pixels, for whoever measures.
+/// The pointer's position in canvas pixels; empty while it is not over the canvas.
 std::string pointerText(const CanvasState& state)
 {
     if (!state.pointer) {
@@ -76,8 +76,7 @@ std::string_view offCanvasText(const Form1& form)
     return form.window.isOnCanvas(pointBeside(form)) ? "" : "off the canvas";
 }
 
-/// What the status bar shows, for somebody who does not see it, and what the open panel offers: the keyboard is still
-/// on the canvas then.
+/// The status for screen readers, with the mnemonics of the open panel, because the focus is still on the canvas.
 std::string spokenStatus(const Form1& form)
 {
     std::string text = form.notice.empty() ? "" : form.notice + ". ";
@@ -96,7 +95,7 @@ std::string spokenStatus(const Form1& form)
     return text;
 }
 
-/// Of a panel that is only there while it says something.
+/// Sets the text of a panel that is visible only while it has one.
 void setOptionalText(Form1& form, Name panel, std::string_view text)
 {
     form.window.setText(panel, text);
@@ -125,14 +124,14 @@ void showStatus(Form1& form)
     showTools(form);
     showUndo(form);
     form.window.setCursor(cursorFor(form));
-    keepPanelAside(form); // the pen may have come near
+    keepPanelAside(form); // the pen may have come near the panel
     form.window.setDescription(control::Canvas, spokenStatus(form));
 }
 
 void endNotice(Form1& form)
 {
     forgetNotice(form);
-    showNotice(form); // alone: without it, the canvas's description is no news
+    showNotice(form); // only this: the canvas's description would be read again without being news
 }
 
 void showStatusSoon(Form1& form)

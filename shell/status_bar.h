@@ -4,15 +4,16 @@
 
 namespace schemlet {
 
-/// Brings what shows the state up to date: the status bar's panels behind the hint, the canvas's description, which
-/// tells the same to a screen reader, the toolbar's buttons, the pointer over the canvas, and the place of the panel of
-/// supplies and batteries, which stays away from the pen.
+/// Updates everything that shows the state: the panels and buttons of the status bar, the canvas's description for
+/// screen readers, the toolbar's buttons, the pointer over the canvas, and the place of the panel of sources, which
+/// stays away from the pen.
 void showStatus(Form1& form);
 
-/// The same a moment later, once for all events until then: ink comes first, and nobody reads faster.
+/// Starts a timer that calls showStatus() once for all events until then. So ink is on the screen before any text is
+/// laid out.
 void showStatusSoon(Form1& form);
 
-/// The seconds of a notice are over.
+/// Removes a notice when its time is over.
 void endNotice(Form1& form);
 
 /// View > StatusBar.

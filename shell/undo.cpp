@@ -17,7 +17,7 @@ namespace schemlet {
 
 namespace {
 
-/// Brings the windows in line with the state.
+/// Updates the windows to the restored state.
 void showDrawing(Form1& form, const Drawing& before, const std::string& titleBefore)
 {
     setMarkerLeft(form, form.markerLeft);
@@ -65,7 +65,7 @@ std::string_view toolName(const Form1& form)
     return form.pencilTool == 1 ? "pencil" : "wire";
 }
 
-/// An arrow key alone lays one step of wire; behind a jumper the pen has gone farther.
+/// Whether an arrow key also drew a jumper: the pen has then moved by more than a step of wire.
 bool hopped(const Pen& from, const Pen& to)
 {
     return std::abs(to.x - from.x) + std::abs(to.y - from.y) > stepLength;

@@ -7,18 +7,18 @@
 
 namespace schemlet {
 
-// The steps are those of canvas/history.h.
+// Undo and redo of the steps in canvas/history.h.
 
-/// Takes back the last step. Does nothing if there is none.
+/// Undoes the last step. Does nothing if there is none.
 void undo(Form1& form);
 
-/// Brings again the step that was taken back last.
+/// Redoes the step that was undone last. Does nothing if there is none.
 void redo(Form1& form);
 
-/// What the event that made the last step is called, such as "wire" or "AND Gate".
+/// The name of the step that an event has just made, such as "wire" or "AND Gate".
 [[nodiscard]] std::string stepName(const Form1& form, const Event& event);
 
-/// Shows in the status bar's two buttons what they would do.
+/// Updates the status bar's two buttons: enables them, and names their step in the tool tip.
 void showUndo(Form1& form);
 
 } // namespace schemlet
