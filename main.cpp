@@ -22,15 +22,15 @@ namespace {
 
 void prepareToolkit()
 {
-    // Fast pencil strokes need every motion; the platform plug-in switches merging on when it starts, so only now.
+    // Fast pencil strokes need every motion. The platform plug-in turns merging on when it starts, so this comes after.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-    // Under this name the desktop finds the menu entry of the running windows.
+    // The desktop uses this name to find the menu entry of a window.
     QGuiApplication::setDesktopFileName("org.schemlet.schemlet");
     installAccessibility();
     endOnSignals();
-    // The end of the last window would ask every hidden one first, and none of them closes unasked.
+    // Otherwise Qt would first ask every hidden window to close, and none of them would.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    // The toolkit's dialogs would read and write a file of their own in the home directory.
+    // Qt's dialogs would read and write a settings file in the home directory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
@@ -44,20 +44,20 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     prepareToolkit();
 
-    Events* program = nullptr; // until all windows are there
+    Events* program = nullptr; // null until all windows exist
     const auto report = [&program](const Event& event) {
         if (program != nullptr) {
             program->deliver(event);
         }
     };
 
-    // The splash stands on the screen while the rest is made behind it.
+    // The splash is visible while everything else is created.
     QDialog splashView;
     Ui::Form6().setupUi(&splashView);
     QtWindow form6(splashView, report);
     form6::load(form6);
     QCoreApplication::processEvents();
-    // Only now, as it takes a while to draw in all its sizes.
+    // After the splash, because drawing the icon in all sizes takes a while.
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(), QIcon(":/schemlet.svg")));
 
     QMainWindow mainView;

@@ -1,5 +1,5 @@
-// What the program's handlers cost, in the real window on Qt's offscreen platform. Run by hand; machines differ, so
-// compare with the figures of the same machine before a change.
+// Times the program's handlers in the real window, on Qt's offscreen platform. Compare figures only with those of the
+// same machine before a change.
 
 #include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_dialogs.h"
@@ -51,13 +51,13 @@ struct Program {
         openMainWindow(form);
         form.confirm.fill(0);
         for (const Name timer : {control::Timer1, control::Timer2}) {
-            window.setInterval(timer, 0); // the clock would count
+            window.setInterval(timer, 0); // their ticks would be measured, too
         }
         QCoreApplication::processEvents();
     }
 };
 
-/// The handler alone, or with the repaint that follows it.
+/// Ends an iteration: with range 1, the repaint is measured, too.
 void finish(const benchmark::State& state)
 {
     if (state.range(0) == 1) {
@@ -65,7 +65,8 @@ void finish(const benchmark::State& state)
     }
 }
 
-/// Without a repaint and with one. ITERATIONS fixes how often, for tools that count instructions.
+/// Runs a benchmark without and with the repaint. The variable ITERATIONS fixes the number of iterations, for tools
+/// that count instructions.
 void variants(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->ArgName("repaint")->Arg(0)->Arg(1);
@@ -114,7 +115,7 @@ void symbol(benchmark::State& state)
 }
 BENCHMARK(symbol)->Apply(variants);
 
-/// Takes back what was drawn last, and brings it again.
+/// Undoes and redoes the last step.
 void undoAndRedo(Program& program, benchmark::State& state)
 {
     for (auto _ : state) {
@@ -135,7 +136,7 @@ void undoWire(benchmark::State& state)
 }
 BENCHMARK(undoWire)->Apply(variants);
 
-/// Of a picture without blank paper.
+/// With a picture that has no blank paper.
 void undoNew(benchmark::State& state)
 {
     Program program;
@@ -146,7 +147,7 @@ void undoNew(benchmark::State& state)
         }
     }
     program.main.form.Canvas->surface().setPicture(picture);
-    for (const char* const name : {"Eraser", "New"}) { // the first only lets the picture be there before
+    for (const char* const name : {"Eraser", "New"}) { // the first makes the picture a step of its own
         program.events.deliver({.kind = Event::Kind::click, .name = name});
     }
     undoAndRedo(program, state);

@@ -4,8 +4,8 @@
 
 namespace schemlet {
 
-/// The name of a window, a control, a menu item or a timer. Only a constant makes one: so a name may be kept, and a
-/// text is never taken for a name.
+/// The name of a window, a control, a menu item or a timer. Only a constant can become a Name. So a Name may be stored,
+/// and a text cannot be passed for one by mistake.
 class Name {
 public:
     constexpr Name() = default; ///< none

@@ -4,17 +4,16 @@
 
 namespace schemlet {
 
-/// The canvas as picture files. Paths are UTF-8.
+/// Loads and saves the canvas as picture files. Paths are UTF-8.
 class Pictures {
 public:
     virtual ~Pictures() = default;
 
-    /// Wipes the canvas and lays a picture at its top left corner, one picture pixel to one canvas pixel; the retained
-    /// image grows to hold all of it. Throws RuntimeError(Fault::invalidPicture) and then
-    /// leaves everything as it is.
+    /// Wipes the canvas and puts a picture at its top left corner, one picture pixel to one canvas pixel. The canvas's
+    /// image grows to hold all of it. Throws RuntimeError(Fault::invalidPicture) and then changes nothing.
     virtual void loadBackground(std::string_view path) = 0;
-    /// Writes the whole retained image as a BMP file, whatever the name's extension. Throws pictureNotSaved,
-    /// with the cause in few words; the file that was there before is then untouched.
+    /// Writes the canvas's whole image as a BMP file, for any extension of the name. Throws
+    /// RuntimeError(Fault::pictureNotSaved) with the cause in a few words; the old file is then unchanged.
     virtual void saveImage(std::string_view path) = 0;
 };
 

@@ -5,12 +5,12 @@
 
 namespace schemlet {
 
-/// What can go wrong while a command runs, through no fault of the program. The command ends where the error is thrown,
-/// what it had done stays done, and a message box tells the user.
+/// What can go wrong while a command runs, through no fault of the program. The error ends the command without undoing
+/// what it has done so far, and a message box tells the user.
 enum class Fault { typeMismatch, invalidArgument, overflow, invalidPicture, pictureNotSaved, printerError };
 
 struct RuntimeError : std::runtime_error {
-    /// The user reads the text: plain words, with a hint what to do where that helps.
+    /// The text is for the user: plain words and, if that helps, a hint what to do.
     RuntimeError(Fault what, const std::string& text) : std::runtime_error(text), fault(what) {}
 
     Fault fault;

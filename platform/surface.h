@@ -23,35 +23,35 @@ struct Point {
     float y = 0;
 };
 
-/// The canvas as the drawing code sees it: ink that stays until it is wiped. Every length is in twips unless it
-/// says pixels. Any finite coordinate is accepted; what falls outside the retained image is clipped. Nothing is
+/// The canvas as the drawing code sees it: an image that keeps all ink until it is wiped. Lengths are in twips unless
+/// the comment says pixels. Any finite coordinate is accepted; strokes are clipped to the image. Nothing is
 /// antialiased, so that point() finds exactly the colours that were drawn.
 class Surface {
 public:
     virtual ~Surface() = default;
 
-    /// A straight stroke with round ends in the foreground colour; a zero-length one leaves a dot. The current
-    /// point moves to its end.
+    /// A straight stroke with round ends in the foreground colour. A stroke of zero length is a dot. The current point
+    /// moves to the end.
     virtual void line(Point from, Point to) = 0;
     /// The outline of the rectangle with these opposite corners. The current point moves to the second one.
     virtual void box(Point from, Point to) = 0;
-    /// A full circle outline, radius 0 or more; one smaller than the pen is a disc. The current point stays.
+    /// The outline of a circle, radius 0 or more. A circle smaller than the pen is a disc. The current point stays.
     virtual void circle(Point centre, float radius) = 0;
-    /// A circle's part, radius 0 or more, counter-clockwise on the screen from start to end: angles in radians from +X,
-    /// of any size. The current point stays.
+    /// Part of a circle, radius 0 or more, counter-clockwise on the screen from start to end. The angles are in radians
+    /// from +X and may be of any size. The current point stays.
     virtual void arc(Point centre, float radius, float start, float end) = 0;
-    /// Prints one line of UTF-8 text with the current point as its top-left corner. endLine moves the current point to
-    /// the left edge one text line lower; otherwise it stands behind the text.
+    /// Prints one line of UTF-8 text with its top-left corner at the current point. With endLine, the current point
+    /// moves to the canvas's left edge one text line lower, otherwise to the end of the text.
     virtual void print(std::string_view text, bool endLine) = 0;
 
-    /// The colour of the pixel at a place; none outside the retained image.
+    /// The colour of the pixel at a place; none outside the image.
     [[nodiscard]] virtual std::optional<Color> point(Point place) const = 0;
 
-    /// Wipes ink and background picture and gives the image the window's size again.
+    /// Wipes ink and background picture and resizes the image to the window.
     virtual void clear() = 0;
-    /// Sets the colour of the paper, which wipes ink and background picture; the image keeps its size.
+    /// Sets the colour of the paper, and wipes ink and background picture. The image keeps its size.
     virtual void setBackColor(Color color) = 0;
-    /// The colour of everything drawn from now on.
+    /// Sets the colour of everything drawn from now on.
     virtual void setForeColor(Color color) = 0;
     [[nodiscard]] virtual Color foreColor() const = 0;
 
@@ -59,16 +59,16 @@ public:
     [[nodiscard]] virtual int drawWidth() const = 0;
     virtual void setDrawWidth(int pixels) = 0;
 
-    /// Where the next print() begins, and the free-hand tools' starting point.
+    /// The place where the next print() begins. The mouse tools start from it, too.
     [[nodiscard]] virtual Point current() const = 0;
     virtual void setCurrent(Point place) = 0;
 
-    /// The ink and the paper that was replaced since this was called last; empty if nothing was. Room that came with a
-    /// larger window is no change.
+    /// The ink and the paper that were replaced since the last call; empty if nothing was. New room of a larger window
+    /// is not a change.
     [[nodiscard]] virtual InkChange takeChange() = 0;
-    /// Takes back the latest change, or brings again the earliest one that was taken back: the image, its size and its
-    /// paper are what they were, but where the window has grown since, there is more of that paper. The change then
-    /// holds what was there.
+    /// Undoes the latest change, or redoes the change undone last. Restores the image, its size and its paper. If the
+    /// window has grown since, the image has more of that paper. The change then holds what it replaced, so that the
+    /// next call reverses it.
     virtual void exchange(InkChange& change) = 0;
 };
 

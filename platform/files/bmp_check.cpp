@@ -13,10 +13,10 @@ enum class Compression : std::uint32_t { none, rle8, rle4, bitFields };
 
 struct BmpHeader {
     std::int64_t width = 0;
-    std::int64_t height = 0; ///< never negative: which way the rows run does not matter here
+    std::int64_t height = 0; ///< never negative, because the order of the rows does not matter here
     std::uint32_t bitsPerPixel = 0;
     Compression compression = Compression::none;
-    std::int64_t dataBytes = 0; ///< of compressed pixels; 0 if the header does not say
+    std::int64_t dataBytes = 0; ///< of compressed pixels; 0 if unknown
     std::int64_t pixelsAt = 0;
 };
 
@@ -58,20 +58,20 @@ BmpHeader readHeader(const Bytes& file)
     return header;
 }
 
-/// Runs of pixels, up to the mark that ends the picture, or all its rows.
+/// Walks over runs of pixels to the mark that ends the picture, or to the end of its last row.
 void walkRuns(const Bytes& file, const BmpHeader& header)
 {
     const bool nibbles = header.compression == Compression::rle4;
     std::int64_t at = header.pixelsAt;
     for (std::int64_t row = 0; row < header.height;) {
         if (header.dataBytes != 0 && at >= header.pixelsAt + header.dataBytes && at == file.size()) {
-            return; // without the mark, but as long as the header says
+            return; // the mark is missing, but the data is as long as the header says
         }
         const std::uint32_t count = file.u8(at);
         const std::uint32_t value = file.u8(at + 1);
         at += 2;
         if (count != 0) {
-            continue; // so many pixels of one colour
+            continue; // a run of pixels of one colour
         }
         switch (value) {
         case 0: ++row; break;
@@ -80,7 +80,7 @@ void walkRuns(const Bytes& file, const BmpHeader& header)
             row += file.u8(at + 1);
             at += 2;
             break;
-        default: // so many pixels as they are, padded to an even number of bytes
+        default: // uncompressed pixels, padded to an even number of bytes
             at += nibbles ? (value + 3) / 4 * 2LL : (value + 1) / 2 * 2LL;
         }
     }
@@ -89,7 +89,7 @@ void walkRuns(const Bytes& file, const BmpHeader& header)
 void reachLastRow(const Bytes& file, const BmpHeader& header)
 {
     const std::int64_t rowBytes = (header.width * header.bitsPerPixel + 31) / 32 * 4;
-    if (header.height > (file.size() - header.pixelsAt) / rowBytes) { // the product may be too large a number
+    if (header.height > (file.size() - header.pixelsAt) / rowBytes) { // a product could overflow
         throw CutShort{};
     }
 }

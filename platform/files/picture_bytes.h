@@ -5,31 +5,31 @@
 
 namespace schemlet {
 
-/// How the check reads a picture file.
+/// Reads the bytes of a picture file.
 namespace picture {
 
-/// Thrown where the picture goes on and the file does not.
+/// Thrown if the file ends before the picture does.
 struct CutShort {};
 
-/// Thrown where headers contradict themselves.
+/// Thrown if the headers make no sense.
 struct Unreadable {};
 
-inline void require(bool sense)
+inline void require(bool valid)
 {
-    if (!sense) {
+    if (!valid) {
         throw Unreadable{};
     }
 }
 
-/// Numbers from the file, at places of 0 or more; beyond its end each throws CutShort. Places are 64 bits wide: sums of
-/// a few 32-bit numbers from a file do not overflow.
+/// Reads numbers from the file. Places are 0 or more; a place beyond the end throws CutShort. Places have 64 bits, so
+/// that sums of a few 32-bit numbers from a file do not overflow.
 class Bytes {
 public:
     explicit Bytes(std::string_view bytes) : m_bytes(bytes) {}
 
     [[nodiscard]] std::int64_t size() const { return static_cast<std::int64_t>(m_bytes.size()); }
 
-    /// Everything before this place must be there.
+    /// Throws CutShort if the file ends before this place.
     void reach(std::int64_t end) const
     {
         if (end > size()) {
@@ -47,7 +47,7 @@ public:
     [[nodiscard]] std::uint32_t big16(std::int64_t at) const { return u8(at) << 8U | u8(at + 1); }
     [[nodiscard]] std::uint32_t big32(std::int64_t at) const { return big16(at) << 16U | big16(at + 2); }
 
-    /// Where this byte stands next.
+    /// The next place of this byte. Throws CutShort if there is none.
     [[nodiscard]] std::int64_t find(char byte, std::int64_t from) const
     {
         const std::size_t found = m_bytes.find(byte, static_cast<std::size_t>(from));

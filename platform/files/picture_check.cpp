@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view pngSignature = "\x89PNG\r\n\x1a\n";
 
-/// From chunk to chunk, up to the one that ends the picture.
+/// Walks from chunk to chunk to the chunk that ends the picture.
 void checkPng(const Bytes& file)
 {
     constexpr std::uint32_t end = 0x49454E44; // "IEND"
@@ -26,10 +26,10 @@ void checkPng(const Bytes& file)
 }
 
 namespace marker {
-constexpr std::uint32_t stuffing = 0x00; ///< an FF of the compressed pixels
+constexpr std::uint32_t stuffing = 0x00; ///< makes an FF a byte of the compressed pixels
 constexpr std::uint32_t temporary = 0x01;
 constexpr std::uint32_t firstRestart = 0xD0;
-constexpr std::uint32_t start = 0xD8; ///< right behind the last restart
+constexpr std::uint32_t start = 0xD8; ///< follows the last restart marker
 constexpr std::uint32_t end = 0xD9;
 } // namespace marker
 
@@ -39,12 +39,12 @@ bool standsAlone(std::uint32_t code)
            (code >= marker::firstRestart && code <= marker::start);
 }
 
-/// From marker to marker. What lies between two segments is compressed pixels or does not matter.
+/// Walks from marker to marker. Bytes between two segments are compressed pixels or do not matter.
 void checkJpeg(const Bytes& file)
 {
     for (std::int64_t at = 0;;) {
         at = file.find('\xFF', at);
-        while (file.u8(at) == 0xFF) { // any number of them may stand before a marker
+        while (file.u8(at) == 0xFF) { // a marker may start with any number of them
             ++at;
         }
         const std::uint32_t code = file.u8(at++);
@@ -64,7 +64,7 @@ std::int64_t colorTableBytes(std::uint32_t flags)
     return (flags & 0x80U) != 0 ? 3LL << ((flags & 7U) + 1) : 0;
 }
 
-/// Up to the end of the first picture. Later ones, of an animation, are not shown.
+/// Walks to the end of the first picture. The others of an animation are not shown.
 void checkGif(const Bytes& file)
 {
     std::int64_t at = 13 + colorTableBytes(file.u8(10));
@@ -79,7 +79,7 @@ void checkGif(const Bytes& file)
     }
 }
 
-/// C source that ends with its one array.
+/// An XBM is C source with one array at its end.
 void checkXbm(const Bytes& file)
 {
     (void)file.find('}', 0);

@@ -13,7 +13,8 @@ int squares(int pixels)
     return (pixels + squareSide - 1) / squareSide;
 }
 
-/// Calls visit(row of the image, its first column, row of the square, columns) for what lies on the image.
+/// Calls visit(the row's first pixel in the image, its index in the square, the number of pixels) for each row of a
+/// square, as far as the row lies on the image.
 template <typename Visit> void forEachRow(const Image& image, GridPlace place, Visit visit)
 {
     const int left = place.column * squareSide;
@@ -42,7 +43,7 @@ SquarePixels read(const Image& image, std::uint32_t paper, GridPlace place)
     return pixels;
 }
 
-/// Both images are of the same sheet.
+/// Whether two images of the same sheet have equal squares in a place.
 bool areAlike(const Image& one, const Image& other, std::uint32_t paper, GridPlace place)
 {
     if (!isWithin(one, place) || !isWithin(other, place)) {
@@ -146,7 +147,7 @@ void Changes::mark(const Area& area)
 {
     const Area& last = m_lastMarked;
     if (area.left >= last.left && area.top >= last.top && area.right <= last.right && area.bottom <= last.bottom) {
-        return; // as the next dot of a wire often is
+        return; // the next dot of a wire often marks the same squares
     }
     const Area grid = inSquares(area);
     forEachSquare(grid, [this](GridPlace place) { markSquare(place); });
@@ -234,7 +235,7 @@ void Changes::accept(const Image& image, std::uint32_t paper, const Area& area)
     });
 }
 
-/// Copies the image, unless it is empty.
+/// Starts a new copy of the image. Blank paper needs no copy.
 void Changes::start(const Image& image, const Sheet& sheet)
 {
     m_sheet = sheet;

@@ -9,11 +9,11 @@
 
 namespace schemlet {
 
-/// Which pixels a step changed, so that it can be taken back. Images are compared square by square: what did not change
-/// takes no memory.
+/// Finds the pixels that a step changed, so that it can be undone. Images are compared square by square, and a square
+/// without a change takes no memory.
 namespace ink {
 
-/// An image's size, and the pixel of its paper, which goes on beyond its edges.
+/// The size of an image and the colour of its paper. Beyond its edges, everything is paper.
 struct Sheet {
     int width = 0;
     int height = 0;
@@ -37,39 +37,40 @@ struct GridPlace {
 struct Patch {
     struct Square {
         GridPlace place;
-        std::vector<std::uint32_t> pixels; ///< row by row, or a single one if all are alike
+        std::vector<std::uint32_t> pixels; ///< row by row, or a single one if all are equal
     };
 
-    Sheet before;                ///< of the image with these squares
-    Sheet after;                 ///< of the image that the step left
-    std::vector<Square> squares; ///< by place, each place at most once
+    Sheet before;                ///< the image's sheet before the step
+    Sheet after;                 ///< the image's sheet after the step
+    std::vector<Square> squares; ///< before the step; sorted by place, each place at most once
 
     [[nodiscard]] bool empty() const { return squares.empty() && before == after; }
     [[nodiscard]] std::size_t bytes() const;
-    /// Takes in what the step that followed replaced.
+    /// Adds the patch of the following step, so that both are one step.
     void add(Patch later);
 };
 
-/// The part of an image that holds all squares of a patch.
+/// The smallest area that contains all squares of a patch.
 [[nodiscard]] Area cover(const Patch& patch);
 
-/// The squares that the image has where the patch has others: what brings them back.
+/// The patch that reverses another one: the image's present squares in the places of that patch.
 [[nodiscard]] Patch reverse(const Image& image, std::uint32_t paper, const Patch& patch);
 
-/// Finds what changed by comparing the image with a copy. There is no copy as long as nothing was inked.
+/// Finds changes by comparing the image with a copy. There is no copy until something is inked.
 class Changes {
 public:
     explicit Changes(std::uint32_t paper) : m_sheet{.paper = paper} {}
 
-    /// Pixels in this part of the image may have changed.
+    /// Call when pixels in this area may have changed.
     void mark(const Area& area);
-    /// The image got more room, which is no change.
+    /// Call when the image has grown. New room is not a change.
     void grow(int width, int height);
-    /// What changed since this was called last.
+    /// The changes since the last call.
     [[nodiscard]] Patch take(const Image& image, std::uint32_t paper);
-    /// Writes a patch's squares into an image that has the patch's sheet already, or a larger one. That is no change.
+    /// Writes a patch's squares into an image that already has the patch's sheet or a larger one. take() does not
+    /// report that.
     void put(const Image& image, std::uint32_t paper, const Patch& patch);
-    /// Lets what changed in this area be no change.
+    /// Makes take() ignore what has changed in this area.
     void accept(const Image& image, std::uint32_t paper, const Area& area);
 
 private:
@@ -79,27 +80,27 @@ private:
     [[nodiscard]] Image copy();
     [[nodiscard]] std::size_t indexOf(GridPlace place) const;
 
-    Sheet m_sheet;                       ///< of the image when something was taken last
-    std::vector<std::uint32_t> m_pixels; ///< the copy; smaller than the image where that has only paper
+    Sheet m_sheet;                       ///< of the image at the last take()
+    std::vector<std::uint32_t> m_pixels; ///< the copy; beyond its size, everything is paper
     int m_width = 0;
     int m_height = 0;
     std::vector<GridPlace> m_marked;
-    Area m_lastMarked;            ///< whole squares
-    std::vector<bool> m_isMarked; ///< m_columns in a row
+    Area m_lastMarked;            ///< whole squares, in pixels
+    std::vector<bool> m_isMarked; ///< of each square; rows of m_columns
     int m_columns = 0;
 };
 
 } // namespace ink
 
-/// What a step did to the picture, and to the finer image of it if the screen has one.
+/// The patches of a step: of the picture, and of the finer image if the screen has one.
 struct InkChange {
     ink::Patch picture;
     ink::Patch screen;
-    int screenNumber = 0; ///< tells finer images apart: the patch fits no other one
+    int screenNumber = 0; ///< the finer image that `screen` belongs to
 
     [[nodiscard]] bool empty() const { return picture.empty() && screen.empty(); }
     [[nodiscard]] std::size_t bytes() const { return picture.bytes() + screen.bytes(); }
-    /// Makes one step of this and the one that followed.
+    /// Adds the change of the following step, so that both are one step.
     void add(InkChange later);
 };
 

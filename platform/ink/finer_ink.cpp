@@ -8,7 +8,7 @@ namespace schemlet {
 namespace ink {
 namespace {
 
-/// The finer pixels of a part of the canvas. What the finer image has beyond the canvas belongs to its last pixels.
+/// The finer pixels of a part of the canvas. The canvas's last pixels extend to the edges of the finer image.
 Area finerPart(const Image& canvas, const Image& finer, const Area& part)
 {
     const auto edge = [&](int place, int end, int finerEnd) {

@@ -9,13 +9,13 @@ namespace schemlet {
 namespace ink {
 namespace {
 
-/// Columns of a row, in places: from inclusive, to exclusive, empty unless from < to.
+/// A part of a row of pixels. It is empty unless from < to.
 struct Interval {
     double from;
     double to;
 };
 
-/// The first pixel whose centre is at or behind a place, kept between 0 and limit.
+/// The first pixel whose centre is at or after a place, clamped to 0 and limit.
 int firstPixel(double place, int limit)
 {
     return static_cast<int>(std::clamp(std::ceil(place - 0.5), 0.0, static_cast<double>(limit)));
@@ -41,14 +41,14 @@ template <typename Wanted> void inkRow(const Image& image, const Pen& pen, int y
 
 constexpr auto everyPixel = [](auto... /*place*/) { return true; };
 
-/// The nearest place from which a shape of this extent covers whole pixels evenly to both sides.
+/// The nearest centre from which a shape of this extent covers whole pixels, as many to each side.
 double fitted(double place, double extent)
 {
     const bool odd = std::fmod(std::round(extent), 2.0) != 0;
     return odd ? std::floor(place) + 0.5 : std::floor(place + 0.5);
 }
 
-/// In the image's own pixels.
+/// A place in the image's own pixels.
 Place fitted(const Image& image, Place place, double extent)
 {
     const auto fit = [&](double along) { return fitted(fitted(along, extent) * image.scale, extent * image.scale); };
@@ -60,7 +60,7 @@ Pen scaled(const Image& image, const Pen& pen)
     return {pen.pixel, pen.width * image.scale};
 }
 
-/// A disc's chord at a distance from its centre, or an empty interval.
+/// The chord of a disc at a distance from its centre; empty outside the disc.
 Interval chord(double centre, double radius, double distance)
 {
     const double square = radius * radius - distance * distance;
@@ -68,7 +68,7 @@ Interval chord(double centre, double radius, double distance)
     return {centre - half, centre + half};
 }
 
-/// Makes a convex shape's row reach as far as another part of that shape does.
+/// Extends a row of a convex shape to another part of that shape.
 void extend(Interval& row, Interval by)
 {
     if (by.from < by.to) {
@@ -76,7 +76,7 @@ void extend(Interval& row, Interval by)
     }
 }
 
-/// What the straight part of a stroke, the rectangle between its two round ends, covers of the row at height y.
+/// The part of the row at height y that lies in the rectangle between a stroke's two round ends.
 Interval rectangleRow(Place from, Place to, double halfWidth, double y)
 {
     const double length = std::hypot(to.x - from.x, to.y - from.y);
@@ -126,7 +126,8 @@ Area disc(const Image& image, const Pen& pen, Place centre)
     return ring(image, pen, centre, 0, everyPixel);
 }
 
-double turnsFrom(double start, double angle)
+/// The angle counter-clockwise from start, at least 0 and less than a full turn.
+double angleFrom(double start, double angle)
 {
     const double turn = 2 * std::numbers::pi;
     const double difference = std::fmod(angle - start, turn);
@@ -163,9 +164,9 @@ Area arc(const Image& image, const Pen& pen, Place centre, double radius, double
     centre = fitted(image, centre, 2 * radius + pen.width);
     radius *= image.scale;
     const Pen wide = scaled(image, pen);
-    const double sweep = turnsFrom(start, end);
+    const double sweep = angleFrom(start, end);
     const Area area = ring(image, wide, centre, radius, [&](int x, int y) {
-        return turnsFrom(start, std::atan2(centre.y - (y + 0.5), x + 0.5 - centre.x)) <= sweep;
+        return angleFrom(start, std::atan2(centre.y - (y + 0.5), x + 0.5 - centre.x)) <= sweep;
     });
     for (const double angle : {start, end}) {
         disc(image, wide, {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)});

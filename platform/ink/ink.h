@@ -4,17 +4,17 @@
 
 namespace schemlet {
 
-/// Which pixels a round pen inks, exactly and without antialiasing: those whose centre lies within half the pen's
-/// width of the ideal path. So a line has round ends, a zero-length one is a dot, and a circle smaller than the pen
-/// is a disc. Paths are first fitted to the pixel grid, so that every shape looks the same wherever it is drawn, wires
-/// and bars are equally thick throughout, and circles are symmetric.
+/// Strokes of a round pen, without antialiasing. A stroke inks each pixel whose centre lies within half the pen's width
+/// of the path. So a line has round ends, a line of zero length is a dot, and a circle smaller than the pen is a disc.
+/// Paths are first fitted to the pixel grid, so that every shape looks the same everywhere, wires and bars have the
+/// same thickness throughout, and circles are symmetric.
 ///
-/// Places are in pixels, pixel (0, 0) reaching from 0 to 1; any finite place is accepted, what lies outside the
-/// image is clipped at no cost. An image with a scale has that many pixels along each of these: paths are fitted to the
-/// unscaled grid first, so that the same stroke covers the same place at every scale.
+/// Places are in pixels of the unscaled grid: pixel (0, 0) extends from 0 to 1. Any finite place is accepted. Clipping
+/// to the image costs nothing. An image with a scale has that many pixels along each pixel of the unscaled grid. Paths
+/// are fitted to the unscaled grid first, so that a stroke covers the same place at every scale.
 namespace ink {
 
-/// Memory of 32-bit pixels. Borrowed for the call.
+/// An image in memory that the caller owns, 32 bits a pixel.
 struct Image {
     std::uint32_t* pixels = nullptr;
     int width = 0;
@@ -33,7 +33,7 @@ struct Place {
     double y;
 };
 
-/// A part of an image; right and bottom are the first column and row behind it. Empty parts are all zeros.
+/// A part of an image. right and bottom are the first column and row after it. An empty area is all zeros.
 struct Area {
     int left = 0;
     int top = 0;
@@ -43,11 +43,12 @@ struct Area {
     friend bool operator==(const Area&, const Area&) = default;
 };
 
-// Each returns a part of the image that holds every pixel it inked.
+// Each function returns an area that contains all pixels that it inked.
 Area line(const Image& image, const Pen& pen, Place from, Place to);
-/// radius is 0 or more.
+/// The radius is 0 or more.
 Area circle(const Image& image, const Pen& pen, Place centre, double radius);
-/// radius is 0 or more; from angle start to angle end, counter-clockwise on the screen from +X, in radians of any size.
+/// The radius is 0 or more. The arc goes counter-clockwise on the screen from start to end; these are angles from +X in
+/// radians, of any size.
 Area arc(const Image& image, const Pen& pen, Place centre, double radius, double start, double end);
 
 } // namespace ink
