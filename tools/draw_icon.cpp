@@ -1,4 +1,4 @@
-// Draws an SVG picture as a square PNG one.
+// Converts an SVG picture to a square PNG picture.
 #include <QCoreApplication>
 #include <QImage>
 #include <QImageReader>
@@ -14,7 +14,7 @@ int main(int argc, char* argv[])
     }
     QImageReader drawing(words[1]);
     const int pixels = words[2].toInt();
-    drawing.setScaledSize({pixels, pixels}); // drawn at that size, not drawn and then scaled
+    drawing.setScaledSize({pixels, pixels}); // drawn at that size, not scaled afterwards
     const QImage icon = drawing.read();
     if (icon.width() != pixels || !icon.save(words[3])) {
         QTextStream(stderr) << words[1] << ": " << drawing.errorString() << "\n";

@@ -1,5 +1,5 @@
-// Draws every symbol of the library, in each heading that it distinguishes, and the program's own pictures into one
-// picture for people to look at:  symbol_sheet FILE
+// Draws a sheet with every symbol, in each heading that makes a difference, and the program's own pictures:
+//   symbol_sheet FILE
 
 #include "canvas/jumper_ground.h"
 #include "circuit/sources.h"
@@ -49,7 +49,7 @@ void drawBars(Surface& surface, Pen& pen)
     drawGround(surface, pen);
 }
 
-constexpr auto once = {heading::right}; // the symbol draws the same for every heading, or for this one alone
+constexpr auto once = {heading::right}; // for symbols that look the same for every heading, or have only this one
 constexpr auto fourWays = {heading::right, heading::left, heading::up, heading::down};
 
 const Entry entries[] = {
@@ -100,7 +100,7 @@ const Entry entries[] = {
 /// One symbol on paper of its own, in pixels.
 struct Drawing {
     QImage image;
-    QRect ink; ///< without what a symbol prints at the paper's left edge
+    QRect ink; ///< without texts that a symbol prints at the paper's left edge
     QPointF entry, exit;
 };
 
@@ -148,7 +148,7 @@ QString title(const Cell& cell)
     return QString(cell.entry.name) + (cell.entry.headings.size() > 1 ? ways[cell.heading] : "");
 }
 
-/// The symbol in the middle, where the pen comes in and where it leaves, and its name below.
+/// Paints the symbol in the middle, marks where the pen starts and where it stops, and writes its name below.
 void paintCell(QPainter& painter, const QRect& place, const Cell& cell)
 {
     constexpr int titleHeight = 18;
@@ -170,7 +170,7 @@ void paintCell(QPainter& painter, const QRect& place, const Cell& cell)
     painter.drawRect(place);
 }
 
-/// Paints all cells; how high that is.
+/// Paints all cells and returns their height.
 int paintCells(QPainter& painter)
 {
     constexpr int aroundSymbol = 44; // pixels, its title among them
@@ -204,7 +204,7 @@ void paintPicture(QPainter& painter, const QRect& place, void (*draw)(Surface&))
     painter.drawRect(place);
 }
 
-/// Paints what toolbox, splash and about window show, each in its size there; how high that is.
+/// Paints the pictures of the toolbox, the splash and the about window in their sizes, and returns their height.
 int paintPictures(QPainter& painter, int top)
 {
     constexpr QSize sketch{72, 42};
