@@ -1,10 +1,18 @@
 #include "platform/qt/printing.h"
 
+#include "canvas/controls.h"
+#include "platform/qt/canvas_widget.h"
 #include "platform/runtime_error.h"
+#include "tests/gui/desk.h"
 #include "tests/gui/pixels.h"
-#include "tests/gui/print_server.h"
+#include "tests/gui/shown.h"
 #include "tests/support/sample_files.h"
+#include "ui_Form1.h"
+#include "ui_Form4.h"
 
+#include <QDir>
+#include <QTemporaryDir>
+#include <cups/cups.h>
 #include <gmock/gmock.h>
 
 namespace schemlet {
@@ -14,6 +22,88 @@ namespace {
 using testing::ThrowsMessage;
 
 constexpr int dotsPerPoint = 2;
+constexpr auto queue = "Desk_Printer";
+
+/// A print service of our own with one queue, the default one, on A4 with margins of 18, 24, 24 and 36 points at the
+/// left, top, right and bottom. It has no network port and keeps to one folder. CUPS_SERVER shows this process the way
+/// to it; afterwards it leads nowhere, so that no test ever reaches a real printer.
+class PrintServer {
+public:
+    PrintServer();
+
+    /// Does something to the queue: cupsreject, cupsaccept, cupsdisable, cupsenable or lpadmin. A queue that rejects
+    /// jobs turns them away; a disabled one keeps them until it runs again, but has room for two only.
+    void run(const QString& command, QStringList words = {})
+    {
+        // These are an administrator's, in a folder that others do not search.
+        EXPECT_EQ(QProcess::execute("/usr/sbin/" + command, words << queue), 0) << command.toStdString();
+    }
+    /// From then on nobody answers.
+    void end() { schemlet::end(m_server); }
+
+    /// How many jobs wait to be printed.
+    [[nodiscard]] int waitingJobs() const;
+    /// The last two printed files, older first, once no job is waiting any more.
+    [[nodiscard]] QStringList printedFiles() const;
+
+private:
+    QTemporaryDir m_folder;
+    Process m_server;
+};
+
+PrintServer::PrintServer()
+{
+    const QDir folder(m_folder.path());
+    folder.mkdir("ppd");
+    for (const char* const name : {"cups-files.conf", "cupsd.conf", "printers.conf", "ppd/Desk_Printer.ppd"}) {
+        QByteArray text = contents(QString(SCHEMLET_PRINT_SERVER_SETTINGS "/") + name);
+        store(folder.filePath(name), text.replace('@', QFile::encodeName(folder.path())));
+    }
+    // A copy, as a security profile may confine the installed one to the folders of the system.
+    const QString program = folder.filePath("cupsd");
+    QFile::copy("/usr/sbin/cupsd", program);
+    m_server.setStandardErrorFile(folder.filePath("log"));
+    m_server.start(program, {"-f", "-c", folder.filePath("cupsd.conf"), "-s", folder.filePath("cups-files.conf")});
+    const QByteArray socket = QFile::encodeName(folder.filePath("socket"));
+    qputenv("CUPS_SERVER", socket);
+    cupsSetServer(socket.constData()); // where the variable has been read before
+    // Who runs the tests may have a favourite printer, by these ways.
+    qputenv("CUPS_SERVERROOT", QFile::encodeName(folder.path()));
+    qputenv("HOME", QFile::encodeName(folder.path()));
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+    waitUntil("the print server", [] {
+        cups_dest_t* const usual = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        cupsFreeDests(1, usual);
+        return usual != nullptr;
+    });
+}
+
+int PrintServer::waitingJobs() const
+{
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs(&jobs, queue, 0, CUPS_WHICHJOBS_ACTIVE);
+    cupsFreeJobs(count, jobs);
+    return count;
+}
+
+QStringList PrintServer::printedFiles() const
+{
+    waitUntil("a job's end", [this] { return waitingJobs() == 0; });
+    const QDir jobs(m_folder.filePath("jobs"));
+    QStringList printed;
+    for (const QString& name : jobs.entryList({"d*-001"}, QDir::Files, QDir::Name)) {
+        printed << jobs.filePath(name);
+    }
+    return printed;
+}
+
+/// The picture as it lies in a printed file, before any printer scales it.
+QImage printedPicture(const QString& file)
+{
+    EXPECT_EQ(QProcess::execute("pdfimages", {"-png", file, file}), 0);
+    return QImage(file + "-000.png").convertToFormat(QImage::Format_RGB32);
+}
 
 /// The paper as it lies in the printer's tray.
 QImage page(const QString& file)
@@ -57,6 +147,35 @@ TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
     }
 }
 
+TEST(Printing, LeavesOutWhatGuidesTheHand)
+{
+    PrintServer server;
+    const auto printed = [&server](auto& shown) {
+        shown.window->printForm();
+        return printedPicture(server.printedFiles().last());
+    };
+    Shown<QDialog, Ui::Form4> output;
+    const QImage page = printed(output);
+    EXPECT_LT(differing(page, output.view.grab().toImage()), 1000); // but for what shows where the focus is
+    QWidget* const first = output.view.focusWidget();
+    QTest::keyClick(&output.view, Qt::Key_Tab);
+    EXPECT_NE(output.view.focusWidget(), first);
+    EXPECT_EQ(printed(output), page);
+
+    Shown<QMainWindow, Ui::Form1> main;
+    const auto canvas = [&] { return main.view.centralWidget()->grab(main.form.Canvas->geometry()).toImage(); };
+    main.form.Canvas->surface().line({300, 3000}, {900, 3000});
+    main.window->show({control::Label27});
+    main.window->hide({control::Picture1, control::Shape1});
+    const QImage drawing = printed(main);
+    EXPECT_EQ(differing(drawing, canvas()), 0);
+    main.window->setLeft(control::Shape1, 4500);
+    main.window->show({control::Picture1, control::Shape1});
+    EXPECT_GT(differing(drawing, canvas()), 100);
+    EXPECT_EQ(printed(main), drawing);
+    EXPECT_TRUE(main.form.Picture1->isOn() && main.form.Shape1->isOn());
+}
+
 TEST(Printing, TellsWhatKeepsAJobFromThePrinterAndWaitsForAStoppedOne)
 {
     const auto print = [] { printPicture(colourful(30, 30), "drawing"); };
@@ -80,7 +199,7 @@ TEST(Printing, TellsWhatKeepsAJobFromThePrinterAndWaitsForAStoppedOne)
     const auto none = ThrowsMessage<RuntimeError>(
         "Printer error\n\nNo default printer is set up, or the print service is not running.\n"
         "The printer settings of the system show which.");
-    server.removeQueue();
+    server.run("lpadmin", {"-x"});
     EXPECT_THAT(print, none);
     server.end();
     EXPECT_THAT(print, none);

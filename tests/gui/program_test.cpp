@@ -1,12 +1,10 @@
 #include "tests/gui/pixels.h"
-#include "tests/gui/print_server.h"
 #include "tests/gui/program.h"
 
 #include <QGuiApplication>
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string_view>
-#include <utility>
 
 namespace schemlet {
 
@@ -121,54 +119,6 @@ TEST(Program, SourceIsChosenAndDrawnByMouse)
     waitUntil("the plates, and wire from the far end",
               [&] { return program.inked(113, 110) && program.inked(106, 94) && program.inked(119, 100); });
     EXPECT_FALSE(program.inked(106, 112)); // the short plate comes first
-}
-
-TEST(Program, PrintsOutputWindowAndCanvasWithoutFocusMarkerAndEraserOutlineOrSaysThatThereIsNoPrinter)
-{
-    PrintServer server;
-    Program program;
-    QString lastFile;
-    const auto nextPage = [&] {
-        waitUntil("a printed page", [&] {
-            const QStringList files = server.printedFiles();
-            return !files.isEmpty() && files.last() != std::exchange(lastFile, files.last());
-        });
-        return printedPicture(lastFile);
-    };
-    program.open("ctrl+u", "Output");
-    program.activate();
-    program.keys("Right", 9); // goes to the canvas
-    program.open("ctrl+u", "Output");
-    program.keys("alt+p");
-    const QImage output = nextPage();
-    const QRect window = program.placeOf("dialog", "Output");
-    waitUntil("what was printed", // but for what shows where the focus is
-              [&] { return output.size() == window.size() && differing(output, program.screen(window)) < 1000; });
-    program.keys("Tab alt+p");
-    EXPECT_TRUE(nextPage() == output);
-    program.answer("Output", "Escape");
-
-    program.keys("e");
-    program.moveMouse(300, 300);
-    for (const QRect& guide : {QRect(280, 280, 60, 60), QRect(134, 80, 12, 16)}) { // the outline and the marker
-        waitUntil("what guides the hand", [&] { return inkedPixels(program.canvas().copy(guide)) > 0; });
-    }
-    program.open("ctrl+p", "Schemlet 2.0");
-    program.keys("y");
-    const QImage page = nextPage();
-    EXPECT_EQ(page.size(), program.canvas().size());
-    for (const QRect& same : {QRect(0, 99, 400, 3), QRect(300, 0, 400, 40)}) {
-        waitUntil("the printed wire and label",
-                  [&] { return program.canvas().convertToFormat(page.format()).copy(same) == page.copy(same); });
-    }
-    EXPECT_EQ(inkedPart(page.copy(0, 80, 400, 300)), inkedPart(page.copy(0, 99, 400, 3)).translated(0, 19));
-
-    server.removeQueue();
-    program.open("ctrl+u", "Output");
-    program.keys("alt+p");
-    program.waitForText("Printer error*");
-    program.keys("Return");
-    program.answer("Output", "Escape");
 }
 
 TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
