@@ -97,28 +97,13 @@ private:
         };
         const auto& pixels = surface.pixels();
         add(std::string_view(reinterpret_cast<const char*>(pixels.data()), pixels.size() * sizeof(pixels.front())));
-        for (const double number : {form.x,
-                                    form.y,
-                                    form.markerLeft,
-                                    form.markerTop,
-                                    form.resist,
-                                    form.induc,
-                                    form.capac,
-                                    form.supplyValue,
-                                    form.supplyVoltage,
-                                    form.supplyCurrent,
-                                    form.batteryPositive,
-                                    form.batteryNegative,
-                                    form.resonanceDenominator,
-                                    form.resonanceFrequency,
-                                    form.qualityFactor,
-                                    form.frequencyCopy,
-                                    form.angularFrequency,
-                                    form.frequencyCapac,
-                                    form.capacitiveReactance,
-                                    double(surface.current().x),
-                                    double(surface.current().y)}) {
-            add(number);
+        for (const auto& [name, number] : sumsAndResults) {
+            add(form.*number);
+        }
+        const Point nextText = surface.current();
+        for (const double place :
+             {form.x, form.y, form.markerLeft, form.markerTop, double(nextText.x), double(nextText.y)}) {
+            add(place);
         }
         for (const auto number : {Color(form.heading), Color(form.penMoved), Color(form.diodeCount),
                                   form.canvasBackColor, form.paperColor, form.toolboxColor, surface.foreColor()}) {
@@ -265,12 +250,8 @@ private:
         const int height = help.height();
         demand(height == 0 || (height >= form2::collapsedHeight && height <= form2::openHeight),
                "the help window has a wrong height");
-        for (const double number :
-             {form.resist, form.induc, form.capac, form.supplyValue, form.supplyVoltage, form.supplyCurrent,
-              form.batteryPositive, form.batteryNegative, form.resonanceDenominator, form.resonanceFrequency,
-              form.qualityFactor, form.frequencyCopy, form.angularFrequency, form.frequencyCapac,
-              form.capacitiveReactance}) {
-            demand(std::isfinite(number), "a sum or a result is no number");
+        for (const auto& [name, number] : sumsAndResults) {
+            demand(std::isfinite(form.*number), "a sum or a result is no number");
         }
     }
 

@@ -39,6 +39,24 @@ TEST_F(PanelAndToolbox, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
     EXPECT_EQ(noted(), "hover Frame20\nhover Frame20\n");
 }
 
+TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOthers)
+{
+    window->show({Frame2, Label27, panel, bat});
+    QCoreApplication::processEvents();
+    const auto noteOfClick = [&](const QWidget& control) {
+        events.clear();
+        QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, control.mapTo(&view, control.rect().center()));
+        return noted();
+    };
+    EXPECT_EQ(noteOfClick(*form.Label27), "mouseMove 0\nmouseDown 1\nmouseUp 1\n");
+    EXPECT_EQ(noteOfClick(*form.Label1), "hover Label10\nclick Label10\n");
+    EXPECT_EQ(noteOfClick(*form.Image1), "hover Image10\nclick Image10\n");
+    EXPECT_EQ(noteOfClick(*form.Option4), "hover 0\nclick Option40\n");
+    EXPECT_EQ(window->value(Option4), 1);
+    window->setValue(Option4, 0);
+    EXPECT_EQ(window->value(Option4), 0);
+}
+
 TEST_F(PanelAndToolbox, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
 {
     window->show({panel, sup, bat, Text11});

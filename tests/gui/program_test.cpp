@@ -43,30 +43,16 @@ TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
 {
     Program program;
     program.keys("j");
-    for (const std::string_view reply : {"Return", "n", "its frame"}) {
-        SCOPED_TRACE(reply);
-        program.keys("Right", 6);
-        program.keys("Down", 6);
-        program.keys("Left", 3);
-        program.keys("Up", 9);
-        program.waitForWindow("POINT (or) LINE AHEAD...");
-        program.keys("Up", 3); // the walk's last ones, which would move the focus from Yes to No
-        if (reply == "its frame") {
-            program.closeActiveWindow();
-        } else {
-            program.keys(reply.data());
-        }
-        program.waitForMainWindow();
-        const bool yes = reply == "Return";
-        program.keys(yes ? "Up" : "Left");
-        waitUntil("the hop's bulge or wire through the gap, and the next step", [&] {
-            return program.inked(122, 95) == yes && program.inked(116, 104) != yes &&
-                   (yes ? program.inked(116, 87) : program.inked(113, 103));
-        });
-        program.keys("ctrl+n");
-        program.answer("Schemlet 2.0", "n");
-        waitUntil("clean paper", [&] { return !program.inked(116, 100); });
-    }
+    program.keys("Right", 6);
+    program.keys("Down", 6);
+    program.keys("Left", 3);
+    program.keys("Up", 9);
+    program.waitForWindow("POINT (or) LINE AHEAD...");
+    program.keys("Up", 3); // the walk's last ones, which would move the focus from Yes to No
+    program.answer("POINT (or) LINE AHEAD...", "Return");
+    program.keys("Up");
+    waitUntil("the hop's bulge, and the next step",
+              [&] { return program.inked(122, 95) && !program.inked(116, 104) && program.inked(116, 87); });
 }
 
 TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
@@ -101,35 +87,10 @@ TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
     });
 }
 
-TEST(Program, SourceIsChosenAndDrawnByMouse)
-{
-    Program program;
-    program.keys("b");
-    program.clickOn("radio button", "Positive");
-    program.keys("9");
-    program.clickOn("push button", "Cancel");
-    waitUntil("no panel", [&] { return !program.shows("panel", "Supply and battery"); });
-    program.keys("b");
-    (void)program.placeOf("panel", "Supply and battery");
-    EXPECT_FALSE(program.find("radio button", "Positive")->is(Accessible::checked));
-    program.clickOn("radio button", "Negative");
-    program.keys("9");
-    program.clickOn("push button", "OK");
-    program.keys("Right Right");
-    waitUntil("the plates, and wire from the far end",
-              [&] { return program.inked(113, 110) && program.inked(106, 94) && program.inked(119, 100); });
-    EXPECT_FALSE(program.inked(106, 112)); // the short plate comes first
-}
-
 TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
 {
     Program program;
-    program.keys("ctrl+t ctrl+r");
-    program.drag(300, 320, 400, 360);
-    waitUntil("an empty box", [&] {
-        return program.inked(399, 340) && program.inked(350, 359) && program.inked(300, 340) &&
-               !program.inked(350, 340);
-    });
+    program.keys("ctrl+t"); // without the toolbox
     program.click(3, 500, 550);
     program.clickMenus({"Pencil"});
     program.waitForText("Pencil"); // the menu no longer holds the mouse
@@ -159,29 +120,6 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     program.drag(1000, 400, 1050, 600);
     program.keys("Right Right"); // the pen went along to the last press of the left button
     waitUntil("a line and wire", [&] { return program.inked(1025, 500) && program.inked(1004, 399); });
-}
-
-TEST(Program, EraserWipesOnlyInEraseModeAndTheMouseGoesThroughItsLabel)
-{
-    Program program;
-    const int middle = program.canvas().width() / 2;
-    program.keys("ctrl+r");
-    program.drag(middle + 60, 20, middle - 60, 200);
-    waitUntil("a box", [&] { return program.inked(middle, 199) && program.inked(middle, 20); });
-    program.keys("e Right Right Right");
-    program.waitForText("You are in Erase Mode.*");
-    waitUntil("the label over the box", [&] { return program.pixel(middle, 20) != QColor(Qt::black); });
-    program.moveMouse(middle - 60, 130);
-    waitUntil("the outline", [&] { return program.inked(middle - 59, 120); });
-    program.drag(middle - 20, 20, middle + 20, 20);
-    program.drag(middle - 70, 130, middle - 40, 130);
-    program.keys("e");
-    program.moveMouse(middle, 400);
-    waitUntil("clean paper where the eraser was, and no label", [&] {
-        return !program.inked(middle, 20) && !program.inked(middle - 60, 130) && program.inked(middle - 50, 20) &&
-               program.inked(middle + 59, 130) && !program.shows("label", "You are in Erase Mode.*");
-    });
-    EXPECT_FALSE(program.inked(middle + 68, 20)); // arrow keys laid no wire
 }
 
 } // namespace schemlet

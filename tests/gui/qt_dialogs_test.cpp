@@ -100,6 +100,22 @@ TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsT
               folder.filePath("new.JPEG").toStdString());
 }
 
+TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
+{
+    QWidget window;
+    QtDialogs dialogs(window, window);
+    QTimer::singleShot(0, &window, [] {
+        const QWidget& dialog = *QApplication::activeModalWidget();
+        auto* const name = dialog.findChild<QLineEdit*>("qt_colorname_lineedit");
+        name->selectAll();
+        QTest::keyClicks(name, "#ab3412");
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.pickColor("", black), 0x1234ABU); // red AB, blue 12
+    QTimer::singleShot(0, &window, [] { QApplication::activeModalWidget()->close(); });
+    EXPECT_EQ(dialogs.messageBox("?", Box::walkQuestion, ""), answer::no);
+}
+
 TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
 {
     QWidget window;

@@ -192,6 +192,8 @@ TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEvery
     window->addToolButton("Fore", "", Look::plain);
     auto& bar = *view.findChild<QToolBar*>();
     auto& button = *bar.widgetForAction(bar.actions().front());
+    QTest::mouseMove(&button);
+    EXPECT_NE(noted().find("hover Line"), std::string::npos);
     for (const bool pressed : {false, true}) {
         window->setChecked("Line", pressed);
         QTest::mouseClick(&button, Qt::LeftButton);

@@ -15,36 +15,14 @@ constexpr std::pair<const char*, int State::*> switches[] = {
     {"eraseMode", &State::eraseMode},   {"lineTool", &State::lineTool},     {"rectTool", &State::rectTool},
     {"pencilTool", &State::pencilTool}, {"autoJumper", &State::autoJumper}, {"toolboxFollow", &State::toolboxFollow},
     {"diodeCount", &State::diodeCount}, {"blinkCount", &State::blinkCount}};
-constexpr std::pair<const char*, Color State::*> colors[] = {
-    {"wireColor", &State::wireColor},
-    {"pickedColor", &State::pickedColor},
-    {"probeColor", &State::probeColor},
-    {"paperColor", &State::paperColor},
-    {"canvasBackColor", &State::canvasBackColor},
-};
+constexpr std::pair<const char*, Color State::*> colors[] = {{"wireColor", &State::wireColor},
+                                                             {"pickedColor", &State::pickedColor},
+                                                             {"probeColor", &State::probeColor},
+                                                             {"paperColor", &State::paperColor},
+                                                             {"canvasBackColor", &State::canvasBackColor}};
 constexpr std::pair<const char*, std::string State::*> texts[] = {
     {"fileTitle", &State::fileTitle},     {"saveFault", &State::saveFault},     {"notice", &State::notice},
     {"resistValue", &State::resistValue}, {"inductValue", &State::inductValue}, {"capacValue", &State::capacValue}};
-constexpr std::pair<const char*, double State::*> sums[] = {
-    {"resist", &State::resist},
-    {"induc", &State::induc},
-    {"capac", &State::capac},
-    {"supplyVoltage", &State::supplyVoltage},
-    {"supplyCurrent", &State::supplyCurrent},
-    {"batteryPositive", &State::batteryPositive},
-    {"batteryNegative", &State::batteryNegative},
-    {"supplyValue", &State::supplyValue},
-};
-constexpr std::pair<const char*, double State::*> results[] = {
-    {"resonanceDenominator", &State::resonanceDenominator},
-    {"resonanceFrequency", &State::resonanceFrequency},
-    {"qualityFactor", &State::qualityFactor},
-    {"frequencyCopy", &State::frequencyCopy},
-    {"angularFrequency", &State::angularFrequency},
-    {"frequencyCapac", &State::frequencyCapac},
-    {"capacitiveReactance", &State::capacitiveReactance},
-};
-
 template <typename Fields> std::string changed(const Fields& fields, const State& before, const State& now)
 {
     std::string text;
@@ -58,7 +36,7 @@ template <typename Fields> std::string changed(const Fields& fields, const State
 std::string differences(const State& before, const State& now)
 {
     std::string text = changed(switches, before, now) + changed(colors, before, now) + changed(texts, before, now) +
-                       changed(sums, before, now) + changed(results, before, now);
+                       changed(sumsAndResults, before, now);
     for (std::size_t i = 0; i < confirmCount; ++i) {
         const std::string name(confirmItems[i].text());
         text += before.confirm[i] == now.confirm[i] ? "" : "confirm " + name + " = " + written(now.confirm[i]) + "\n";
@@ -72,7 +50,7 @@ std::string totals(const State& state)
                                "current",    "positive battery", "negative battery"};
     std::string text;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const double sum = state.*sums[i].second;
+        const double sum = state.*sumsAndResults[i].second;
         text += sum == 0 ? "" : std::string(", ") + names[i] + " " + written(sum);
     }
     return text + (state.diodeCount == 0 ? "" : ", diodes " + std::to_string(state.diodeCount));

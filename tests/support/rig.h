@@ -8,6 +8,24 @@
 
 namespace schemlet {
 
+/// What the Output window adds up, the values typed last, and what follows from them.
+inline constexpr std::pair<const char*, double Drawing::*> sumsAndResults[] = {
+    {"resist", &Drawing::resist},
+    {"induc", &Drawing::induc},
+    {"capac", &Drawing::capac},
+    {"supplyVoltage", &Drawing::supplyVoltage},
+    {"supplyCurrent", &Drawing::supplyCurrent},
+    {"batteryPositive", &Drawing::batteryPositive},
+    {"batteryNegative", &Drawing::batteryNegative},
+    {"supplyValue", &Drawing::supplyValue},
+    {"resonanceDenominator", &Drawing::resonanceDenominator},
+    {"resonanceFrequency", &Drawing::resonanceFrequency},
+    {"qualityFactor", &Drawing::qualityFactor},
+    {"frequencyCopy", &Drawing::frequencyCopy},
+    {"angularFrequency", &Drawing::angularFrequency},
+    {"frequencyCapac", &Drawing::frequencyCapac},
+    {"capacitiveReactance", &Drawing::capacitiveReactance}};
+
 /// The program without a toolkit, and what a user and the clock do to it.
 struct Rig {
     enum class Start { atSplash, behindIt };
