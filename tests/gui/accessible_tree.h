@@ -21,7 +21,6 @@ struct Accessible {
     [[nodiscard]] QString role() const { return ask(itself, "GetRoleName").toString(); }
     [[nodiscard]] QString name() const { return property(itself, "Name").toString().simplified(); }
     [[nodiscard]] QString description() const { return property(itself, "Description").toString(); }
-    [[nodiscard]] double value() const { return property("org.a11y.atspi.Value", "CurrentValue").toDouble(); }
     [[nodiscard]] bool is(State state) const;
     [[nodiscard]] QRect placeOnScreen() const;
     [[nodiscard]] std::vector<Accessible> children() const;

@@ -5,7 +5,6 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <algorithm>
-#include <csignal>
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -47,7 +46,7 @@ Program::Program(Stage until)
         return title == mainTitle;
     });
     waitForHelp();
-    waitUntil("the help window's frame", [] { return QProcess::execute("wmctrl", {"-F", "-c", "Help"}) == 0; });
+    waitUntil("the help window's frame", [] { return close("Help"); });
     waitUntil("the help window's end", [this] { return !isOpen("Help"); });
     xdotool("windowmove " + m_window + " 40 40");
     waitUntil("the main window in its place", [this] {
@@ -116,14 +115,11 @@ void Program::activate()
     waitForMainWindow();
 }
 
-QImage Program::screen(const QRect& part) const
+QImage Program::canvas() const
 {
-    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height()).toImage();
-}
-
-QColor Program::pixel(int x, int y) const
-{
-    return screen({m_canvas.topLeft() + QPoint(x, y), QSize(1, 1)}).pixelColor(0, 0);
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, m_canvas.x(), m_canvas.y(), m_canvas.width(), m_canvas.height())
+        .toImage();
 }
 
 std::optional<Accessible> Program::find(const char* role, const QString& name) const
@@ -191,21 +187,6 @@ bool Program::isOpen(const QString& title) const
     return std::ranges::any_of(m_bus.windows(), [&](const Accessible& window) {
         return window.is(Accessible::showing) && window.name() == title;
     });
-}
-
-void Program::closeActiveWindow()
-{
-    EXPECT_EQ(QProcess::execute("wmctrl", {"-c", ":ACTIVE:"}), 0);
-}
-
-QStringList Program::filesAtHome() const
-{
-    return home().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
-void Program::signal(int number)
-{
-    EXPECT_EQ(kill(static_cast<pid_t>(m_process.processId()), number), 0);
 }
 
 int Program::exitStatus()

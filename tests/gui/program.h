@@ -37,12 +37,10 @@ public:
     /// Brings the main window to the front.
     void activate();
 
-    [[nodiscard]] QImage screen(const QRect& part) const;
-    [[nodiscard]] QImage canvas() const { return screen(m_canvas); }
+    [[nodiscard]] QImage canvas() const;
     /// A place on the screen, on the canvas.
     [[nodiscard]] QRect onCanvas(QRect place) const { return place.translated(-m_canvas.topLeft()); }
-    [[nodiscard]] QColor pixel(int x, int y) const;
-    [[nodiscard]] bool inked(int x, int y) const { return pixel(x, y) != Qt::white; }
+    [[nodiscard]] bool inked(int x, int y) const { return canvas().pixelColor(x, y) != Qt::white; }
 
     /// What is to be seen in the window that has the keyboard, by its role and its name or, of a label, its text, in
     /// which * stands for anything.
@@ -61,16 +59,18 @@ public:
     /// Waits for that window, and for the main one after this key.
     void answer(const QString& title, const char* key);
     [[nodiscard]] bool isOpen(const QString& title) const;
-    /// Closes the window that has the keyboard, as its frame does.
-    void closeActiveWindow();
+    /// Closes a window by its frame; says whether there is one with this in its title.
+    static bool close(const QString& title) { return QProcess::execute("wmctrl", {"-c", title}) == 0; }
 
     /// From the splash on: waits for the main window, and for the help window that opens after it.
     void waitForHelp();
 
     [[nodiscard]] QDir home() const { return QDir(m_home.path()); }
-    /// What it has left there.
-    [[nodiscard]] QStringList filesAtHome() const;
-    void signal(int number);
+    [[nodiscard]] QStringList filesAtHome() const
+    {
+        return home().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+    [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     /// Waits for the program's end.
     int exitStatus();
 
