@@ -26,6 +26,8 @@ constexpr Scenario scenarios[] = {
     {"Only the menu item flips the mark of automatic jumpers", "j; click jj; J; click jj"},
     {"Any other key only marks the drawing changed",
      "key 36; click save < /a.JPEG; char 8364; click save < /a.JPEG; x; key 41; key 65; char 27"},
+    {"Events that come while a box is open wait for its answer, except timer ticks",
+     "r < meanwhile down < meanwhile release left 30 450 < meanwhile tick statusTimer < meanwhile tick Timer2 < 5"},
     // Mouse
     {"Any button that comes up marks the drawing changed",
      "press left 900 900; release left 900 900; click save < /a.JPEG; press right 900 900; release right 900 900; "

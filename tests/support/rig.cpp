@@ -79,6 +79,7 @@ Rig::Rig(Start start)
     for (const std::string_view label : output.names()) {
         output.at(label).visible = false; // they appear with the window
     }
+    dialogs.meanwhile = [this](std::string_view event) { happen(event); };
     form6::load(splash);
     if (start == Start::behindIt) {
         run("close Form6; hover"); // after any event the status bar is due

@@ -56,6 +56,7 @@ struct Rig {
     ///     hover Canvas 10 20       the mouse comes back without a move
     ///     tick Timer2 5            five times
     ///     click new < yes < /a/b   two questions are answered
+    ///     r < meanwhile down < 5   before the answer, an arrow key is pressed
     ///     choose Option3           is on before its click is reported, as the toolkit does it
     ///     text 12V                 typed into the panel
     ///     source V 12              a whole source: A or V for a supply, + or - for a battery, and its value

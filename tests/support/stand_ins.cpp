@@ -125,6 +125,10 @@ std::optional<Color> RecordingSurface::point(Point probed) const
 std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)
 {
     m_notes.add(question);
+    constexpr std::string_view early = "meanwhile ";
+    for (; !replies.empty() && replies.front().starts_with(early); replies.pop_front()) {
+        meanwhile(std::string_view(replies.front()).substr(early.size()));
+    }
     std::string text = "cancel";
     if (replyTo) {
         text = replyTo(asked);

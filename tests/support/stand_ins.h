@@ -116,8 +116,9 @@ class ScriptedDialogs final : public Dialogs {
 public:
     explicit ScriptedDialogs(Notes& notes) : m_notes(notes) {}
 
-    std::deque<std::string> replies;           ///< to the next questions; a box that has only OK takes none
-    std::function<std::string(Asked)> replyTo; ///< if set, it replies to all; "cancel" is Cancel, or else No
+    std::deque<std::string> replies;                 ///< to the next questions; a box that has only OK takes none
+    std::function<void(std::string_view)> meanwhile; ///< what a reply that starts with this word brings about
+    std::function<std::string(Asked)> replyTo;       ///< if set, it replies to all; "cancel" is Cancel, or else No
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
