@@ -1,7 +1,12 @@
+#include "platform/ink/finer_ink.h"
+#include "platform/qt/canvas_widget.h"
 #include "platform/qt/qt_surface.h"
-
+#include "shell/product_picture.h"
 #include "tests/gui/pixels.h"
+#include "tests/support/sample_files.h"
 
+#include <QBackingStore>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace schemlet {
@@ -19,6 +24,51 @@ struct QtSurfaceTest : testing::Test {
         surface.changed = [this](const QRect& part) { changed |= part; };
     }
 };
+
+/// A bit of everything that leaves ink or wipes it, at places between the pixels and over the edges too.
+void drawEverything(Surface& surface)
+{
+    drawProductPicture(surface);
+    surface.setForeColor(0x2040C0);
+    surface.box({1003, 403}, {1711, 1296});
+    surface.box({-100, -100}, {4490, 2990});
+    surface.arc({3000, 1500}, 307, 3.5F, 0);
+    surface.setCurrent({2111, 333});
+    surface.print("WiLlIaM 12.5 mOhm", true);
+    for (int i = 0; i < 100; ++i) {
+        const auto at = static_cast<float>(37 * i);
+        surface.line({at, 2400 + at / 3}, {at + 37, 2400 + (at + 37) / 3});
+    }
+    for (int i = 0; i < 15; ++i) { // in the end in white, each at another place of the same pixels
+        const auto at = static_cast<float>(2200 + i);
+        surface.setForeColor(i < 7 ? black : white);
+        surface.circle({at + 1500, at}, 300);
+        surface.box({at, at}, {at + 900, at + 450});
+        surface.setCurrent({at + 900, at});
+        surface.print("WiLlIaM 12.5", true);
+    }
+}
+
+/// 300 x 200 pixels, as a screen of some ratio shows them.
+struct SharpCanvas : testing::TestWithParam<double> {
+    CanvasSurface canvas;
+    SharpCanvas() { canvas.growTo({300, 200}); }
+};
+
+/// The screen image after the core's ink brought all of it into line with the picture once more. To enlarge is to show
+/// the picture's own pixels; to reconcile changes nothing if each stroke was reconciled.
+QImage after(decltype(ink::enlarge)& bring, const CanvasSurface& surface)
+{
+    const auto pixels = [](QImage& image, double scale) {
+        auto* const first = reinterpret_cast<std::uint32_t*>(image.bits());
+        return ink::Image{first, image.width(), image.height(), image.width(), scale};
+    };
+    QImage picture = surface.picture();
+    QImage screen = surface.screenImage();
+    const QSize seen = picture.size().boundedTo(screen.size() / surface.ratio() + QSize(1, 1));
+    bring(pixels(picture, 1), pixels(screen, surface.ratio()), {0, 0, seen.width(), seen.height()});
+    return screen;
+}
 
 } // namespace
 
@@ -74,6 +124,84 @@ TEST_F(QtSurfaceTest, KeepsAPictureWiderOrTallerThanQtPaints)
         surface.setPicture(picture);
         EXPECT_EQ(surface.image().copy(picture.rect()), picture);
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ratio, SharpCanvas, testing::Values(1.25, 1.5, 1.75, 2, 3));
+
+TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
+{
+    CanvasSurface plain;
+    plain.growTo({300, 200});
+    drawEverything(plain);
+    EXPECT_EQ(&plain.screenImage(), &plain.picture()); // one image and no more
+    EXPECT_GT(inkedPixels(plain.picture()), 2000);
+
+    canvas.setRatio(GetParam());
+    drawEverything(canvas);
+    EXPECT_EQ(canvas.picture(), plain.picture());
+    EXPECT_EQ(canvas.current().x, plain.current().x);
+    EXPECT_EQ(canvas.screenImage().size(), QSize(qCeil(301 * GetParam()), qCeil(201 * GetParam())));
+    EXPECT_EQ(canvas.screenImage(), after(ink::reconcile, canvas));
+    QtSurface fine(GetParam());
+    fine.growTo({301, 201});
+    drawEverything(fine);
+    const int fromBlocks = differing(canvas.screenImage(), after(ink::enlarge, canvas));
+    EXPECT_GT(fromBlocks, 1000);
+    EXPECT_LT(differing(canvas.screenImage(), fine.image()), fromBlocks);
+}
+
+TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
+{
+    const QImage picture = colourful(500, 70);
+    for (const double ratio : {2.25, GetParam(), 1.0}) {
+        SCOPED_TRACE(ratio);
+        canvas.setBackColor(white);
+        drawEverything(canvas);
+        const QImage before = canvas.picture();
+        EXPECT_TRUE(canvas.setRatio(ratio));
+        EXPECT_FALSE(canvas.setRatio(ratio));
+        EXPECT_EQ(canvas.picture(), before);
+        EXPECT_EQ(canvas.screenImage(), after(ink::enlarge, canvas));
+        QRegion changed;
+        canvas.changed = [&](const QRect& part) { changed += part; };
+        canvas.setPicture(picture);
+        EXPECT_TRUE(changed.contains(QRect(0, 0, 300, 200)));
+        EXPECT_EQ(canvas.screenImage(), after(ink::enlarge, canvas));
+        drawEverything(canvas);
+        canvas.growTo(canvas.picture().size() + QSize(60, 20));
+        EXPECT_EQ(canvas.screenImage(), after(ink::reconcile, canvas)); // the picture's hidden part too
+        canvas.clear();
+        EXPECT_EQ(inkedPixels(canvas.screenImage()), 0);
+        canvas.line({4000, 2000}, {8800, 3500});
+        EXPECT_EQ(canvas.screenImage(), after(ink::reconcile, canvas));
+        canvas.setBackColor(0x80FFFF);
+        EXPECT_EQ(canvas.screenImage(), after(ink::enlarge, canvas));
+        EXPECT_EQ(canvas.screenImage().pixel(5, 5), qRgb(0xFF, 0xFF, 0x80));
+        canvas.changed = nullptr;
+    }
+}
+
+TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
+{
+    QWidget window;
+    CanvasWidget canvas(&window);
+    canvas.setGeometry(7, 11, 301, 203); // between the screen's pixels where the ratio is odd
+    window.resize(320, 230);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    canvas.report = [](const Event&) {};
+    for (int i = 0; i < 100; ++i) { // many little repaints
+        const auto step = static_cast<float>(i);
+        canvas.surface().setForeColor(static_cast<Color>(i * 4000));
+        canvas.surface().circle({300 + 37 * step, 300 + 17 * step}, 20 + 7 * step);
+        QCoreApplication::processEvents();
+    }
+    const double ratio = canvas.surface().ratio();
+    EXPECT_EQ(ratio, canvas.devicePixelRatioF());
+    const auto& shown = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
+    const QPoint corner(qRound(7 * ratio), qRound(11 * ratio));
+    const QSize size(qFloor(301 * ratio) - 1, qFloor(203 * ratio) - 1);
+    EXPECT_EQ(differing(shown.copy(QRect(corner, size)), canvas.surface().screenImage()), 0);
 }
 
 } // namespace schemlet

@@ -46,12 +46,9 @@ std::string differences(const State& before, const State& now)
 
 std::string totals(const State& state)
 {
-    constexpr std::array names{"resistance", "inductance",       "1/capacitance",   "voltage",
-                               "current",    "positive battery", "negative battery"};
     std::string text;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const double sum = state.*sumsAndResults[i].second;
-        text += sum == 0 ? "" : std::string(", ") + names[i] + " " + written(sum);
+    for (const auto& [name, number] : sumsAndResults) {
+        text += state.*number == 0 ? "" : std::string(", ") + name + " " + written(state.*number);
     }
     return text + (state.diodeCount == 0 ? "" : ", diodes " + std::to_string(state.diodeCount));
 }
