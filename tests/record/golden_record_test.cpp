@@ -17,6 +17,7 @@ TEST(GoldenRecord, EverythingHappensAsRecorded)
     recordScenarios(record);
     recordDrawing(record);
     recordInk(record);
+    recordChanges(record);
     std::string now;
     for (const auto& [title, body] : record) {
         now += "## " + title + "\n" + body;

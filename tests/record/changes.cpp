@@ -1,0 +1,169 @@
+#include "platform/ink/changes.h"
+#include "tests/record/record.h"
+#include "tests/support/paper.h"
+
+#include <algorithm>
+
+namespace schemlet {
+
+namespace {
+
+enum class Sheet { same, larger, afresh };
+
+/// Two lines, after the image got its size and its paper.
+struct Step {
+    const char* title = "";
+    ink::Sheet sheet{};
+    ink::Place from{}, via{}, to{};
+    std::uint32_t pixel = 1;
+    Sheet made = Sheet::same;
+};
+
+constexpr ink::Sheet window{56, 44};
+constexpr Step steps[] = {
+    {"a line", {40, 36}, {4, 4}, {6, 10}, {20, 12}},
+    {"the same again", {40, 36}, {4, 4}, {6, 10}, {20, 12}},
+    {"the same in another color", {40, 36}, {4, 4}, {6, 10}, {20, 12}, 2},
+    {"to all edges", {40, 36}, {-20, 20}, {60, 20}, {-20, 28}, 3},
+    {"to the corner and beside the first line", {40, 36}, {38, 34}, {32, 16}, {4, 2}},
+    {"in more room", window, {20, 42}, {54, 40}, {54, 4}, 4, Sheet::larger},
+    {"on other paper", {56, 44, 5}, {20, 16}, {20, 2}, {30, 2}, 1, Sheet::afresh},
+    {"from the last square to the first", {56, 44, 5}, {50, 42}, {20, 2}, {2, 2}},
+    {"on a smaller sheet", {33, 20, 5}, {30, 18}, {30, 18}, {4, 4}, 2, Sheet::afresh},
+    {"on a larger sheet", {64, 48, 5}, {60, 46}, {60, 46}, {60, 20}, 2, Sheet::afresh},
+};
+
+/// An image that is a part of a larger one.
+struct Drawing {
+    static constexpr std::uint32_t outside = 9;
+    Paper room{70, 50};
+    ink::Sheet sheet;
+    ink::Changes changes{0};
+
+    [[nodiscard]] ink::Image image() { return {room.pixels.data(), sheet.width, sheet.height, room.width}; }
+
+    void fit(const ink::Sheet& fitting, bool afresh)
+    {
+        for (int y = 0; y < room.height; ++y) {
+            for (int x = 0; x < room.width; ++x) {
+                const bool isNew = afresh || x >= sheet.width || y >= sheet.height;
+                const bool isOutside = x >= fitting.width || y >= fitting.height;
+                std::uint32_t& pixel = room.pixels[room.index(x, y)];
+                pixel = isOutside ? outside : isNew ? fitting.paper : pixel;
+            }
+        }
+        sheet = fitting;
+    }
+
+    void grow(const ink::Sheet& larger)
+    {
+        fit(larger, false);
+        changes.grow(larger.width, larger.height);
+    }
+
+    ink::Patch draw(const Step& step)
+    {
+        if (step.made == Sheet::afresh) {
+            fit(step.sheet, true);
+        }
+        changes.mark(ink::line(image(), {step.pixel, 2}, step.from, step.via));
+        changes.mark(ink::line(image(), {step.pixel, 2}, step.via, step.to));
+        return changes.take(image(), sheet.paper);
+    }
+
+    /// As the program does it, whose window is never smaller again.
+    void exchange(ink::Patch& patch)
+    {
+        ink::Patch reverse = ink::reverse(image(), sheet.paper, patch);
+        const auto& before = patch.before;
+        fit({std::max(before.width, window.width), std::max(before.height, window.height), before.paper}, false);
+        changes.put(image(), sheet.paper, patch);
+        patch = std::move(reverse);
+    }
+
+    /// What nobody marked.
+    [[nodiscard]] ink::Patch overlooked()
+    {
+        changes.mark({0, 0, sheet.width, sheet.height});
+        return changes.take(image(), sheet.paper);
+    }
+
+    /// Beyond its edges too.
+    [[nodiscard]] std::vector<std::uint32_t> pixels() const
+    {
+        auto all = room.pixels;
+        std::ranges::replace(all, outside, sheet.paper);
+        return all;
+    }
+};
+
+std::string written(const ink::Sheet& sheet)
+{
+    return std::to_string(sheet.width) + "x" + std::to_string(sheet.height) + " on " + std::to_string(sheet.paper);
+}
+
+std::string written(const ink::Patch& patch)
+{
+    if (patch.empty()) {
+        return "nothing\n";
+    }
+    const ink::Area area = ink::cover(patch);
+    std::string text = "from " + written(patch.before) + " to " + written(patch.after) + " within " +
+                       std::to_string(area.left) + " " + std::to_string(area.top) + ", " + std::to_string(area.right) +
+                       " " + std::to_string(area.bottom) + "\n";
+    for (const auto& [place, pixels] : patch.squares) {
+        const int side = pixels.size() == 1 ? 1 : ink::squareSide;
+        text += "row " + std::to_string(place.row) + ", column " + std::to_string(place.column) + "\n" +
+                Paper{side, side, 1, pixels}.text();
+    }
+    return text;
+}
+
+/// Steps made one: for a screen that stays, and for another one at the end.
+std::string joined(const std::vector<ink::Patch>& patches)
+{
+    InkChange all{patches.front(), patches.front(), 1};
+    for (const ink::Patch& patch : patches) {
+        all.add({patch, patch, 1});
+    }
+    const std::string text = written(all.picture) + "screen\n" + written(all.screen);
+    all.add({patches.front(), patches.front(), 2});
+    return text + "another screen " + std::to_string(all.screenNumber) + " " + written(all.screen);
+}
+
+} // namespace
+
+void recordChanges(Record& record)
+{
+    Drawing drawing;
+    drawing.grow(steps[0].sheet);
+    std::vector<ink::Patch> patches;
+    std::vector<std::vector<std::uint32_t>> images;
+    for (const Step& step : steps) {
+        if (step.made == Sheet::larger) {
+            drawing.grow(step.sheet);
+        }
+        images.push_back(drawing.pixels());
+        patches.push_back(drawing.draw(step));
+        record.push_back({std::string("Change, ") + step.title,
+                          written(patches.back()) + "overlooked " + written(drawing.overlooked())});
+    }
+    images.push_back(drawing.pixels());
+    record.push_back({"Changes in one", joined(patches)});
+    std::string text;
+    for (std::size_t i = patches.size(); i-- > 0;) {
+        drawing.exchange(patches[i]);
+        text += drawing.pixels() == images[i] ? "taken back\n" : drawing.room.text();
+        text += "overlooked " + written(drawing.overlooked());
+    }
+    for (std::size_t i = 0; i < patches.size(); ++i) {
+        drawing.exchange(patches[i]);
+        text += drawing.pixels() == images[i + 1] ? "done again\n" : drawing.room.text();
+        text += "overlooked " + written(drawing.overlooked());
+    }
+    const ink::Area area = ink::line(drawing.image(), {7, 2}, {2, 2}, {50, 2});
+    drawing.changes.accept(drawing.image(), drawing.sheet.paper, area);
+    record.push_back({"Changes taken back", text + "accepted, overlooked " + written(drawing.overlooked())});
+}
+
+} // namespace schemlet
