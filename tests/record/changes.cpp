@@ -110,7 +110,7 @@ std::string written(const ink::Patch& patch)
     const ink::Area area = ink::cover(patch);
     std::string text = "from " + written(patch.before) + " to " + written(patch.after) + " within " +
                        std::to_string(area.left) + " " + std::to_string(area.top) + ", " + std::to_string(area.right) +
-                       " " + std::to_string(area.bottom) + "\n";
+                       " " + std::to_string(area.bottom) + ", " + std::to_string(patch.bytes() / 1024) + " KiB\n";
     for (const auto& [place, pixels] : patch.squares) {
         const int side = pixels.size() == 1 ? 1 : ink::squareSide;
         text += "row " + std::to_string(place.row) + ", column " + std::to_string(place.column) + "\n" +
@@ -149,7 +149,7 @@ void recordChanges(Record& record)
                           written(patches.back()) + "overlooked " + written(drawing.overlooked())});
     }
     images.push_back(drawing.pixels());
-    record.push_back({"Changes in one", joined(patches)});
+    record.push_back({"Changes in one", joined({patches.begin() + 2, patches.end()})});
     std::string text;
     for (std::size_t i = patches.size(); i-- > 0;) {
         drawing.exchange(patches[i]);

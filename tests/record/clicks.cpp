@@ -28,6 +28,7 @@ void addMenus(Record& record)
                 looks.at(static_cast<std::size_t>(item.look)) + "\n";
     }
     record.push_back({"Menus", rows});
+    record.push_back({"Toolbar and shortcuts", rig.window.toolRows});
     std::string colors;
     for (Color color = NotingRig::colorInHand; const Item& item : itemsOf({"cc", "fc"})) {
         colors += std::to_string(++color) + " " + item.title + "\n";

@@ -3,6 +3,8 @@
 #include "tests/support/paper.h"
 #include "tests/support/stand_ins.h"
 
+#include <array>
+
 namespace schemlet {
 
 namespace {
@@ -24,7 +26,16 @@ constexpr Shape shapes[] = {
     {"circle over the edge", {15, 1}, {}, 7},
     {"level hop", {8, 8}, {}, 100 / 15.0, 3.5, 0},
     {"upright hop", {8, 8}, {}, 100 / 15.0, 5, 1.5},
+    {"bowl", {9.4, 4.6}, {}, 6.2, 3.3, 6},
+    {"arc of more than a turn", {8.6, 8.4}, {}, 4.7, -2, 9},
 };
+
+struct Width {
+    double pixels = 0;
+    std::array<double, 2> scales{};
+};
+
+constexpr Width widths[] = {{2, {1.5, 2.25}}, {5, {1.25, 2}}, {10, {1.5, 2.25}}};
 
 ink::Area draw(Paper& paper, const ink::Pen& pen, const Shape& shape, double aside = 0)
 {
@@ -60,13 +71,13 @@ std::string shownFiner(const Shape& shape, double penWidth, double scale)
 void recordInk(Record& record)
 {
     for (const Shape& shape : shapes) {
-        for (const double width : {2.0, 10.0}) {
+        for (const auto& [width, scales] : widths) {
             Paper paper{18, 15};
             const ink::Area area = draw(paper, {1, width}, shape);
             record.push_back({std::string("Ink, ") + shape.title + ", " + written(width) + " pixels wide",
                               "changes " + std::to_string(area.left) + " " + std::to_string(area.top) + " to " +
                                   std::to_string(area.right) + " " + std::to_string(area.bottom) + "\n" + paper.text() +
-                                  shownFiner(shape, width, 1.5) + shownFiner(shape, width, 2.25)});
+                                  shownFiner(shape, width, scales[0]) + shownFiner(shape, width, scales[1])});
         }
     }
 }

@@ -244,6 +244,19 @@ void StandInWindow::addMenuItem(int depth, const MenuItem& row)
     m_controls[row.name.text()].checked = row.look == Look::checked;
 }
 
+void StandInWindow::addShortcut(Name name, std::string_view keys)
+{
+    (void)at(name.text());
+    toolRows += std::string(keys) + ": " + std::string(name.text()) + "\n";
+}
+
+void StandInWindow::addToolButton(Name key, std::string_view tip, Look look)
+{
+    m_controls[key.text()];
+    toolRows +=
+        "|" + std::string(key.text()) + "| " + std::string(tip) + (look == Look::plain ? "" : ", a switch") + "\n";
+}
+
 void StandInWindow::setCursor(const Cursor& pointer)
 {
     const std::string next = "cursor " + std::string(pointer.picture) + " " + placed(pointer.hotX, pointer.hotY);

@@ -183,6 +183,7 @@ public:
     bool hasPrinter = true;
     Point canvas{9000, 6000};                       ///< its size
     std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
+    std::string toolRows;                           ///< the toolbar's buttons, then the shortcuts
     std::map<std::string_view, int> intervals;
 
     [[nodiscard]] Control& at(std::string_view name) { return m_controls.at(name); }
@@ -200,8 +201,8 @@ public:
     void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { note("program ended"); }
-    void addShortcut(Name name, std::string_view /*keys*/) override { (void)at(name.text()); }
-    void addToolButton(Name key, std::string_view /*tip*/, Look /*look*/) override { m_controls[key.text()]; }
+    void addShortcut(Name name, std::string_view keys) override;
+    void addToolButton(Name key, std::string_view tip, Look look) override;
     void setSwatch(Name key, Color color) override { setBackColor(key, color); }
     void setCursor(const Cursor& pointer) override;
     void popUp(Name menu, Point where) override;
