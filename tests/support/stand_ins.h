@@ -183,7 +183,7 @@ public:
     bool hasPrinter = true;
     Point canvas{9000, 6000};                       ///< its size
     std::vector<std::pair<int, MenuItem>> menuRows; ///< with their depths
-    std::string toolRows;                           ///< the toolbar's buttons, then the shortcuts
+    std::string toolRows;                           ///< the shortcuts, then the toolbar's buttons
     std::map<std::string_view, int> intervals;
 
     [[nodiscard]] Control& at(std::string_view name) { return m_controls.at(name); }
