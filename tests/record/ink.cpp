@@ -26,6 +26,10 @@ constexpr Shape shapes[] = {
     {"circle over the edge", {15, 1}, {}, 7},
     {"level hop", {8, 8}, {}, 100 / 15.0, 3.5, 0},
     {"upright hop", {8, 8}, {}, 100 / 15.0, 5, 1.5},
+    {"line from far to far", {-3e9, 12}, {3e9, 5}},
+    {"circle far away", {3e9, 12}, {}, 7.3},
+    {"arc far away", {-3e9, 12}, {}, 7.3, 5, 1.5},
+    {"arc over the corner", {-1.7, 12}, {}, 7.3, 5, 1.5},
     {"bowl", {9.4, 4.6}, {}, 6.2, 3.3, 6},
     {"arc of more than a turn", {8.6, 8.4}, {}, 4.7, -2, 9},
 };
