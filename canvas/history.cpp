@@ -11,16 +11,16 @@ namespace schemlet {
 
 namespace {
 
-constexpr std::size_t memory = std::size_t{64} << 20; // bytes, for all steps together
+constexpr std::size_t maxBytes = std::size_t{64} << 20; // of all steps
 
-/// What makes a step, beside ink and paper.
+/// A change of one of these makes a step, even without ink.
 auto values(const Drawing& drawing)
 {
     return std::tie(drawing.canvasBackColor, drawing.resist, drawing.induc, drawing.capac, drawing.supplyVoltage,
                     drawing.supplyCurrent, drawing.batteryPositive, drawing.batteryNegative, drawing.diodeCount);
 }
 
-std::size_t texts(const Drawing& drawing)
+std::size_t textBytes(const Drawing& drawing)
 {
     return drawing.resistValue.capacity() + drawing.inductValue.capacity() + drawing.capacValue.capacity();
 }
@@ -34,13 +34,13 @@ void History::begin(Form1& form, int arrow)
     }
     m_arrow = arrow;
     m_restored = false;
-    m_goesOn = arrow != 0 && arrow == m_run;
-    m_run = m_goesOn ? arrow : 0;
-    // Only a jumper could end the run within this key. Without jumpers it is enough to look when the run has ended.
-    m_unseen = m_goesOn && form.autoJumper == 0;
-    if (!m_unseen) {
+    m_continues = arrow != 0 && arrow == m_run;
+    m_run = m_continues ? arrow : 0;
+    // A held key stays fast: its changes are taken when the run ends. A jumper may end the run at any key.
+    m_deferred = m_continues && form.autoJumper == 0;
+    if (!m_deferred) {
         finishRun(form);
-        look(form, m_before);
+        capture(form, m_before);
     }
 }
 
@@ -49,17 +49,17 @@ bool History::end(Form1& form)
     if (leftIsHeld() || m_restored) {
         return false;
     }
-    m_blinks = 0; // those that came while a box was open too
-    if (m_unseen) {
+    m_blinks = 0; // blinks while the event opened a dialog do not count
+    if (m_deferred) {
         m_run = m_arrow;
-        m_grew = true;
+        m_unfinished = true;
         return false;
     }
-    // An arrow key that lays more than its own step of wire went on behind a jumper, and that is a step by itself.
+    // If an arrow key moved the pen by more than a step of wire, it drew a jumper. That is a step by itself.
     const bool hop = std::hypot(form.x - m_before.drawing.x, form.y - m_before.drawing.y) > stepLength;
     m_run = hop ? 0 : m_arrow;
-    if (m_goesOn && !hop) {
-        m_grew = true;
+    if (m_continues && !hop) {
+        m_unfinished = true;
         return false;
     }
     InkChange ink = form.surface.takeChange();
@@ -68,7 +68,7 @@ bool History::end(Form1& form)
         return false;
     }
     Step step{.name = {}, .before = m_before, .after = {}, .ink = std::move(ink)};
-    look(form, step.after);
+    capture(form, step.after);
     keep(std::move(step));
     return true;
 }
@@ -116,19 +116,20 @@ std::string_view History::redoable() const
     return m_done < m_steps.size() ? std::string_view(m_steps[m_done].name) : "";
 }
 
-void History::look(const Form1& form, Moment& moment)
+void History::capture(const Form1& form, Snapshot& snapshot)
 {
-    moment.drawing = form;
-    moment.current = form.surface.current();
-    moment.foreColor = form.surface.foreColor();
-    moment.title = form;
-    moment.modes = form;
-    moment.drawWidth = form.surface.drawWidth();
-    moment.newDrawings = form.newDrawings;
-    moment.openedDrawings = form.openedDrawings;
+    snapshot.drawing = form;
+    snapshot.current = form.surface.current();
+    snapshot.foreColor = form.surface.foreColor();
+    snapshot.title = form;
+    snapshot.modes = form;
+    snapshot.drawWidth = form.surface.drawWidth();
+    snapshot.newDrawings = form.newDrawings;
+    snapshot.openedDrawings = form.openedDrawings;
 }
 
-bool History::isStep(const Moment& before, const CanvasState& now)
+/// Whether an event that changed no ink makes a step.
+bool History::isStep(const Snapshot& before, const CanvasState& now)
 {
     const bool otherDrawing = before.newDrawings != now.newDrawings || before.openedDrawings != now.openedDrawings;
     return values(before.drawing) != values(now) || (otherDrawing && before.title.title != now.title);
@@ -136,21 +137,21 @@ bool History::isStep(const Moment& before, const CanvasState& now)
 
 std::size_t History::bytes(const Step& step)
 {
-    return sizeof(step) + step.ink.bytes() + texts(step.before.drawing) + texts(step.after.drawing);
+    return sizeof(step) + step.ink.bytes() + textBytes(step.before.drawing) + textBytes(step.after.drawing);
 }
 
-/// Makes the last keys of a run part of its step.
+/// Adds the changes of the run's last keys to its step.
 void History::finishRun(Form1& form)
 {
-    if (!std::exchange(m_grew, false)) {
+    if (!std::exchange(m_unfinished, false)) {
         return;
     }
     Step& run = m_steps.back();
     m_bytes -= bytes(run);
     run.ink.add(form.surface.takeChange());
-    look(form, run.after);
+    capture(form, run.after);
     m_bytes += bytes(run);
-    forgetOldest();
+    limitMemory();
 }
 
 void History::keep(Step step)
@@ -161,34 +162,34 @@ void History::keep(Step step)
     m_bytes += bytes(step);
     m_steps.push_back(std::move(step));
     ++m_done;
-    forgetOldest();
+    limitMemory();
 }
 
-void History::restore(Form1& form, Step& step, const Moment& moment)
+void History::restore(Form1& form, Step& step, const Snapshot& snapshot)
 {
     m_restored = true;
     m_bytes -= bytes(step);
     form.surface.exchange(step.ink);
     m_bytes += bytes(step);
-    static_cast<Drawing&>(form) = moment.drawing;
-    form.surface.setCurrent(moment.current);
-    form.surface.setForeColor(moment.foreColor);
+    static_cast<Drawing&>(form) = snapshot.drawing;
+    form.surface.setCurrent(snapshot.current);
+    form.surface.setForeColor(snapshot.foreColor);
     const bool isNew = step.before.newDrawings != step.after.newDrawings;
     if (isNew || step.before.openedDrawings != step.after.openedDrawings) {
-        static_cast<Title&>(form) = moment.title;
+        static_cast<Title&>(form) = snapshot.title;
     }
     if (isNew) {
-        static_cast<Modes&>(form) = moment.modes;
-        form.surface.setDrawWidth(moment.drawWidth);
+        static_cast<Modes&>(form) = snapshot.modes;
+        form.surface.setDrawWidth(snapshot.drawWidth);
     }
     form.savedMark = 0;
-    forgetOldest();
+    limitMemory();
 }
 
-/// Or of what was taken back the last, if there is nothing else to forget.
-void History::forgetOldest()
+/// Forgets the oldest steps, and then the undone steps that redo would reach last.
+void History::limitMemory()
 {
-    while (m_bytes > memory && m_steps.size() > 1) {
+    while (m_bytes > maxBytes && m_steps.size() > 1) {
         const bool fromFront = m_done > 1;
         m_bytes -= bytes(fromFront ? m_steps.front() : m_steps.back());
         if (fromFront) {

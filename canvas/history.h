@@ -13,41 +13,43 @@ namespace schemlet {
 
 struct Form1;
 
-/// The steps that undo takes back. A step is all that changed between two moments, whatever changed it. It keeps the
-/// pixels that were replaced and the drawing's part of the state, and nothing about how they came about.
+/// The steps for undo and redo. A step has the pixels that an event replaced, and the state before and after the event.
+/// It does not know which command made it. Presses of one arrow key in a row are a run, and a run is one step.
 class History {
 public:
-    /// Comes before each event that may change the drawing. The code of an arrow key goes on with the run of that key,
-    /// if there is one; 0 ends the run.
+    /// Call before each event that may change the drawing. For an arrow key, pass its code; it continues that key's run
+    /// or starts a new one. For any other event, pass 0, which ends the run.
     void begin(Form1& form, int arrow);
-    /// Comes after it. Returns whether there is a new step, which then wants a name.
+    /// Call after the event. Returns whether it made a new step. If so, call name().
     bool end(Form1& form);
+    /// Names the step that end() has just made.
     void name(std::string step) { m_steps.back().name = std::move(step); }
-    /// The drawing before the step that end() told of.
+    /// The drawing before the step that end() has just made.
     [[nodiscard]] const Drawing& before() const { return m_before.drawing; }
 
-    /// A mouse button, as in platform/event.h, went down or came up. All events from a press of the left one to its
-    /// release are one step.
+    /// Call when a mouse button, as in platform/event.h, was pressed or released. All events from a press of the left
+    /// button to its release are one step.
     void press(int button) { m_buttons |= button; }
     void release(int button) { m_buttons &= ~button; }
-    /// The pen marker blinked. Two blinks without an arrow key between end a run.
+    /// Call when the pen marker blinks. Two blinks without an event in between end a run.
     void pause();
 
-    /// Takes back the last step, or brings again the one that was taken back last: ink and state, but not yet what the
-    /// windows show of it. Returns the step's name; empty if there is no step, or while a button is held.
+    /// Undoes the last step, or redoes the step undone last. Restores ink and state, but does not update the windows.
+    /// Returns the step's name; empty if there is no step, or while a mouse button is held.
     std::string undo(Form1& form);
     std::string redo(Form1& form);
 
-    /// The names of the steps that undo and redo would take, empty if there is none.
+    /// The name of the step that undo() or redo() would take; empty if there is none.
     [[nodiscard]] std::string_view undoable() const;
     [[nodiscard]] std::string_view redoable() const;
 
 private:
-    struct Moment {
+    /// The state before or after a step.
+    struct Snapshot {
         Drawing drawing;
-        Point current; ///< where the next text begins
+        Point current; ///< of the surface
         Color foreColor = black;
-        // What New resets beside the drawing; Open changes the title.
+        // Restored only if the step contains New; the title also if it contains Open.
         Title title;
         Modes modes;
         int drawWidth = 0;
@@ -57,32 +59,32 @@ private:
 
     struct Step {
         std::string name;
-        Moment before;
-        Moment after;
+        Snapshot before;
+        Snapshot after;
         InkChange ink;
     };
 
-    static void look(const Form1& form, Moment& moment);
-    static bool isStep(const Moment& before, const CanvasState& now);
+    static void capture(const Form1& form, Snapshot& snapshot);
+    static bool isStep(const Snapshot& before, const CanvasState& now);
     static std::size_t bytes(const Step& step);
     [[nodiscard]] bool leftIsHeld() const;
     void finishRun(Form1& form);
     void keep(Step step);
-    void restore(Form1& form, Step& step, const Moment& moment);
-    void forgetOldest();
+    void restore(Form1& form, Step& step, const Snapshot& snapshot);
+    void limitMemory();
 
     std::deque<Step> m_steps;
-    std::size_t m_done = 0;  ///< the steps behind these were taken back
-    std::size_t m_bytes = 0; ///< of all steps
-    Moment m_before;         ///< the event
-    int m_arrow = 0;         ///< the event's
-    int m_run = 0;           ///< the arrow key whose run the last step is, as long as it goes on
-    int m_blinks = 0;        ///< since that key came last
-    bool m_goesOn = false;   ///< the event is a key of that run
-    bool m_unseen = false;   ///< and what it changes is looked at later
-    bool m_grew = false;     ///< the run's last keys are not yet part of its step
-    int m_buttons = 0;       ///< those that are held
-    bool m_restored = false; ///< the event was an undo or a redo
+    std::size_t m_done = 0;    ///< the number of steps that are not undone; they come first
+    std::size_t m_bytes = 0;   ///< of all steps
+    Snapshot m_before;         ///< before the event
+    int m_arrow = 0;           ///< the event's arrow key
+    int m_run = 0;             ///< the arrow key of the current run, 0 if there is none
+    int m_blinks = 0;          ///< since the last event
+    bool m_continues = false;  ///< the event continues the run
+    bool m_deferred = false;   ///< its change is taken when the run ends
+    bool m_unfinished = false; ///< the run's step lacks the changes of its last keys
+    int m_buttons = 0;         ///< the held mouse buttons
+    bool m_restored = false;   ///< the event was an undo or a redo
 };
 
 } // namespace schemlet
