@@ -6,6 +6,7 @@
 namespace schemlet {
 
 namespace ink {
+
 namespace {
 
 int squares(int pixels)

@@ -6,6 +6,7 @@
 namespace schemlet {
 
 namespace ink {
+
 namespace {
 
 /// The finer pixels of a part of the canvas. The canvas's last pixels extend to the edges of the finer image.

@@ -7,6 +7,7 @@
 namespace schemlet {
 
 namespace ink {
+
 namespace {
 
 /// A part of a row of pixels. It is empty unless from < to.

@@ -7,9 +7,9 @@ class QWidget;
 
 namespace schemlet {
 
-/// Ignores the second press of a double click if the first press hit another widget. That widget went away, such as a
-/// button in a dialog, and the press is not meant for the canvas or the button below it. A press that only closed a
-/// menu counts as a press on the widget below the menu.
+/// Ignores the second press of a double click if the first press hit another widget. That widget, such as a button in a
+/// dialog, has gone away, and the second press is not meant for the canvas or the button below it. A press that only
+/// closed a menu counts as a press on the widget below the menu.
 class DoubleClicks final : public QObject {
     Q_OBJECT
 

@@ -20,8 +20,9 @@ void fitFont(QWidget& window, int largest, int width);
 /// Moves a window up if it extends below its screen, as far as there is room above it.
 void keepOnScreen(QWidget& window);
 
-/// The place for a second window of this size, all frames included: below, beside or above the main window, wherever
-/// it fits on the screen first. If it fits nowhere, it lies along the lower edge of the main window's canvas.
+/// The place for a second window of this size, all frames included: below, beside or above the main window, in the
+/// first of these places where it fits on the screen. If it fits in none, it lies along the lower edge of the main
+/// window's canvas.
 [[nodiscard]] QPoint placeBeside(QSize size, const QRect& mainWindow, const QRect& canvas, const QRect& screen);
 
 } // namespace schemlet
