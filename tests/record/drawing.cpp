@@ -1,4 +1,3 @@
-#include "tests/record/noting_rig.h"
 #include "tests/record/record.h"
 
 #include <algorithm>
@@ -133,6 +132,43 @@ void addMouse(Record& record)
     }
 }
 
+void addMenus(Record& record)
+{
+    constexpr std::array looks{"", " off", " on", " hidden"};
+    const Rig rig;
+    std::string rows;
+    for (const auto& [depth, item] : rig.window.menuRows) {
+        rows += std::string(static_cast<std::size_t>(depth) * 4, ' ') + "|" + std::string(item.caption) + "|" +
+                std::string(item.shortcut) + "| " + std::string(item.name.text()) +
+                looks.at(static_cast<std::size_t>(item.look)) + "\n";
+    }
+    record.push_back({"Menus", rows});
+    record.push_back({"Toolbar and shortcuts", rig.window.toolRows});
+    std::string colors;
+    for (Color color = NotingRig::colorInHand; const Item& item : itemsOf({"cc", "fc"})) {
+        colors += std::to_string(++color) + " " + item.title + "\n";
+    }
+    record.push_back({"Colors in this record", colors + "100 what was in hand before\n"});
+}
+
+void addClicks(Record& record)
+{
+    const Rig program;
+    for (const std::string_view name : program.window.names()) {
+        std::string body;
+        for (const std::string verb : {"hover ", "click "}) {
+            NotingRig rig(heading::right, "no");
+            rig.form.penMoved = 1; // Open does something only then
+            const std::string event = verb + std::string(name);
+            const std::string facts = played(rig, event + "; tick statusTimer");
+            body += facts.empty() ? "" : "> " + event + "\n" + facts;
+        }
+        if (!body.empty()) {
+            record.push_back({"Click on " + std::string(name), body});
+        }
+    }
+}
+
 /// The program's own.
 void addPictures(Record& record)
 {
@@ -151,6 +187,12 @@ void addPictures(Record& record)
 }
 
 } // namespace
+
+void recordClicks(Record& record)
+{
+    addMenus(record);
+    addClicks(record);
+}
 
 void recordDrawing(Record& record)
 {

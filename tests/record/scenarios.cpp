@@ -1,4 +1,3 @@
-#include "tests/record/noting_rig.h"
 #include "tests/record/record.h"
 
 namespace schemlet {

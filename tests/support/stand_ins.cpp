@@ -1,6 +1,7 @@
 #include "tests/support/stand_ins.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace schemlet {
 
@@ -197,11 +198,8 @@ StandInWindow::StandInWindow(Notes& notes, Name window, std::span<const Name> na
 
 std::vector<std::string_view> StandInWindow::names() const
 {
-    std::vector<std::string_view> all;
-    for (const auto& [name, control] : m_controls) {
-        all.emplace_back(name);
-    }
-    return all;
+    const auto all = std::views::keys(m_controls);
+    return {all.begin(), all.end()};
 }
 
 void StandInWindow::setSwitch(Name name, bool Control::*aspect, bool on, const char* off, const char* onWord)

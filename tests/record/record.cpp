@@ -1,4 +1,4 @@
-#include "tests/record/noting_rig.h"
+#include "tests/record/record.h"
 
 #include "shell/confirmations.h"
 
@@ -23,6 +23,14 @@ constexpr std::pair<const char*, Color State::*> colors[] = {{"wireColor", &Stat
 constexpr std::pair<const char*, std::string State::*> texts[] = {
     {"fileTitle", &State::fileTitle},     {"saveFault", &State::saveFault},     {"notice", &State::notice},
     {"resistValue", &State::resistValue}, {"inductValue", &State::inductValue}, {"capacValue", &State::capacValue}};
+std::string plain(std::string_view caption)
+{
+    std::string text(caption);
+    std::erase(text, '&');
+    const auto first = text.find_first_not_of(' ');
+    return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
 template <typename Fields> std::string changed(const Fields& fields, const State& before, const State& now)
 {
     std::string text;
@@ -83,6 +91,26 @@ std::string inShort(const std::vector<std::string>& ink)
 }
 
 } // namespace
+
+std::vector<Item> itemsOf(std::initializer_list<Name> menus)
+{
+    const Rig rig;
+    const auto& rows = rig.window.menuRows;
+    std::vector<Item> items;
+    std::vector<std::string> captions;
+    bool wanted = false;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto& [depth, item] = rows[i];
+        captions.resize(static_cast<std::size_t>(depth));
+        captions.push_back(plain(item.caption));
+        wanted = depth == 0 ? std::ranges::count(menus, item.name) > 0 : wanted;
+        const bool last = i + 1 == rows.size() || rows[i + 1].first <= depth;
+        if (wanted && last && item.caption != "-") {
+            items.push_back({item.name, captions.size() > 2 ? captions[1] + ", " + captions[2] : captions.back()});
+        }
+    }
+    return items;
+}
 
 NotingRig::NotingRig(int heading, const char* reply)
 {
