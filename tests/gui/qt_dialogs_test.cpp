@@ -105,11 +105,12 @@ TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
     QWidget window;
     QtDialogs dialogs(window, window);
     QTimer::singleShot(0, &window, [] {
-        const QWidget& dialog = *QApplication::activeModalWidget();
-        auto* const name = dialog.findChild<QLineEdit*>("qt_colorname_lineedit");
-        name->selectAll();
-        QTest::keyClicks(name, "#ab3412");
-        QTest::keyClick(name, Qt::Key_Return);
+        QWidget& dialog = *QApplication::activeModalWidget();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(&dialog, Qt::Key_H, Qt::AltModifier); // to the colour's name
+        QTest::keySequence(dialog.focusWidget(), QKeySequence::SelectAll);
+        QTest::keyClicks(dialog.focusWidget(), "#ab3412");
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     });
     EXPECT_EQ(dialogs.pickColor("", black), 0x1234ABU); // red AB, blue 12
     QTimer::singleShot(0, &window, [] { QApplication::activeModalWidget()->close(); });
