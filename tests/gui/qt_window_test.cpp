@@ -192,7 +192,7 @@ TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEvery
     window->addToolButton("Fore", "", Look::plain);
     auto& bar = *view.findChild<QToolBar*>();
     auto& button = *bar.widgetForAction(bar.actions().front());
-    QTest::mouseMove(&button);
+    QTest::mouseMove(screen, button.mapTo(&view, button.rect().center()));
     EXPECT_NE(noted().find("hover Line"), std::string::npos);
     for (const bool pressed : {false, true}) {
         window->setChecked("Line", pressed);
