@@ -22,41 +22,33 @@ std::optional<Fault> faultOf(std::string_view text)
 
 } // namespace
 
-TEST(ToNumber, TakesNumbersWithAPointAndNothingElse)
+TEST(Numbers, AreReadWholeOrAsTheLongestOneAtTheStart)
 {
-    const std::pair<const char*, double> numbers[] = {
+    const std::pair<std::string, double> whole[] = {
         {"10", 10}, {" 0.5 ", 0.5}, {"+3", 3},       {"-2.5", -2.5},      {".5", 0.5},
         {"5.", 5},  {"1e3", 1000},  {"1E-3", 0.001}, {"4.7E-06", 4.7e-6}, {"1.e+2", 100},
         {"007", 7}, {"0.0", 0},     {"1e-999", 0},   {"\t1", 1},          {"\n1\r\n", 1},
     };
-    for (const auto& [text, number] : numbers) {
-        EXPECT_EQ(toNumber(text), number) << text;
-    }
-    for (const char* const text :
-         {"",   " ", "abc", "1,5", "5 ohm", "nan", "inf", "infinity", "0x10", "1e",    "1e+",
-          "e5", ".", "-",   "+-1", "1.2.3", "1 2", "--1", "1e5.5",    "１",   "1_000", "1'000"}) {
-        EXPECT_EQ(faultOf(text), Fault::typeMismatch) << text;
-    }
-    EXPECT_EQ(faultOf("1e999"), Fault::overflow);
-    EXPECT_EQ(faultOf("-1e999"), Fault::overflow);
-    EXPECT_EQ(faultOf(std::string(1'000'000, '9')), Fault::overflow);
-    EXPECT_EQ(toNumber("0." + std::string(1'000'000, '0')), 0);
-    EXPECT_EQ(faultOf(std::string(1'000'000, '1') + "x"), Fault::typeMismatch);
-}
-
-TEST(LeadingNumber, IsTheLongestOneAtTheStart)
-{
-    const std::pair<const char*, double> texts[] = {
-        {"", 0},      {"abc", 0},   {"12", 12},         {" 12V", 12},  {"\r\n12V", 12},
-        {"1,5", 1},   {"5 ohm", 5}, {"-2.5e3x", -2500}, {"1e", 1},     {"1e+", 1},
-        {".", 0},     {"-", 0},     {".5.5", 0.5},      {"0x10", 0},   {"nan", 0},
-        {"1 000", 1}, {"e5", 0},    {"--1", 0},         {"1e-999", 0},
+    const std::pair<std::string, double> more[] = {
+        {"", 0},         {" ", 0},       {"abc", 0},      {"1,5", 1},         {"5 ohm", 5},   {"nan", 0}, {"inf", 0},
+        {"infinity", 0}, {"0x10", 0},    {"1e", 1},       {"1e+", 1},         {"e5", 0},      {".", 0},   {"-", 0},
+        {"+-1", 0},      {"1.2.3", 1.2}, {"1 2", 1},      {"--1", 0},         {"1e5.5", 1e5}, {"１", 0},  {"1_000", 1},
+        {"1'000", 1},    {" 12V", 12},   {"\r\n12V", 12}, {"-2.5e3x", -2500}, {".5.5", 0.5},
     };
-    for (const auto& [text, number] : texts) {
+    for (const auto& [text, number] : whole) {
+        EXPECT_EQ(toNumber(text), number) << text;
         EXPECT_EQ(leadingNumber(text), number) << text;
     }
-    EXPECT_THROW((void)leadingNumber("1e999V"), RuntimeError);
-    EXPECT_THROW((void)leadingNumber(std::string(1'000'000, '9')), RuntimeError);
+    for (const auto& [text, number] : more) {
+        EXPECT_EQ(faultOf(text), Fault::typeMismatch) << text;
+        EXPECT_EQ(leadingNumber(text), number) << text;
+    }
+    EXPECT_EQ(toNumber("0." + std::string(1'000'000, '0')), 0);
+    for (const std::string& tooLarge : {std::string("1e999"), std::string("-1e999"), std::string(1'000'000, '9')}) {
+        EXPECT_EQ(faultOf(tooLarge), Fault::overflow);
+        EXPECT_EQ(faultOf(tooLarge + "x"), Fault::typeMismatch);
+        EXPECT_THROW((void)leadingNumber(tooLarge + "V"), RuntimeError);
+    }
 }
 
 TEST(ToText, IsAsShortAsFifteenDigitsAllow)

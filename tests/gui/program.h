@@ -9,9 +9,6 @@
 
 namespace schemlet {
 
-inline constexpr auto saveQuestion = "Do you want to save changes?";
-inline constexpr auto printQuestion = "Do you want to print this form?";
-
 /// The real program in its window, used as a person does: by keys and mouse. What it does is looked for on the screen
 /// and in what it tells a screen reader. Places are canvas pixels.
 class Program {

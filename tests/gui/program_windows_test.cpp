@@ -82,7 +82,7 @@ TEST(Program, MenusOpenByKeyboardAndByMouseAndShortCutsWork)
         const char* text = "*"; // in it
     };
     const Way ways[] = {
-        {"alt+f p", "Schemlet 2.0", {"File", "Print"}, printQuestion},
+        {"alt+f p", "Schemlet 2.0", {"File", "Print"}, "Do you want to print this form?"},
         {"alt+f Right Right Up Return", "Output", {"View", "Output"}},
         {"alt+f Right Right Right m Down Return", "This draws a DC MOTOR"},
         {"alt+l h d", "This draws a DIAC THYRISTOR", {"Electronic Components", "Thyristors", "DIAC"}},
@@ -92,8 +92,8 @@ TEST(Program, MenusOpenByKeyboardAndByMouseAndShortCutsWork)
          {"Form Color", "Backcolor"}},
         {"alt+f Left o", "Help", {"Help", "How to use"}},
         {"F1", "Help"},
-        {"ctrl+x", "Schemlet 2.0", {}, saveQuestion},
-        {"ctrl+q", "Schemlet 2.0", {}, saveQuestion},
+        {"ctrl+x", "Schemlet 2.0", {}, "Do you want to save changes?"},
+        {"ctrl+q", "Schemlet 2.0", {}, "Do you want to save changes?"},
         {"Menu h", "Help"},
         {"shift+F10 f", "Color of wires"},
     };
