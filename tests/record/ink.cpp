@@ -57,8 +57,10 @@ std::string shownFiner(const Shape& shape, double penWidth, double scale)
 {
     Paper canvas{18, 15};
     Paper finer{static_cast<int>(19 * scale), static_cast<int>(15 * scale) + 1, scale};
-    ink::line(canvas.image(), {2, 5}, {9, 0}, {9, 15});
-    ink::enlarge(canvas.image(), finer.image(), {0, 0, 18, 15});
+    ink::line(canvas.image(), {2, 5}, {6, 0}, {13, 15});
+    for (const ink::Area& part : {ink::Area{7, 6, 18, 15}, {0, 6, 7, 15}, {7, 0, 18, 6}, {0, 0, 7, 6}}) {
+        ink::enlarge(canvas.image(), finer.image(), part);
+    }
     std::string text = "with " + written(scale) + " times the pixels\n";
     for (const auto& [pixel, aside] : {std::pair{1U, 0.0}, {3U, 0.2}}) {
         for (Paper* const paper : {&canvas, &finer}) {
