@@ -4,7 +4,6 @@
 #include "canvas/keyboard.h"
 #include "platform/event.h"
 
-#include <cmath>
 #include <tuple>
 
 namespace schemlet {
@@ -55,8 +54,7 @@ bool History::end(Form1& form)
         m_unfinished = true;
         return false;
     }
-    // If an arrow key moved the pen by more than a step of wire, it drew a jumper. That is a step by itself.
-    const bool hop = std::hypot(form.x - m_before.drawing.x, form.y - m_before.drawing.y) > stepLength;
+    const bool hop = hopped(m_before.drawing, form); // a jumper is a step by itself
     m_run = hop ? 0 : m_arrow;
     if (m_continues && !hop) {
         m_unfinished = true;

@@ -5,6 +5,7 @@
 #include "platform/event.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace schemlet {
 
@@ -69,6 +70,11 @@ void layStep(Surface& surface, Pen& pen)
     }
     pen.x += arrow->dx * stepLength;
     pen.y += arrow->dy * stepLength;
+}
+
+bool hopped(const Pen& from, const Pen& to)
+{
+    return std::hypot(to.x - from.x, to.y - from.y) > stepLength;
 }
 
 void keyDown(Form1& form, int code)

@@ -10,6 +10,9 @@ inline constexpr int stepLength = 50; ///< the wire of one arrow key, in twips
 /// the heading is no direction.
 void layStep(Surface& surface, Pen& pen);
 
+/// Whether an arrow key that moved the pen like this drew a jumper, too.
+[[nodiscard]] bool hopped(const Pen& from, const Pen& to);
+
 /// Handles a pressed key; codes as in platform/event.h. Any key marks the drawing as changed. An arrow key turns the
 /// pen and, outside erase mode, draws a step of wire.
 void keyDown(Form1& form, int code);

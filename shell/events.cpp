@@ -48,6 +48,12 @@ bool isCommand(Event::Kind kind)
     return kind != tick && kind != mouseMove && kind != hover && kind != mouseUp;
 }
 
+/// The help window and the splash have a Timer2, too.
+bool isBlink(const Event& event)
+{
+    return event.kind == Event::Kind::tick && event.window == mainWindow.text() && event.name == control::Timer2.text();
+}
+
 /// Whether an event may change the drawing or end a run of an arrow key. Saving does neither.
 bool mayChangeDrawing(const Event& event)
 {
@@ -76,7 +82,7 @@ void Events::deliver(const Event& event)
 
 void Events::handle(const Event& event)
 {
-    if (event.kind == Event::Kind::tick && event.name == control::Timer2.text()) {
+    if (isBlink(event)) {
         m_form.history.pause();
     }
     if (!m_form.notice.empty() && isCommand(event.kind)) {

@@ -11,8 +11,6 @@
 #include "shell/files.h"
 #include "shell/toolbox.h"
 
-#include <cmath>
-
 namespace schemlet {
 
 namespace {
@@ -63,12 +61,6 @@ std::string_view toolName(const Form1& form)
         return "rectangle";
     }
     return form.pencilTool == 1 ? "pencil" : "wire";
-}
-
-/// Whether an arrow key also drew a jumper: the pen has then moved by more than a step of wire.
-bool hopped(const Pen& from, const Pen& to)
-{
-    return std::abs(to.x - from.x) + std::abs(to.y - from.y) > stepLength;
 }
 
 bool addedSupply(const Drawing& before, const Drawing& after)

@@ -35,6 +35,7 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
              {"right; tick Timer2; tick statusTimer; move none 15 15; hover Image1; right", "wire"},
              {"right; tick Timer2; right; tick Timer2; right", "wire"},
              {"right; tick Timer2 2; right", "wire, wire"},
+             {"click htu; click Form2.Check1; right; tick Form2.Timer2 2; right", "wire"},
              {"right; click save < /a/b.JPEG; right; click save < /broken/a; right", "wire"},
              {"right; press left 900 900; release left 900 900; right", "wire, wire"},
              {"right; press middle 900 900; right; click undo; release middle 900 900", "wire, wire"},
