@@ -34,7 +34,7 @@ constexpr Step steps[] = {
 };
 
 /// An image that is a part of a larger one.
-struct Canvas {
+struct InkedImage {
     static constexpr std::uint32_t outside = 9;
     Paper room{70, 50};
     ink::Sheet sheet;
@@ -135,7 +135,7 @@ std::string joined(const std::vector<ink::Patch>& patches)
 
 void recordChanges(Record& record)
 {
-    Canvas drawing;
+    InkedImage drawing;
     drawing.grow(steps[0].sheet);
     std::vector<ink::Patch> patches;
     std::vector<std::vector<std::uint32_t>> images;
