@@ -126,7 +126,8 @@ std::string joined(const std::vector<ink::Patch>& patches)
     for (const ink::Patch& patch : patches) {
         all.add({patch, patch, 1});
     }
-    const std::string text = written(all.picture) + "screen\n" + written(all.screen);
+    const std::string text = written(all.picture) + "screen\n" + written(all.screen) + "both " +
+                             std::to_string(all.bytes() / 1024) + " KiB\n";
     all.add({patches.front(), patches.front(), 2});
     return text + "another screen " + std::to_string(all.screenNumber) + " " + written(all.screen);
 }
