@@ -50,10 +50,8 @@ bool areAlike(const Image& one, const Image& other, std::uint32_t paper, GridPla
     if (!isWithin(one, place) || !isWithin(other, place)) {
         return read(one, paper, place) == read(other, paper, place);
     }
-    const auto row = [place](const Image& image, int at) {
-        return image.pixels + static_cast<std::ptrdiff_t>(place.row * squareSide + at) * image.stride +
-               place.column * squareSide;
-    };
+    const auto row = [top = std::ptrdiff_t{place.row} * squareSide, left = std::ptrdiff_t{place.column} * squareSide](
+                         const Image& image, int at) { return image.pixels + (top + at) * image.stride + left; };
     for (int at = 0; at < squareSide; ++at) {
         if (!std::equal(row(one, at), row(one, at) + squareSide, row(other, at))) {
             return false;
@@ -160,18 +158,24 @@ void Changes::markSquare(GridPlace place)
     if (place.column >= m_columns) {
         m_columns = place.column + 1;
         m_isMarked.clear();
-        for (const GridPlace marked : std::exchange(m_marked, {})) {
-            markSquare(marked);
+        for (const GridPlace marked : m_marked) {
+            isMarked(marked) = true;
         }
     }
-    const std::size_t index = indexOf(place);
+    if (auto marked = isMarked(place); !marked) {
+        marked = true;
+        m_marked.push_back(place);
+    }
+}
+
+std::vector<bool>::reference Changes::isMarked(GridPlace place)
+{
+    const std::size_t index = static_cast<std::size_t>(place.row) * static_cast<std::size_t>(m_columns) +
+                              static_cast<std::size_t>(place.column);
     if (index >= m_isMarked.size()) {
         m_isMarked.resize(index + 1);
     }
-    if (!m_isMarked[index]) {
-        m_isMarked[index] = true;
-        m_marked.push_back(place);
-    }
+    return m_isMarked[index];
 }
 
 void Changes::grow(int width, int height)
@@ -189,7 +193,7 @@ Patch Changes::take(const Image& image, std::uint32_t paper)
     }
     std::ranges::sort(m_marked);
     for (const GridPlace place : m_marked) {
-        m_isMarked[indexOf(place)] = false;
+        isMarked(place) = false;
         if (!newSheet && areAlike(copy(), image, paper, place)) {
             continue;
         }
@@ -229,11 +233,7 @@ void Changes::accept(const Image& image, std::uint32_t paper, const Area& area)
     if (sheet != m_sheet) {
         return start(image, sheet);
     }
-    forEachSquare(inSquares(area), [&](GridPlace place) {
-        if (!areAlike(copy(), image, paper, place)) {
-            follow(image, place, read(image, paper, place));
-        }
-    });
+    followArea(image, area);
 }
 
 /// Starts a new copy of the image. Blank paper needs no copy.
@@ -242,13 +242,23 @@ void Changes::start(const Image& image, const Sheet& sheet)
     m_sheet = sheet;
     m_pixels = {};
     m_width = m_height = 0;
-    accept(image, sheet.paper, {0, 0, image.width, image.height});
+    followArea(image, {0, 0, image.width, image.height});
+}
+
+void Changes::followArea(const Image& image, const Area& area)
+{
+    forEachSquare(inSquares(area), [&](GridPlace place) {
+        if (!areAlike(copy(), image, m_sheet.paper, place)) {
+            follow(image, place, read(image, m_sheet.paper, place));
+        }
+    });
 }
 
 void Changes::follow(const Image& image, GridPlace place, const SquarePixels& pixels)
 {
     if (m_width < image.width || m_height < image.height) {
-        std::vector<std::uint32_t> larger(static_cast<std::size_t>(image.width) * image.height, m_sheet.paper);
+        const std::size_t count = static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height);
+        std::vector<std::uint32_t> larger(count, m_sheet.paper);
         for (int row = 0; row < m_height; ++row) {
             std::copy_n(m_pixels.begin() + static_cast<std::ptrdiff_t>(row) * m_width, m_width,
                         larger.begin() + static_cast<std::ptrdiff_t>(row) * image.width);
@@ -263,11 +273,6 @@ void Changes::follow(const Image& image, GridPlace place, const SquarePixels& pi
 Image Changes::copy()
 {
     return {m_pixels.data(), m_width, m_height, m_width};
-}
-
-std::size_t Changes::indexOf(GridPlace place) const
-{
-    return static_cast<std::size_t>(place.row) * m_columns + place.column;
 }
 
 } // namespace ink

@@ -23,7 +23,7 @@ struct Sheet {
 };
 
 inline constexpr int squareSide = 8; ///< pixels
-using SquarePixels = std::array<std::uint32_t, squareSide * squareSide>;
+using SquarePixels = std::array<std::uint32_t, std::size_t{squareSide} * squareSide>;
 
 /// The place of a square in the grid of squares.
 struct GridPlace {
@@ -75,10 +75,11 @@ public:
 
 private:
     void markSquare(GridPlace place);
+    [[nodiscard]] std::vector<bool>::reference isMarked(GridPlace place);
     void start(const Image& image, const Sheet& sheet);
+    void followArea(const Image& image, const Area& area);
     void follow(const Image& image, GridPlace place, const SquarePixels& pixels);
     [[nodiscard]] Image copy();
-    [[nodiscard]] std::size_t indexOf(GridPlace place) const;
 
     Sheet m_sheet;                       ///< of the image at the last take()
     std::vector<std::uint32_t> m_pixels; ///< the copy; beyond its size, everything is paper

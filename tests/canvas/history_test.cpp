@@ -20,8 +20,8 @@ std::string takenBack(Rig& rig)
 }
 
 struct Case {
-    const char* script;
-    const char* steps;
+    const char* script = "";
+    const char* steps = "";
     bool wireAhead = false;
 };
 

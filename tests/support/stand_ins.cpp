@@ -1,7 +1,6 @@
 #include "tests/support/stand_ins.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace schemlet {
 
@@ -198,8 +197,11 @@ StandInWindow::StandInWindow(Notes& notes, Name window, std::span<const Name> na
 
 std::vector<std::string_view> StandInWindow::names() const
 {
-    const auto all = std::views::keys(m_controls);
-    return {all.begin(), all.end()};
+    std::vector<std::string_view> all;
+    for (const auto& [name, control] : m_controls) {
+        all.push_back(name);
+    }
+    return all;
 }
 
 void StandInWindow::setSwitch(Name name, bool Control::*aspect, bool on, const char* off, const char* onWord)
