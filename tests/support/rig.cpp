@@ -3,7 +3,6 @@
 #include "shell/main_window.h"
 
 #include <map>
-#include <ranges>
 
 namespace schemlet {
 
@@ -67,9 +66,12 @@ std::vector<std::string> stepsOf(std::string_view event)
 std::vector<std::string_view> split(std::string_view text, std::string_view separator)
 {
     std::vector<std::string_view> parts;
-    for (const auto part : std::views::split(text, separator)) {
-        parts.emplace_back(part.begin(), part.end());
+    std::size_t end = text.find(separator);
+    for (; end != std::string_view::npos; end = text.find(separator)) {
+        parts.push_back(text.substr(0, end));
+        text.remove_prefix(end + separator.size());
     }
+    parts.push_back(text);
     return parts;
 }
 
