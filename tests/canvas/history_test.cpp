@@ -86,11 +86,11 @@ TEST(History, ForgetsTheOldestStepsBeyondItsMemoryButNeverTheLast)
         const std::string names = takenBack(rig);
         return std::ranges::count(names, 'R');
     };
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 10; ++i) {
         draw(4 << 20);
     }
     EXPECT_EQ(steps(), 7); // of 64 MB: each step has its own text and the one before, and some other things
-    draw(100 << 20);
+    draw(40 << 20);
     EXPECT_EQ(steps(), 1);
 }
 
