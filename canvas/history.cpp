@@ -89,7 +89,7 @@ std::string History::undo(Form1& form)
         return {};
     }
     std::string name = m_steps[--m_done].name; // restoring may forget the step
-    restore(form, m_steps[m_done], m_steps[m_done].before);
+    restore(form, m_done, m_steps[m_done].before);
     return name;
 }
 
@@ -100,7 +100,7 @@ std::string History::redo(Form1& form)
     }
     std::string name = m_steps[m_done].name;
     ++m_done;
-    restore(form, m_steps[m_done - 1], m_steps[m_done - 1].after);
+    restore(form, m_done - 1, m_steps[m_done - 1].after);
     return name;
 }
 
@@ -149,7 +149,7 @@ void History::finishRun(Form1& form)
     run.ink.add(form.surface.takeChange());
     capture(form, run.after);
     m_bytes += bytes(run);
-    limitMemory();
+    limitMemory(m_steps.size() - 1);
 }
 
 void History::keep(Step step)
@@ -160,11 +160,12 @@ void History::keep(Step step)
     m_bytes += bytes(step);
     m_steps.push_back(std::move(step));
     ++m_done;
-    limitMemory();
+    limitMemory(m_steps.size() - 1);
 }
 
-void History::restore(Form1& form, Step& step, const Snapshot& snapshot)
+void History::restore(Form1& form, std::size_t index, const Snapshot& snapshot)
 {
+    Step& step = m_steps[index];
     m_restored = true;
     m_bytes -= bytes(step);
     form.surface.exchange(step.ink);
@@ -181,21 +182,22 @@ void History::restore(Form1& form, Step& step, const Snapshot& snapshot)
         form.surface.setDrawWidth(snapshot.drawWidth);
     }
     form.savedMark = 0;
-    limitMemory();
+    limitMemory(index);
 }
 
-/// Forgets the oldest steps, and then the undone steps that redo would reach last.
-void History::limitMemory()
+/// Forgets the oldest steps, and then the undone steps that redo would reach last, but not the given one.
+void History::limitMemory(std::size_t index)
 {
     while (m_bytes > maxBytes && m_steps.size() > 1) {
-        const bool fromFront = m_done > 1;
-        m_bytes -= bytes(fromFront ? m_steps.front() : m_steps.back());
-        if (fromFront) {
-            m_steps.pop_front();
-            --m_done;
-        } else {
+        if (index == 0) {
+            m_bytes -= bytes(m_steps.back());
             m_steps.pop_back();
+            continue;
         }
+        m_bytes -= bytes(m_steps.front());
+        m_steps.pop_front();
+        --index;
+        m_done -= m_done > 0 ? 1 : 0;
     }
 }
 

@@ -70,8 +70,8 @@ private:
     [[nodiscard]] bool leftIsHeld() const;
     void finishRun(Form1& form);
     void keep(Step step);
-    void restore(Form1& form, Step& step, const Snapshot& snapshot);
-    void limitMemory();
+    void restore(Form1& form, std::size_t index, const Snapshot& snapshot);
+    void limitMemory(std::size_t index);
 
     std::deque<Step> m_steps;
     std::size_t m_done = 0;    ///< the number of steps that are not undone; they come first

@@ -21,6 +21,9 @@ void showDrawing(Form1& form, const Drawing& before, const std::string& titleBef
     setMarkerLeft(form, form.markerLeft);
     setMarkerTop(form, form.markerTop);
     form.window.setVisible(control::Label27, form.eraseMode == 1);
+    if (form.eraseMode == 0) {
+        form.window.setVisible(control::Shape1, false);
+    }
     for (std::size_t family = 0; family < confirmCount; ++family) {
         form.window.setChecked(confirmItems[family], form.confirm[family] == 1);
     }

@@ -101,9 +101,10 @@ template <typename Visit> void forEachSquare(const Area& grid, Visit visit)
 
 std::size_t Patch::bytes() const
 {
+    constexpr std::size_t overhead = 28; // of a small block, which takes 32 bytes at least
     std::size_t sum = squares.capacity() * sizeof(Square);
     for (const Square& square : squares) {
-        sum += square.pixels.capacity() * sizeof(std::uint32_t);
+        sum += square.pixels.capacity() * sizeof(std::uint32_t) + overhead;
     }
     return sum;
 }

@@ -28,6 +28,7 @@ bool CanvasSurface::setRatio(double ratio)
     if (ratio == m_ratio) {
         return false;
     }
+    m_untaken = takeChange(); // the finer image of this ratio goes
     m_ratio = ratio;
     ++m_screenNumber;
     m_screen.reset();
@@ -49,6 +50,9 @@ void CanvasSurface::makeScreen()
 
 void CanvasSurface::growTo(QSize window)
 {
+    if (m_screen) {
+        m_untaken = takeChange(); // so that the enlarged ink is told from it
+    }
     m_canvas.growTo(window);
     if (m_screen) {
         // The last pixels may have ink from strokes beyond the picture, so they are enlarged again.
@@ -70,9 +74,15 @@ void CanvasSurface::setPicture(const QImage& picture)
 
 InkChange CanvasSurface::takeChange()
 {
-    return {.picture = m_canvas.takePatch(),
-            .screen = m_screen ? m_screen->takePatch() : ink::Patch(),
-            .screenNumber = m_screenNumber};
+    InkChange change{.picture = m_canvas.takePatch(),
+                     .screen = m_screen ? m_screen->takePatch() : ink::Patch(),
+                     .screenNumber = m_screenNumber};
+    if (m_untaken.empty()) {
+        return change;
+    }
+    InkChange whole = std::exchange(m_untaken, {});
+    whole.add(std::move(change));
+    return whole;
 }
 
 void CanvasSurface::exchange(InkChange& change)

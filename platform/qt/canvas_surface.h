@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ink/changes.h"
 #include "platform/qt/qt_surface.h"
 
 #include <QRegion>
@@ -67,7 +68,8 @@ private:
     QtSurface m_canvas;     ///< the picture
     /// The finer image, null at ratio 1. It is as large as the window has been since the last wipe.
     std::unique_ptr<QtSurface> m_screen;
-    QRegion m_changed; ///< by the stroke that is being drawn, in canvas pixels
+    QRegion m_changed;   ///< by the stroke that is being drawn, in canvas pixels
+    InkChange m_untaken; ///< what changed before the window grew or its ratio changed
 };
 
 } // namespace schemlet

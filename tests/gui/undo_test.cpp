@@ -117,6 +117,25 @@ TEST_P(CanvasUndo, KeepsTheRoomOfALargerWindowWithThatPapersColor)
     EXPECT_EQ(canvas.screenImage(), redScreen);
 }
 
+TEST_P(CanvasUndo, KnowsInkThatCameJustBeforeTheWindowGrewOrWentToAnotherScreen)
+{
+    for (const double ratio : {GetParam(), 1.75}) {
+        const float edge = static_cast<float>(canvas.picture().width() * twipsPerPixel);
+        canvas.circle({edge - 20, 1500}, 10);
+        canvas.growTo(canvas.picture().size() + QSize(100, 100));
+        canvas.circle({edge + 20, 1500}, 10);
+        canvas.setRatio(ratio);
+        canvas.circle({edge + 60, 1500}, 10);
+        InkChange change = canvas.takeChange();
+        canvas.exchange(change);
+        for (const QImage& shown : {canvas.picture(), canvas.screenImage()}) {
+            QImage blank = shown;
+            blank.fill(Qt::white);
+            EXPECT_EQ(shown, blank) << ratio;
+        }
+    }
+}
+
 TEST_P(CanvasUndo, ShowsThePicturesPixelsOnAScreenOfAnotherRatio)
 {
     const QImage blank = canvas.picture();
