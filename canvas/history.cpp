@@ -88,9 +88,9 @@ std::string History::undo(Form1& form)
     if (m_buttons != 0 || m_done == 0) {
         return {};
     }
-    std::string name = m_steps[--m_done].name; // restoring may forget the step
-    restore(form, m_done, m_steps[m_done].before);
-    return name;
+    Step& step = m_steps[--m_done];
+    restore(form, m_done, step.before);
+    return step.name;
 }
 
 std::string History::redo(Form1& form)
@@ -98,10 +98,9 @@ std::string History::redo(Form1& form)
     if (m_buttons != 0 || m_done == m_steps.size()) {
         return {};
     }
-    std::string name = m_steps[m_done].name;
-    ++m_done;
-    restore(form, m_done - 1, m_steps[m_done - 1].after);
-    return name;
+    Step& step = m_steps[m_done++];
+    restore(form, m_done - 1, step.after);
+    return step.name;
 }
 
 std::string_view History::undoable() const
@@ -189,15 +188,15 @@ void History::restore(Form1& form, std::size_t index, const Snapshot& snapshot)
 void History::limitMemory(std::size_t index)
 {
     while (m_bytes > maxBytes && m_steps.size() > 1) {
-        if (index == 0) {
+        if (index > 0) {
+            m_bytes -= bytes(m_steps.front());
+            m_steps.pop_front();
+            --index;
+            --m_done; // the oldest step is not undone: the given one comes after it
+        } else {
             m_bytes -= bytes(m_steps.back());
             m_steps.pop_back();
-            continue;
         }
-        m_bytes -= bytes(m_steps.front());
-        m_steps.pop_front();
-        --index;
-        m_done -= m_done > 0 ? 1 : 0;
     }
 }
 

@@ -217,14 +217,17 @@ Patch Changes::take(const Image& image, std::uint32_t paper)
 
 void Changes::put(const Image& image, std::uint32_t paper, const Patch& patch)
 {
-    for (const auto& [place, pixels] : patch.squares) {
-        write(image, place, unpacked(pixels));
+    const Sheet sheet{image.width, image.height, paper};
+    const bool newSheet = sheet != m_sheet;
+    for (const auto& [place, packedPixels] : patch.squares) {
+        const SquarePixels pixels = unpacked(packedPixels);
+        write(image, place, pixels);
+        if (!newSheet) {
+            follow(image, place, pixels);
+        }
     }
-    if (const Sheet sheet{image.width, image.height, paper}; sheet != m_sheet) {
-        return start(image, sheet);
-    }
-    for (const auto& [place, pixels] : patch.squares) {
-        follow(image, place, unpacked(pixels));
+    if (newSheet) {
+        start(image, sheet);
     }
 }
 

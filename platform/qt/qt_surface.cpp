@@ -47,10 +47,11 @@ QtSurface::QtSurface(double scale) : m_scale(scale) {}
 
 QtSurface QtSurface::atScale(double scale) const
 {
-    QtSurface other(*this);
-    other.changed = nullptr;
-    other.m_scale = scale;
-    other.m_image = {};
+    QtSurface other(scale);
+    other.m_foreColor = m_foreColor;
+    other.m_backColor = m_backColor;
+    other.m_drawWidth = m_drawWidth;
+    other.m_current = m_current;
     other.m_changes = ink::Changes(m_backColor);
     other.growTo(m_window);
     return other;

@@ -85,7 +85,12 @@ void QtWindow::setDescription(Name control, std::string_view text)
 
 void QtWindow::setTip(Name control, std::string_view text)
 {
-    find<QWidget>(control).setToolTip(toQString(text));
+    auto& widget = find<QWidget>(control);
+    const QString tip = toQString(text);
+    // Qt sends an event for each call, even with the same text.
+    if (widget.toolTip() != tip) {
+        widget.setToolTip(tip);
+    }
 }
 
 void QtWindow::setValue(Name control, int value)
