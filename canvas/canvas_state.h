@@ -58,7 +58,9 @@ using OutputTexts = std::array<std::string, 9>;
 
 /// What belongs to the drawing besides its ink. Undo restores it.
 struct Drawing : Pen {
-    int penMoved = 0;      ///< 1 once an arrow key was pressed
+    int penMoved = 0; ///< 1 once an arrow key was pressed
+    double walkX = 0; ///< where the walk began: the last left click, or the start
+    double walkY = 0;
     double markerLeft = 0; ///< of the pen marker
     double markerTop = 0;
 
@@ -123,6 +125,8 @@ struct CanvasState : Drawing, Title, Modes {
     Color probeColor = black; ///< the colour ahead of the pen at the last arrow key
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
     Name lastFamily;          ///< the frame of the source panel that was opened last
+    Name lastKind;            ///< the option of the source panel that was chosen last
+    std::string sourceText;   ///< the text entered last in the source panel
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     int printAnswer = 0;   ///< the button that closed the question about printing

@@ -1,6 +1,7 @@
 #include "canvas/form1.h"
 
 #include "canvas/pen_marker.h"
+#include "canvas/run.h"
 
 namespace schemlet {
 
@@ -23,6 +24,7 @@ void resetCanvas(Form1& form)
     form.surface.setCurrent(pointBeside(form));
     form.x = 1600;
     form.y = 1500;
+    beginWalk(form);
     form.savedMark = 100;
     placeMarker(form, form.x);
     form.heading = heading::right;

@@ -9,6 +9,11 @@
 
 namespace schemlet {
 
+struct Form1;
+
+/// The type of every command.
+using Handler = void (*)(Form1&);
+
 /// The argument of every command: the state and the interfaces to the screen.
 struct Form1 : CanvasState {
     Form1(Surface& canvas, MainWindow& main, Dialogs& boxes, Pictures& files, Window& help, Window& about,
@@ -19,6 +24,7 @@ struct Form1 : CanvasState {
     }
 
     History history;
+    Handler lastComponent = nullptr; ///< the command that repeat() runs
     Surface& surface;
     MainWindow& window;
     Dialogs& dialogs;
@@ -28,9 +34,6 @@ struct Form1 : CanvasState {
     Window& form4; ///< the Output window
     Window& form6; ///< the splash
 };
-
-/// The type of every command.
-using Handler = void (*)(Form1&);
 
 /// Gives the canvas's part of the state its start values and moves the pen and the marker to their start. Keeps the
 /// families' colours, the chosen tool and automatic jumpers.

@@ -1,7 +1,7 @@
 #include "canvas/history.h"
 
 #include "canvas/form1.h"
-#include "canvas/keyboard.h"
+#include "canvas/wire.h"
 #include "platform/event.h"
 
 #include <tuple>

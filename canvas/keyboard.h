@@ -4,18 +4,17 @@
 
 namespace schemlet {
 
-inline constexpr int stepLength = 50; ///< the wire of one arrow key, in twips
-
-/// Draws a step of wire along the heading, in the foreground colour, and moves the pen to its end. Does nothing if
-/// the heading is no direction.
-void layStep(Surface& surface, Pen& pen);
-
-/// Whether an arrow key that moved the pen like this drew a jumper, too.
-[[nodiscard]] bool hopped(const Pen& from, const Pen& to);
-
 /// Handles a pressed key; codes as in platform/event.h. Any key marks the drawing as changed. An arrow key turns the
 /// pen and, outside erase mode, draws a step of wire.
 void keyDown(Form1& form, int code);
+
+/// Turns the pen without drawing, as an arrow key does in erase mode.
+void turn(Form1& form, int heading);
+
+template <int heading> void turn(Form1& form)
+{
+    turn(form, heading);
+}
 
 /// Toggles erase mode. The pen's width (2 or 10 pixels), the mode and the label are each toggled by themselves.
 void eraser1(Form1& form);

@@ -2,6 +2,7 @@
 
 #include "canvas/keyboard.h"
 #include "canvas/pen_marker.h"
+#include "canvas/run.h"
 #include "platform/event.h"
 
 namespace schemlet {
@@ -48,6 +49,7 @@ void mouseDown(Form1& form, int button, Point place)
     if (button == button::left) {
         form.x = place.x;
         form.y = place.y;
+        beginWalk(form);
         form.surface.setCurrent(place);
     }
     if (button == button::right) {

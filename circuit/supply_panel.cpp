@@ -11,7 +11,18 @@ namespace schemlet {
 
 namespace {
 
-constexpr Name kinds[] = {control::Option2, control::Option3, control::Option4, control::Option5};
+/// A kind of source: its option, and what belongs to its family.
+struct Kind {
+    Name option;
+    Name family;
+    Name prompt;
+    Name cancel;
+};
+
+constexpr Kind kinds[] = {{control::Option2, control::sup, control::Label12, control::Command8},
+                          {control::Option3, control::sup, control::Label12, control::Command8},
+                          {control::Option4, control::bat, control::Label28, control::Command7},
+                          {control::Option5, control::bat, control::Label28, control::Command7}};
 
 /// Shows the panel while a family is open.
 void followFamilies(Form1& form)
@@ -21,10 +32,13 @@ void followFamilies(Form1& form)
     keepPanelAside(form);
 }
 
-void askForValue(Form1& form, Name prompt, Name cancel)
+/// Asks for the value.
+void choose(Form1& form, Name option)
 {
-    form.window.show({prompt, control::Command3, cancel, control::Text11});
-    form.window.enable({control::Command3, cancel, control::Text11});
+    const Kind& kind = *std::ranges::find(kinds, option, &Kind::option);
+    form.lastKind = option;
+    form.window.show({kind.prompt, control::Command3, kind.cancel, control::Text11});
+    form.window.enable({control::Command3, kind.cancel, control::Text11});
     form.window.focus(control::Text11);
 }
 
@@ -104,24 +118,37 @@ void batter(Form1& form)
 
 void Option2(Form1& form)
 {
-    askForValue(form, control::Label12, control::Command8);
+    choose(form, control::Option2);
 }
 
 void Option3(Form1& form)
 {
-    askForValue(form, control::Label12, control::Command8);
+    choose(form, control::Option3);
 }
 
 void Option4(Form1& form)
 {
     form.window.setValue(control::Option5, 0);
-    askForValue(form, control::Label28, control::Command7);
+    choose(form, control::Option4);
 }
 
 void Option5(Form1& form)
 {
     form.window.setValue(control::Option4, 0);
-    askForValue(form, control::Label28, control::Command7);
+    choose(form, control::Option5);
+}
+
+void chooseAgain(Form1& form)
+{
+    const auto* const kind = std::ranges::find(kinds, form.lastKind, &Kind::option);
+    if (kind == std::end(kinds) || kind->family != form.lastFamily) {
+        return;
+    }
+    form.window.setValue(kind->option, 1);
+    if (form.window.text(control::Text11).empty()) { // otherwise it was typed later, and cancelled
+        form.window.setText(control::Text11, form.sourceText);
+    }
+    choose(form, kind->option);
 }
 
 void Command3(Form1& form)
@@ -129,7 +156,8 @@ void Command3(Form1& form)
     const double typed = typedValue(form); // may throw, so it comes before anything is hidden
     form.window.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
     form.supplyValue = typed;
-    if (std::ranges::none_of(kinds, [&form](Name kind) { return isChosen(form, kind); })) {
+    form.sourceText = form.window.text(control::Text11);
+    if (std::ranges::none_of(kinds, [&form](const Kind& kind) { return isChosen(form, kind.option); })) {
         notify(form, "Nothing drawn: no kind was chosen");
     }
     if (takeChoice(form, control::Option4)) {
@@ -185,15 +213,15 @@ void keepPanelAside(Form1& form)
 
 void clearOptions(Form1& form)
 {
-    for (const Name option : kinds) {
-        form.window.setValue(option, 0);
+    for (const Kind& kind : kinds) {
+        form.window.setValue(kind.option, 0);
     }
 }
 
 void colorPanel(Form1& form)
 {
-    for (const Name option : kinds) {
-        form.window.setBackColor(option, form.canvasBackColor);
+    for (const Kind& kind : kinds) {
+        form.window.setBackColor(kind.option, form.canvasBackColor);
     }
     form.window.setBackColor(control::panel, form.canvasBackColor);
     form.window.setBackColor(control::bat, form.canvasBackColor);

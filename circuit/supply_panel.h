@@ -21,6 +21,10 @@ void Option3(Form1& form); ///< voltage
 void Option4(Form1& form); ///< positive
 void Option5(Form1& form); ///< negative
 
+/// Chooses the kind that was chosen last, if the family that was opened last has it, and proposes the value entered
+/// last.
+void chooseAgain(Form1& form);
+
 /// Draws the chosen sources with the number at the start of the text, in volt or ampere, 0 if there is none, and closes
 /// the panel. Throws overflow for a number or a sum out of range.
 void Command3(Form1& form);

@@ -19,6 +19,13 @@ struct MenuItem {
     Look look = Look::plain;
 };
 
+/// Keys of a command that no menu shows.
+struct Shortcut {
+    Name name;
+    std::string_view keys; ///< such as "Ctrl+Z", or several: "Ctrl+Shift+Z; Ctrl+Y"
+    bool repeats = false;  ///< again and again while the key is held
+};
+
 /// A mouse pointer: the name of its picture of 24 by 24 pixels, and its hot spot in pixels of that picture.
 struct Cursor {
     std::string_view picture;
@@ -35,9 +42,8 @@ public:
     /// Appends a row to the menus. Depth 0 is the menu bar. A deeper row goes into the menu of the last row one level
     /// above, so its depth is at most one more than that of the row before it.
     virtual void addMenuItem(int depth, const MenuItem& item) = 0;
-    /// Makes keys such as "Ctrl+Z", or several such as "Ctrl+Shift+Z; Ctrl+Y", report a click with this name. A text
-    /// box with the focus keeps these keys.
-    virtual void addShortcut(Name name, std::string_view keys) = 0;
+    /// Makes keys report a click with the shortcut's name. A text box with the focus keeps these keys.
+    virtual void addShortcut(const Shortcut& shortcut) = 0;
     /// Opens a popup menu at a place, or at the nearest edge of the canvas, and returns at once.
     virtual void popUp(Name menu, Point place) = 0;
     /// Appends a button to the toolbar, with the picture of this name. An empty key appends a separator. A checkable

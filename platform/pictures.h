@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-/// Loads and saves the canvas as picture files. Paths are UTF-8.
+/// Loads and saves the canvas as picture files, and copies it to the clipboard. Paths are UTF-8.
 class Pictures {
 public:
     virtual ~Pictures() = default;
@@ -15,6 +15,9 @@ public:
     /// Writes the canvas's whole image as a BMP file, for any extension of the name. Throws
     /// RuntimeError(Fault::pictureNotSaved) with the cause in a few words; the old file is then unchanged.
     virtual void saveImage(std::string_view path) = 0;
+    /// Copies the part of the canvas that has ink to the clipboard, with a margin of paper. Returns false if there is
+    /// no ink; then the clipboard is unchanged.
+    virtual bool copyInk() = 0;
 };
 
 } // namespace schemlet

@@ -17,6 +17,8 @@ inline constexpr Color white = 0xFFFFFF;
 /// One pixel of an unscaled screen (96 dpi) is 15 twips; a twip is 1/1440 inch.
 inline constexpr double twipsPerPixel = 15;
 
+inline constexpr double lineHeight = 13 * twipsPerPixel; ///< of printed text, in twips
+
 /// A place on the canvas in twips, X to the right, Y downwards, (0, 0) at its top-left corner.
 struct Point {
     float x = 0;
@@ -43,6 +45,8 @@ public:
     /// Prints one line of UTF-8 text with its top-left corner at the current point. With endLine, the current point
     /// moves to the canvas's left edge one text line lower, otherwise to the end of the text.
     virtual void print(std::string_view text, bool endLine) = 0;
+    /// How far print() would move the current point to the right.
+    [[nodiscard]] virtual double textWidth(std::string_view text) const = 0;
 
     /// The colour of the pixel at a place; none outside the image.
     [[nodiscard]] virtual std::optional<Color> point(Point place) const = 0;

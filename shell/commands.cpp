@@ -1,8 +1,10 @@
 #include "shell/commands.h"
 
+#include "canvas/dot_label.h"
 #include "canvas/jumper_ground.h"
 #include "canvas/keyboard.h"
 #include "canvas/mouse.h"
+#include "canvas/run.h"
 #include "circuit/output_window.h"
 #include "circuit/sources.h"
 #include "circuit/supply_panel.h"
@@ -12,6 +14,7 @@
 #include "shell/confirmations.h"
 #include "shell/files.h"
 #include "shell/help.h"
+#include "shell/repeat.h"
 #include "shell/status_bar.h"
 #include "shell/toolbox.h"
 #include "shell/undo.h"
@@ -205,14 +208,31 @@ constexpr ToolPicture pictures[] = {
     {"Image7", " Click to Close the ToolBox ", toolbox},
 };
 
-/// The keys of a command that is in no menu.
-struct Shortcut {
-    Name name; ///< also the name of the command's button, if there is one
+/// A command that is in no menu.
+struct KeyCommand {
+    Name name; ///< also of the command's button, if there is one
     std::string_view keys;
     Handler handler;
+    std::string_view step{}; ///< the name of the step that it makes
+    bool repeats = false;    ///< while its key is held
 };
 
-constexpr Shortcut shortcuts[] = {{control::undo, "Ctrl+Z", undo}, {control::redo, "Ctrl+Shift+Z; Ctrl+Y", redo}};
+constexpr KeyCommand keyCommands[] = {
+    {control::undo, "Ctrl+Z", undo, {}, true},
+    {control::redo, "Ctrl+Shift+Z; Ctrl+Y", redo, {}, true},
+    {control::copy, "Ctrl+Ins; Ctrl+Shift+C", copyDrawing},
+    {"runRight", "Ctrl+Right", run<heading::right>, "wire"},
+    {"runLeft", "Ctrl+Left", run<heading::left>, "wire"},
+    {"runUp", "Ctrl+Up", run<heading::up>, "wire"},
+    {"runDown", "Ctrl+Down", run<heading::down>, "wire"},
+    {"turnRight", "Alt+Right", turn<heading::right>},
+    {"turnLeft", "Alt+Left", turn<heading::left>},
+    {"turnUp", "Alt+Up", turn<heading::up>},
+    {"turnDown", "Alt+Down", turn<heading::down>},
+    {"repeat", "F4", repeat},
+    {"label", "F2", label, "label"},
+    {"dot", "Ctrl+D", dot, "junction dot"},
+};
 
 struct Letter {
     char capital;
@@ -256,7 +276,7 @@ Handler handlerOf(std::string_view name)
             return row.handler;
         }
     }
-    for (const Handler handler : {handlerIn(toolbar, name), handlerIn(pictures, name), handlerIn(shortcuts, name)}) {
+    for (const Handler handler : {handlerIn(toolbar, name), handlerIn(pictures, name), handlerIn(keyCommands, name)}) {
         if (handler != nullptr) {
             return handler;
         }
@@ -269,6 +289,29 @@ Handler handlerOf(int character)
     const int capital = character >= 'a' && character <= 'z' ? character - 'a' + 'A' : character;
     const auto* const letter = std::ranges::find(letters, capital, &Letter::capital);
     return letter != std::end(letters) ? letter->handler : nullptr;
+}
+
+/// Whether a command places something: it is in one of the two menus of components, or it is ground or jumper.
+bool isComponent(Handler command)
+{
+    bool inMenu = false;
+    for (const MenuRow& row : menu) {
+        if (row.depth == 0) {
+            inMenu = row.item.name == Name("electricalcomponents") || row.item.name == Name("electroniccomponets");
+        }
+        if (row.handler == command) {
+            return inMenu || command == ground || command == jumper;
+        }
+    }
+    return false;
+}
+
+void call(Form1& form, Handler command)
+{
+    if (isComponent(command)) {
+        form.lastComponent = command; // even if it is refused
+    }
+    command(form);
 }
 
 } // namespace
@@ -288,8 +331,8 @@ void addMenus(Form1& form)
     for (const MenuRow& row : menu) {
         form.window.addMenuItem(row.depth, row.item);
     }
-    for (const Shortcut& shortcut : shortcuts) {
-        form.window.addShortcut(shortcut.name, shortcut.keys);
+    for (const KeyCommand& command : keyCommands) {
+        form.window.addShortcut({command.name, command.keys, command.repeats});
     }
 }
 
@@ -300,6 +343,10 @@ Handler commandOf(const Event& event)
 
 std::string captionOf(Handler command)
 {
+    if (const auto* const row = std::ranges::find(keyCommands, command, &KeyCommand::handler);
+        row != std::end(keyCommands)) {
+        return std::string(row->step);
+    }
     const auto* const row = std::ranges::find(menu, command, &MenuRow::handler);
     if (row == std::end(menu)) {
         return {};
@@ -322,7 +369,7 @@ void runCommand(Form1& form, std::string_view window, std::string_view name)
 {
     runRow(form, controls, window, name);
     if (const Handler handler = handlerOf(name); handler != nullptr && window == mainWindow.text()) {
-        handler(form);
+        call(form, handler);
     }
 }
 
@@ -330,7 +377,7 @@ void keyPress(Form1& form, int character)
 {
     form.savedMark = 0;
     if (const Handler handler = handlerOf(character); handler != nullptr) {
-        handler(form);
+        call(form, handler);
     }
 }
 

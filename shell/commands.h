@@ -10,7 +10,7 @@
 
 namespace schemlet {
 
-// The tables in commands.cpp list every way to a command: menus and popup menu, toolbar, toolbox, letters, shortcuts,
+// The tables in commands.cpp list every way to a command: menus and popup menu, toolbar, toolbox, letters, other keys,
 // and the buttons and labels of all windows.
 
 /// A button of the toolbar; without a name it is a separator.
@@ -34,7 +34,7 @@ struct ToolPicture {
 [[nodiscard]] std::span<const ToolButton> toolbarButtons();
 [[nodiscard]] std::span<const ToolPicture> toolboxPictures();
 
-/// Builds the main window's menus, the popup menu, and the shortcuts that are in no menu.
+/// Builds the main window's menus, the popup menu, and the keys of the commands that are in no menu.
 void addMenus(Form1& form);
 
 /// The handler of a window's control or timer, or of its close button, which has no name.
@@ -53,7 +53,8 @@ void runCommand(Form1& form, std::string_view window, std::string_view name);
 /// The command of a click or of a typed letter; null if there is none.
 [[nodiscard]] Handler commandOf(const Event& event);
 
-/// The caption of a command's menu item, without the &; empty if the command has no menu item.
+/// What a step of a command is called: the caption of its menu item without the &, or a name of its own. Empty if it
+/// makes no steps.
 [[nodiscard]] std::string captionOf(Handler command);
 
 /// Handles a typed character, a UTF-16 unit. A capital or small letter runs its command. Any character marks the

@@ -92,6 +92,11 @@ void save(Form1& form)
     form.saveFault.clear();
 }
 
+void copyDrawing(Form1& form)
+{
+    notify(form, form.pictures.copyInk() ? "Drawing copied as a picture" : "Nothing copied: the canvas is empty");
+}
+
 void print(Form1& form)
 {
     form.printAnswer =

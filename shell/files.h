@@ -24,6 +24,9 @@ void open(Form1& form);
 /// box, after a failure a notice.
 void save(Form1& form);
 
+/// Copies the drawing to the clipboard as a picture, cut to its ink. Without ink, the clipboard keeps what it has.
+void copyDrawing(Form1& form);
+
 /// Prints the canvas after a question. Throws RuntimeError(Fault::printerError).
 void print(Form1& form);
 

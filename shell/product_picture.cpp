@@ -1,7 +1,7 @@
 #include "shell/product_picture.h"
 
 #include "canvas/jumper_ground.h"
-#include "canvas/keyboard.h"
+#include "canvas/wire.h"
 #include "circuit/sources.h"
 #include "circuit/valued_components.h"
 #include "symbols/bipolar.h"

@@ -1,14 +1,15 @@
 #include "shell/undo.h"
 
 #include "canvas/jumper_ground.h"
-#include "canvas/keyboard.h"
 #include "canvas/notice.h"
 #include "canvas/pen_marker.h"
+#include "canvas/wire.h"
 #include "circuit/output_window.h"
 #include "circuit/supply_panel.h"
 #include "shell/commands.h"
 #include "shell/confirmations.h"
 #include "shell/files.h"
+#include "shell/repeat.h"
 #include "shell/toolbox.h"
 
 namespace schemlet {
@@ -91,7 +92,8 @@ std::string stepName(const Form1& form, const Event& event)
     if (event.name == control::Command3.text()) {
         return captionOf(addedSupply(before, form) ? suppl : batter);
     }
-    return captionOf(commandOf(event));
+    const Handler command = commandOf(event);
+    return captionOf(command == repeat ? form.lastComponent : command);
 }
 
 void undo(Form1& form)

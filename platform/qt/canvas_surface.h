@@ -24,6 +24,7 @@ public:
     /// The image that the screen shows; ratio() is its number of pixels along each canvas pixel.
     [[nodiscard]] const QImage& screenImage() const { return m_screen ? m_screen->image() : m_canvas.image(); }
     [[nodiscard]] double ratio() const { return m_ratio; }
+    [[nodiscard]] QRgb paper() const { return m_canvas.backColor(); }
     /// Sets the screen's pixel ratio; ratios below 1 count as 1. Earlier ink then shows the picture's pixels, new ink
     /// is sharp. Returns whether the ratio changed.
     bool setRatio(double ratio);
@@ -39,6 +40,7 @@ public:
     void circle(Point centre, float radius) override;
     void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
+    [[nodiscard]] double textWidth(std::string_view text) const override { return m_canvas.textWidth(text); }
     [[nodiscard]] std::optional<Color> point(Point place) const override { return m_canvas.point(place); }
     void clear() override;
     void setBackColor(Color color) override;

@@ -178,10 +178,12 @@ OwnKeys::OwnKeys(QWidget& textBox, QList<QKeySequence> keys) : QObject(&textBox)
 bool OwnKeys::eventFilter(QObject* watched, QEvent* event)
 {
     // Qt asks whether the text box wants the key before shortcuts get it.
-    if (event->type() == QEvent::ShortcutOverride &&
-        m_keys.contains(QKeySequence(dynamic_cast<const QKeyEvent&>(*event).keyCombination()))) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+        if (m_keys.contains(QKeySequence(key.key() | (key.modifiers() & ~Qt::KeypadModifier)))) {
+            event->accept();
+            return true;
+        }
     }
     return QObject::eventFilter(watched, event);
 }

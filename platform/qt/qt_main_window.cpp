@@ -134,12 +134,13 @@ void QtMainWindow::addMenuItem(int depth, const MenuItem& item)
     }
 }
 
-void QtMainWindow::addShortcut(Name name, std::string_view keys)
+void QtMainWindow::addShortcut(const Shortcut& shortcut)
 {
     auto* const action = new QAction(&form());
-    action->setShortcuts(QKeySequence::listFromString(toQString(keys), QKeySequence::PortableText));
+    action->setShortcuts(QKeySequence::listFromString(toQString(shortcut.keys), QKeySequence::PortableText));
+    action->setAutoRepeat(shortcut.repeats);
     connect(action, &QAction::triggered, this,
-            [this, name] { report({.kind = Event::Kind::click, .name = name.text()}); });
+            [this, name = shortcut.name] { report({.kind = Event::Kind::click, .name = name.text()}); });
     form().addAction(action);
     for (auto* const text : form().findChildren<QLineEdit*>()) {
         new OwnKeys(*text, action->shortcuts());

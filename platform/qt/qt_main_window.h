@@ -24,7 +24,7 @@ public:
 
     void endProgram() override;
     void addMenuItem(int depth, const MenuItem& item) override;
-    void addShortcut(Name name, std::string_view keys) override;
+    void addShortcut(const Shortcut& shortcut) override;
     void popUp(Name menu, Point place) override;
     void addToolButton(Name key, std::string_view tip, Look look) override;
     void setSwatch(Name key, Color color) override;

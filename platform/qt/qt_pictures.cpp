@@ -1,7 +1,11 @@
 #include "platform/qt/qt_pictures.h"
 
+#include "platform/qt/copied_picture.h"
 #include "platform/qt/picture_files.h"
 #include "platform/qt/text.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace schemlet {
 
@@ -13,6 +17,16 @@ void QtPictures::loadBackground(std::string_view path)
 void QtPictures::saveImage(std::string_view path)
 {
     savePicture(m_surface.picture(), toQString(path));
+}
+
+bool QtPictures::copyInk()
+{
+    const QImage picture = pictureOfInk(m_surface);
+    if (picture.isNull()) {
+        return false;
+    }
+    QGuiApplication::clipboard()->setMimeData(mimeDataOf(picture).release());
+    return true;
 }
 
 } // namespace schemlet

@@ -3,7 +3,6 @@
 #include "platform/qt/colors.h"
 #include "platform/qt/text.h"
 
-#include <QFontMetrics>
 #include <QGlyphRun>
 #include <QPainter>
 #include <QRawFont>
@@ -156,7 +155,7 @@ void QtSurface::arc(Point centre, float radius, float start, float end)
 void QtSurface::print(std::string_view text, bool endLine)
 {
     const QString string = toQString(text);
-    const QFontMetrics metrics(m_font, &m_image); // unscaled, so that the current point moves equally at every scale
+    const QFontMetrics metrics = this->metrics();
     const int height = metrics.height();
     const int advance = metrics.horizontalAdvance(string);
     const QRectF place(std::round(m_current.x / twipsPerPixel), std::round(m_current.y / twipsPerPixel), advance,
@@ -170,6 +169,17 @@ void QtSurface::print(std::string_view text, bool endLine)
     }
     m_current = endLine ? Point{0, static_cast<float>(m_current.y + height * twipsPerPixel)}
                         : Point{static_cast<float>(m_current.x + advance * twipsPerPixel), m_current.y};
+}
+
+double QtSurface::textWidth(std::string_view text) const
+{
+    return metrics().horizontalAdvance(toQString(text)) * twipsPerPixel;
+}
+
+/// Unscaled, so that the current point moves equally at every scale.
+QFontMetrics QtSurface::metrics() const
+{
+    return QFontMetrics(m_font, &m_image);
 }
 
 /// Draws each glyph at the place that it has at scale 1. If the text were laid out at the larger size, its length would

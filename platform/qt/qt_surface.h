@@ -5,6 +5,7 @@
 #include "platform/surface.h"
 
 #include <QFont>
+#include <QFontMetrics>
 #include <QImage>
 #include <functional>
 
@@ -30,6 +31,7 @@ public:
 
     [[nodiscard]] const QImage& image() const { return m_image; }
     [[nodiscard]] QSize window() const { return m_window; }
+    [[nodiscard]] QRgb backColor() const { return m_backColor; }
     /// The image's memory. Valid until the image is wiped or grows.
     [[nodiscard]] ink::Image pixels();
     /// Makes room for a window of this size, in unscaled pixels. The image does not shrink, so that no ink is lost. New
@@ -53,6 +55,7 @@ public:
     void circle(Point centre, float radius) override;
     void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
+    [[nodiscard]] double textWidth(std::string_view text) const override;
     [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override;
     void setBackColor(Color color) override;
@@ -70,6 +73,7 @@ private:
     bool restoreSheet(const ink::Patch& patch);
     [[nodiscard]] QSize scaled(QSize canvas) const;
     [[nodiscard]] ink::Pen pen() const { return {m_foreColor, static_cast<double>(m_drawWidth)}; }
+    [[nodiscard]] QFontMetrics metrics() const;
     void drawText(const QString& text, QPointF topLeft);
     void report(const ink::Area& area);
 

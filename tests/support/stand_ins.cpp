@@ -119,7 +119,14 @@ void RecordingSurface::print(std::string_view text, bool endLine)
 std::optional<Color> RecordingSurface::point(Point probed) const
 {
     probedAt = m_notes.kept ? placed(probed.x, probed.y) : "";
-    return underPoint;
+    if (underPoint) {
+        return underPoint;
+    }
+    const ink::Place place = pixel(probed);
+    if (place.x < 0 || place.y < 0 || place.x >= width || place.y >= height) {
+        return {};
+    }
+    return m_pixels[static_cast<std::size_t>(place.y) * width + static_cast<std::size_t>(place.x)];
 }
 
 std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)
@@ -160,7 +167,7 @@ int ScriptedDialogs::messageBox(std::string_view prompt, Box style, std::string_
 std::optional<std::string> ScriptedDialogs::inputBox(std::string_view prompt, std::string_view title,
                                                      std::string_view preset)
 {
-    EXPECT_EQ(preset, "10");
+    EXPECT_EQ(preset, title == " LABEL " ? "" : "10");
     return reply(Asked::text, "asks " + written(title) + std::string(prompt) + "| OK");
 }
 
@@ -175,6 +182,12 @@ std::optional<std::string> ScriptedDialogs::saveFile(std::string_view name, std:
 {
     return reply(Asked::file,
                  "asks for a file to save " + written(name) + std::string(extension) + "|" + std::string(filter));
+}
+
+bool StandInPictures::copyInk()
+{
+    m_notes.add("copies");
+    return hasInk;
 }
 
 void StandInPictures::note(const char* what, std::string_view path, Fault fault)
@@ -244,10 +257,10 @@ void StandInWindow::addMenuItem(int depth, const MenuItem& row)
     m_controls[row.name.text()].checked = row.look == Look::checked;
 }
 
-void StandInWindow::addShortcut(Name name, std::string_view keys)
+void StandInWindow::addShortcut(const Shortcut& shortcut)
 {
-    (void)at(name.text());
-    toolRows += std::string(keys) + ": " + std::string(name.text()) + "\n";
+    toolRows += std::string(shortcut.keys) + (shortcut.repeats ? ", repeating: " : ": ") +
+                std::string(shortcut.name.text()) + "\n";
 }
 
 void StandInWindow::addToolButton(Name key, std::string_view tip, Look look)

@@ -66,7 +66,7 @@ public:
     explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
 
     std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
-    std::optional<Color> underPoint; ///< what point() finds, anywhere
+    std::optional<Color> underPoint; ///< what point() finds anywhere, if set
     mutable std::string probedAt;    ///< where point() looked last
 
     void line(Point from, Point to) override { stroke("line", from, to); }
@@ -74,6 +74,7 @@ public:
     void circle(Point centre, float radius) override;
     void arc(Point centre, float radius, float start, float end) override;
     void print(std::string_view text, bool endLine) override;
+    [[nodiscard]] double textWidth(std::string_view /*text*/) const override { return 100; }
     [[nodiscard]] std::optional<Color> point(Point place) const override;
     void clear() override { note("clear", {}); }
     void setBackColor(Color color) override;
@@ -139,8 +140,11 @@ class StandInPictures final : public Pictures {
 public:
     explicit StandInPictures(Notes& notes) : m_notes(notes) {}
 
+    bool hasInk = true;
+
     void loadBackground(std::string_view path) override { note("loads ", path, Fault::invalidPicture); }
     void saveImage(std::string_view path) override { note("saves ", path, Fault::pictureNotSaved); }
+    bool copyInk() override;
 
 private:
     void note(const char* what, std::string_view path, Fault fault);
@@ -155,7 +159,7 @@ inline constexpr Name formControls[] = {
     "sup",     "bat",       "Label11",  "Label12",   "Label13",     "Label28",   "Option1",   "Option2",
     "Option3", "Option4",   "Option5",  "Text11",    "Command3",    "Command7",  "Command8",  "Frame2",
     "Label1",  "Image1",    "Image2",   "Image3",    "Image4",      "Image5",    "Image15",   "Image16",
-    "Image17", "Image18",   "Image19",  "Image20",   "Image7",      "undo",      "redo"};
+    "Image17", "Image18",   "Image19",  "Image20",   "Image7",      "undo",      "redo",      "copy"};
 inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::Label23, form2::control::Command1};
 inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::control::Command1, form3::control::Command2};
 inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
@@ -201,7 +205,7 @@ public:
     void printForm() override;
     void addMenuItem(int depth, const MenuItem& item) override;
     void endProgram() override { note("program ended"); }
-    void addShortcut(Name name, std::string_view keys) override;
+    void addShortcut(const Shortcut& shortcut) override;
     void addToolButton(Name key, std::string_view tip, Look look) override;
     void setSwatch(Name key, Color color) override { setBackColor(key, color); }
     void setCursor(const Cursor& pointer) override;
