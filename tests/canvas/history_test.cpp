@@ -60,6 +60,13 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
              {"right; click open < cancel; click open < no < /broken/a; click open < no < /a/b.png", "Open, wire"},
              {"j; right < no; right < no; right < yes; right < no; right < no", "wire, Jumper, wire", true},
              {"j; right < yes; right < yes; click jumper; click jumper", "Jumper, Jumper, Jumper, Jumper", true},
+             {"click repeat; click dot; click label < A; click copy; r < 5; click repeat < 6; click repeat < cancel",
+              "Resistance, Resistance, label, junction dot"},
+             {"press left 300 300; release left 300 300; click ground; down; click repeat", "Ground, wire, Ground"},
+             {"press left 300 300; release left 300 300; click runRight; click turnLeft; click runDown; click runLeft; "
+              "down; "
+              "click runUp",
+              "wire, wire, wire, wire, wire"},
              {"right; click undo; down; click redo", "wire"},
              {"right; down; click undo; press left 900 900; release left 900 900; e; e; click redo", "wire, wire"},
              {"right; click undo; right; right", "wire"}}) {

@@ -27,6 +27,25 @@ constexpr Scenario scenarios[] = {
      "key 36; click save < /a.JPEG; char 8364; click save < /a.JPEG; x; key 41; key 65; char 27"},
     {"Events that come while a box is open wait for its answer, except timer ticks",
      "r < meanwhile down < meanwhile release left 30 450 < meanwhile tick statusTimer < meanwhile tick Timer2 < 5"},
+    // Keys that no menu shows
+    {"A run lays wire like the arrow key, and leaves no gap at its end",
+     "canvas 1700 1600; tick statusTimer; click runRight; tick statusTimer; click undo; tick statusTimer; click redo"},
+    {"Run and turn in erase mode only turn the pen", "e; click runUp; click runLeft; e; click turnUp; click turnDown"},
+    {"A dot is as wide in erase mode, and a text goes on where it was",
+     "press left 900 900; release left 1200 900; click forec < 255; click dot; tick statusTimer; e; click dot; click "
+     "undo"},
+    {"A label stands beyond the pen, to the right if it has no direction",
+     "click label < In; tick statusTimer; click turnLeft; click label < Out; click turnUp; click label < Vcc; "
+     "click turnDown; click label < GND; click label < cancel; click label < ; click open < no < cancel; "
+     "click label < Ω"},
+    {"Repeat asks as the component itself does, even if that was refused or undone",
+     "click repeat; tick statusTimer; click ground; click undo; click repeat; click undo; tick statusTimer; "
+     "click and < no; click repeat < yes; r < abc; click new < no; click repeat < 5; J; click forec < 255; "
+     "click repeat < cancel"},
+    {"Repeat opens the panel with the kind and the value of the last source",
+     "source V 12; click repeat; click Command3; s; choose Option2; text 7; click Command8; click repeat; "
+     "click Command3; source + 9; s; click Command8; click repeat"},
+    {"Copy says so, or that there is nothing to copy", "click copy; tick statusTimer; right; click copy"},
     // Mouse
     {"Any button that comes up marks the drawing changed",
      "press left 900 900; release left 900 900; click save < /a.JPEG; press right 900 900; release right 900 900; "

@@ -35,7 +35,7 @@ struct Rig {
     RecordingSurface surface{ink};
     StandInWindow window{changes, mainWindow, formControls};
     ScriptedDialogs dialogs{ink};
-    StandInPictures pictures{ink};
+    StandInPictures pictures{ink, surface};
     StandInWindow help{changes, form2::window, helpControls};
     StandInWindow about{changes, form3::window, aboutControls};
     StandInWindow output{changes, form4::window, form4::control::captions, form4::control::values};

@@ -56,7 +56,7 @@ void RecordingSurface::note(const char* what, std::initializer_list<float> numbe
     for (const float number : numbers) {
         call += " " + written(number);
     }
-    m_notes.add(call + std::string(text));
+    m_notes.add(call + (m_drawWidth == 2 ? "" : ", width " + std::to_string(m_drawWidth)) + std::string(text));
 }
 
 void RecordingSurface::circle(Point centre, float radius)
@@ -187,7 +187,7 @@ std::optional<std::string> ScriptedDialogs::saveFile(std::string_view name, std:
 bool StandInPictures::copyInk()
 {
     m_notes.add("copies");
-    return hasInk;
+    return std::ranges::any_of(m_surface.pixels(), [](Color pixel) { return pixel != white; });
 }
 
 void StandInPictures::note(const char* what, std::string_view path, Fault fault)

@@ -138,9 +138,7 @@ private:
 /// Cannot read or write anything in the folder /broken/.
 class StandInPictures final : public Pictures {
 public:
-    explicit StandInPictures(Notes& notes) : m_notes(notes) {}
-
-    bool hasInk = true;
+    StandInPictures(Notes& notes, const RecordingSurface& surface) : m_notes(notes), m_surface(surface) {}
 
     void loadBackground(std::string_view path) override { note("loads ", path, Fault::invalidPicture); }
     void saveImage(std::string_view path) override { note("saves ", path, Fault::pictureNotSaved); }
@@ -150,6 +148,7 @@ private:
     void note(const char* what, std::string_view path, Fault fault);
 
     Notes& m_notes;
+    const RecordingSurface& m_surface;
 };
 
 // Every named control of a form; a test of the forms themselves finds each of them there.
