@@ -41,7 +41,7 @@ public:
 
     void step()
     {
-        surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
+        surface.ahead = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
         window.hasPrinter = output.hasPrinter = m_chance.oneIn(2);
         const bool atSplash = !splash.intervals.empty();
         const Event closing{.kind = Event::Kind::close, .window = form6::window.text()};

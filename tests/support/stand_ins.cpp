@@ -118,8 +118,10 @@ void RecordingSurface::print(std::string_view text, bool endLine)
 
 std::optional<Color> RecordingSurface::point(Point probed) const
 {
-    probedAt = m_notes.kept ? placed(probed.x, probed.y) : "";
-    return underPoint;
+    if (m_notes.kept) {
+        m_notes.add("looks at " + placed(probed.x, probed.y));
+    }
+    return ahead;
 }
 
 std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)
