@@ -31,17 +31,6 @@ template <double (*convert)(std::string_view)> std::optional<double> converted(s
     }
 }
 
-/// Fifteen digits give the number back but for what lies behind them; the very largest are rounded out of range.
-void checkWriting(double number)
-{
-    if (std::abs(number) > 1.797693134862315e308) {
-        return;
-    }
-    const std::string text = toText(number);
-    const double read = toNumber(text);
-    demand(std::abs(read - number) <= std::abs(number) * 1e-14 && toText(read) == text);
-}
-
 } // namespace
 
 } // namespace schemlet
@@ -64,8 +53,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     demand(read == (std::isinf(value) ? std::nullopt : std::optional(value)));
     const std::optional<double> whole = converted<toNumber>(text);
     demand(all ? whole == read : whole && std::isnan(*whole));
-    if (read) {
-        checkWriting(*read);
-    }
     return 0;
 }

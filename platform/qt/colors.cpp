@@ -9,20 +9,13 @@ namespace schemlet {
 
 namespace {
 
-/// The relative luminance of a colour, 0 to 1, as the web's contrast guidelines define it.
+/// The relative luminance of a colour, 0 to 1.
 double luminance(const QColor& color)
 {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-/// From 1 (equal luminance) to 21 (black and white).
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
 }
 
 /// Black or white: the one that has a contrast of at least 4.5 to 1 on this ground, even where the style shades it.
@@ -62,6 +55,12 @@ QColor toQColor(Color color)
 Color toColor(const QColor& color)
 {
     return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
 }
 
 QPalette paletteOn(const QColor& ground)

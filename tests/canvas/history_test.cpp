@@ -22,7 +22,6 @@ std::string takenBack(Rig& rig)
 struct Case {
     const char* script = "";
     const char* steps = "";
-    bool wireAhead = false;
 };
 
 } // namespace
@@ -58,8 +57,8 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
              {"click bc < 255; click Back < 255; click backc < 0", "Backcolor, Backcolor"},
              {"right; click new < cancel; click new < no; click new", "New, wire"},
              {"right; click open < cancel; click open < no < /broken/a; click open < no < /a/b.png", "Open, wire"},
-             {"j; right < no; right < no; right < yes; right < no; right < no", "wire, Jumper, wire", true},
-             {"j; right < yes; right < yes; click jumper; click jumper", "Jumper, Jumper, Jumper, Jumper", true},
+             {"ahead 0; j; right < no; right < no; right < yes; right < no; right < no", "wire, Jumper, wire"},
+             {"ahead 0; j; right < yes; right < yes; click jumper; click jumper", "Jumper, Jumper, Jumper, Jumper"},
              {"click repeat; click dot; click label < A; click copy; r < 5; click repeat < 6; click repeat < cancel",
               "Resistance, Resistance, label, junction dot"},
              {"press left 300 300; release left 300 300; click ground; down; click repeat", "Ground, wire, Ground"},
@@ -72,9 +71,6 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
              {"right; click undo; right; right", "wire"}}) {
         SCOPED_TRACE(c.script);
         Rig rig;
-        if (c.wireAhead) {
-            rig.surface.underPoint = black;
-        }
         rig.run(c.script);
         EXPECT_EQ(takenBack(rig), c.steps);
     }

@@ -9,10 +9,7 @@
 #include <cmath>
 #include <iostream>
 #include <malloc.h>
-#include <map>
-#include <set>
 #include <stdexcept>
-#include <tuple>
 
 namespace schemlet {
 
@@ -41,15 +38,14 @@ public:
 
     void step()
     {
-        surface.underPoint = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
+        surface.ahead = m_chance.oneIn(3) ? std::nullopt : std::optional(m_chance.color());
         window.hasPrinter = output.hasPrinter = m_chance.oneIn(2);
         const bool atSplash = !splash.intervals.empty();
         const Event closing{.kind = Event::Kind::close, .window = form6::window.text()};
         m_event = !atSplash ? event() : m_chance.oneIn(8) ? closing : tick();
-        const Pen before = form;
         deliver(m_event);
         if (!atSplash) {
-            checkPen(before);
+            checkPen();
             checkSwitches();
             checkNumbers();
         }
@@ -117,9 +113,6 @@ private:
         }
         return sum;
     }
-
-    /// What moved the pen: the event's kind, name and code and the heading before.
-    using Cause = std::tuple<Event::Kind, std::string_view, int, int>;
 
     std::string reply(Asked asked)
     {
@@ -191,37 +184,12 @@ private:
         return running.empty() ? Event{.kind = Event::Kind::tick} : m_chance.of(running);
     }
 
-    /// The pen goes where the left button is pressed, back to its start on New, and else by the same whole twips for
-    /// the same command and heading, or stays.
-    void checkPen(const Pen& before)
+    void checkPen()
     {
         demand(std::isfinite(form.x) && std::isfinite(form.y), "the pen is nowhere");
         if (m_event.kind == Event::Kind::mouseDown && m_event.code == button::left) {
-            return demand(form.x == m_event.place.x && form.y == m_event.place.y, "the pen is not at the mouse");
+            demand(form.x == m_event.place.x && form.y == m_event.place.y, "the pen is not at the mouse");
         }
-        const double dx = form.x - before.x;
-        const double dy = form.y - before.y;
-        if (dx == 0 && dy == 0) {
-            return;
-        }
-        if (m_event.name == control::undo.text() || m_event.name == control::redo.text()) {
-            return;
-        }
-        if (m_event.name == "new" || m_event.name == "New") {
-            return demand(form.x == 1600 && form.y == 1500, "New leaves the pen elsewhere");
-        }
-        demand(m_event.kind == Event::Kind::keyDown || m_event.kind == Event::Kind::keyPress ||
-                   m_event.kind == Event::Kind::click,
-               "the pen moves by itself");
-        const std::pair advance{std::round(dx), std::round(dy)};
-        demand(std::hypot(dx - advance.first, dy - advance.second) < 1e-6, "the pen moves by parts of a twip");
-        const bool arrow = m_event.kind == Event::Kind::keyDown;
-        auto& known = m_advances[{m_event.kind, m_event.name, m_event.code, arrow ? 0 : before.heading}];
-        known.insert(advance);
-        const bool panel = m_event.name == control::Command3.text();
-        // The arrow keys hop over a wire or not; a battery and up to two supplies are drawn at once or not.
-        const std::size_t most = arrow ? 2 : panel ? 5 : 1;
-        demand(known.size() <= most, "the pen moves by another way than before");
     }
 
     void checkSwitches()
@@ -262,7 +230,6 @@ private:
                                                                                 {form4::window.text(), output}}};
     Event m_event{};
     std::vector<std::size_t> m_seen; ///< the digests after all events
-    std::map<Cause, std::set<std::pair<double, double>>> m_advances;
 };
 
 } // namespace

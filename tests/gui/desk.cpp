@@ -44,7 +44,6 @@ Desk::Desk()
     const QByteArray number = waitForLine(m_server);
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     // A bus of the session would be started for this display, and outlive it.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     // A window that opens while the manager still starts may never be shown.

@@ -52,6 +52,12 @@ TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOt
     EXPECT_EQ(noteOfClick(*form.Label1), "hover Label10\nclick Label10\n");
     EXPECT_EQ(noteOfClick(*form.Image1), "hover Image10\nclick Image10\n");
     EXPECT_EQ(noteOfClick(*form.Option4), "hover 0\nclick Option40\n");
+    // A label is clicked by the left button alone, and only if that comes up over it.
+    const QPoint label = form.Label1->mapTo(&view, form.Label1->rect().center());
+    QTest::mouseClick(view.windowHandle(), Qt::RightButton, {}, label);
+    QTest::mousePress(view.windowHandle(), Qt::LeftButton, {}, label);
+    QTest::mouseRelease(view.windowHandle(), Qt::LeftButton, {}, label + QPoint(0, 60));
+    EXPECT_EQ(noted().find("click"), std::string::npos);
     EXPECT_EQ(window->value(Option4), 1);
     window->setValue(Option4, 0);
     EXPECT_EQ(window->value(Option4), 0);

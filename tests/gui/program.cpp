@@ -2,11 +2,9 @@
 
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QRegularExpression>
 #include <QScreen>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <utility>
 
 namespace schemlet {
 
@@ -20,7 +18,12 @@ QString outputOf(const QString& program, const QStringList& words)
     QProcess process;
     process.start(program, words);
     EXPECT_TRUE(process.waitForFinished(patience)) << program.toStdString() << ' ' << words.join(' ').toStdString();
-    return QString::fromUtf8(process.readAllStandardOutput()).simplified();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+QString titleInFront()
+{
+    return outputOf("xdotool", {"getactivewindow", "getwindowname"}).simplified();
 }
 
 } // namespace
@@ -39,28 +42,32 @@ Program::Program(Stage until)
         return;
     }
     waitUntil("the splash's end", [this] {
-        const QString title = m_bus.windowInFront().name();
+        const QString title = titleInFront();
         if (title == splashTitle) {
             keys("Escape");
         }
         return title == mainTitle;
     });
     waitForHelp();
-    waitUntil("the help window's frame", [] { return close("Help"); });
-    waitUntil("the help window's end", [this] { return !isOpen("Help"); });
-    xdotool("windowmove " + m_window + " 40 40");
-    waitUntil("the main window in its place", [this] {
-        findCanvas();
-        return m_canvas.left() == 40;
-    });
+    closeHelp();
 }
 
 void Program::waitForHelp()
 {
     waitForMainWindow();
-    waitUntil("the help window", [this] { return isOpen("Help"); });
+    waitUntil("the help window", [] { return isOpen("Help"); });
     m_window = outputOf("xdotool", {"getactivewindow"});
-    findCanvas();
+}
+
+void Program::closeHelp()
+{
+    waitUntil("the help window's frame", [] { return close("Help"); });
+    waitUntil("the help window's end", [] { return !isOpen("Help"); });
+    xdotool("windowmove " + m_window + " 40 40");
+    waitUntil("the main window in its place", [this] {
+        findCanvas();
+        return m_canvas.left() == 40;
+    });
 }
 
 void Program::xdotool(const QString& words)
@@ -102,10 +109,11 @@ void Program::drag(int x1, int y1, int x2, int y2)
 
 void Program::resize(int width, int height)
 {
+    const int bars = heightsOf(mainTitle).value(0) - m_canvas.height();
     xdotool(QString("windowsize %1 %2 %3").arg(m_window).arg(width).arg(height));
     waitUntil("the new size", [&] {
         findCanvas();
-        return m_canvas.width() == width;
+        return m_canvas.size() == QSize(width, height - bars);
     });
 }
 
@@ -115,6 +123,21 @@ void Program::activate()
     waitForMainWindow();
 }
 
+void Program::findCanvas()
+{
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow().toImage();
+    const auto paperEnds = [&screen](QPoint place, QPoint step) {
+        while (screen.valid(place + step) && screen.pixelColor(place + step) == Qt::white) {
+            place += step;
+        }
+        return place;
+    };
+    const QPoint inside(60, 200);
+    const QPoint bottom = paperEnds(inside, {0, 1}) - QPoint(0, 4); // below toolbox and drawing
+    m_canvas.setTopLeft({paperEnds(bottom, {-1, 0}).x(), paperEnds(inside, {0, -1}).y()});
+    m_canvas.setBottomRight({paperEnds(bottom, {1, 0}).x(), bottom.y() + 4});
+}
+
 QImage Program::canvas() const
 {
     return QGuiApplication::primaryScreen()
@@ -122,52 +145,9 @@ QImage Program::canvas() const
         .toImage();
 }
 
-std::optional<Accessible> Program::find(const char* role, const QString& name) const
-{
-    const auto wanted = QRegularExpression::fromWildcard(name);
-    const std::vector<Accessible> all = m_bus.windowInFront().contents();
-    const auto found = std::ranges::find_if(all, [&](const Accessible& each) {
-        return each.role() == role && wanted.match(each.name()).hasMatch() && each.is(Accessible::showing);
-    });
-    return found == all.end() ? std::nullopt : std::optional(*found);
-}
-
-QRect Program::placeOf(const char* role, const QString& name) const
-{
-    QRect place;
-    waitUntil(qPrintable(role + (": " + name)), [&] {
-        const std::optional<Accessible> found = find(role, name);
-        const QRect last = std::exchange(place, found ? found->placeOnScreen() : QRect());
-        return !place.isEmpty() && place == last; // it no longer moves
-    });
-    return place;
-}
-
-void Program::hoverOver(const char* role, const QString& name)
-{
-    const QPoint place = placeOf(role, name).center();
-    xdotool(QString("mousemove %1 %2 mousemove_relative 1 0").arg(place.x()).arg(place.y()));
-}
-
-void Program::clickOn(const char* role, const QString& name)
-{
-    hoverOver(role, name);
-    xdotool("click 1");
-}
-
-void Program::clickMenus(const QStringList& captions)
-{
-    for (const QString& caption : captions) {
-        clickOn("menu item", caption);
-    }
-}
-
 void Program::waitForWindow(const QString& title) const
 {
-    waitUntil(qPrintable(title), [&] { // until the program and the window manager agree
-        return m_bus.windowInFront().name() == title &&
-               outputOf("xdotool", {"getactivewindow", "getwindowname"}) == title;
-    });
+    waitUntil(qPrintable(title), [&] { return titleInFront() == title; });
 }
 
 void Program::waitForMainWindow() const
@@ -182,11 +162,16 @@ void Program::answer(const QString& title, const char* key)
     waitForMainWindow();
 }
 
-bool Program::isOpen(const QString& title) const
+QList<int> Program::heightsOf(const QString& title)
 {
-    return std::ranges::any_of(m_bus.windows(), [&](const Accessible& window) {
-        return window.is(Accessible::showing) && window.name() == title;
-    });
+    QList<int> heights;
+    for (const QString& line : outputOf("wmctrl", {"-lG"}).split('\n')) {
+        const QStringList words = line.simplified().split(' '); // number, desktop, x, y, width, height, host, title
+        if (words.mid(7).join(' ') == title) {
+            heights << words[5].toInt();
+        }
+    }
+    return heights;
 }
 
 int Program::exitStatus()

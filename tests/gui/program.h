@@ -1,16 +1,17 @@
 #pragma once
 
-#include "tests/gui/accessible_tree.h"
+#include "tests/gui/desk.h"
 
 #include <QColor>
 #include <QDir>
 #include <QImage>
-#include <optional>
+#include <QRect>
+#include <QString>
+#include <QTemporaryDir>
 
 namespace schemlet {
 
-/// The real program in its window, used as a person does: by keys and mouse. What it does is looked for on the screen
-/// and in what it tells a screen reader. Places are canvas pixels.
+/// The real program on the screen, used as a person does: with keys and mouse. Places are canvas pixels.
 class Program {
 public:
     enum class Stage {
@@ -21,7 +22,7 @@ public:
     /// Starts it in a home folder of its own, and waits until it has come so far.
     explicit Program(Stage until = Stage::drawing);
 
-    /// Presses keys, which xdotool's names tell, one after the other.
+    /// Presses keys one after the other, by the names that xdotool has for them.
     void keys(const QString& names, int times = 1);
     void type(const QString& text) { xdotool("type --delay 5 -- " + text); }
     void moveMouse(int x, int y);
@@ -29,38 +30,29 @@ public:
     void drag(int x1, int y1, int x2, int y2);
     void xdotool(const QString& words);
     void resize(int width, int height);
-    /// Presses keys that bring a window, and waits for it.
+    /// Presses keys that open a window, and waits for it.
     void open(const QString& names, const QString& title);
     /// Brings the main window to the front.
     void activate();
 
     [[nodiscard]] QImage canvas() const;
-    /// A place on the screen, on the canvas.
-    [[nodiscard]] QRect onCanvas(QRect place) const { return place.translated(-m_canvas.topLeft()); }
     [[nodiscard]] bool inked(int x, int y) const { return canvas().pixelColor(x, y) != Qt::white; }
-
-    /// What is to be seen in the window that has the keyboard, by its role and its name or, of a label, its text, in
-    /// which * stands for anything.
-    [[nodiscard]] std::optional<Accessible> find(const char* role, const QString& name) const;
-    [[nodiscard]] bool shows(const char* role, const QString& name) const { return find(role, name).has_value(); }
-    /// Where that is on the screen, once it is there.
-    [[nodiscard]] QRect placeOf(const char* role, const QString& name) const;
-    void waitForText(const QString& words) const { (void)placeOf("label", words); }
-    void hoverOver(const char* role, const QString& name);
-    void clickOn(const char* role, const QString& name);
-    void clickMenus(const QStringList& captions);
 
     /// Waits until a window with this title has the keyboard.
     void waitForWindow(const QString& title) const;
     void waitForMainWindow() const;
-    /// Waits for that window, and for the main one after this key.
+    /// Waits for that window, presses a key, and waits for the main window.
     void answer(const QString& title, const char* key);
-    [[nodiscard]] bool isOpen(const QString& title) const;
-    /// Closes a window by its frame; says whether there is one with this in its title.
+    /// The heights of the open windows that have this title.
+    [[nodiscard]] static QList<int> heightsOf(const QString& title);
+    [[nodiscard]] static bool isOpen(const QString& title) { return !heightsOf(title).isEmpty(); }
+    /// Closes a window by its frame. Returns whether there was one with this in its title.
     static bool close(const QString& title) { return QProcess::execute("wmctrl", {"-c", title}) == 0; }
 
-    /// From the splash on: waits for the main window, and for the help window that opens after it.
+    /// Call while the splash is open: waits for the main window, and for the help window that opens after it.
     void waitForHelp();
+    /// Call after that. Then the canvas can be looked at.
+    void closeHelp();
 
     [[nodiscard]] QDir home() const { return QDir(m_home.path()); }
     [[nodiscard]] QStringList filesAtHome() const
@@ -71,15 +63,12 @@ public:
     /// Waits for the program's end.
     int exitStatus();
 
-    [[nodiscard]] const AccessibilityBus& bus() const { return m_bus; }
-
 private:
-    void findCanvas() { m_canvas = placeOf("canvas", "Canvas"); }
+    void findCanvas();
 
-    AccessibilityBus m_bus;
     QTemporaryDir m_home;
     Process m_process;
-    QString m_window; ///< the main one, by its number on the screen
+    QString m_window; ///< the number of the main window
     QRect m_canvas;   ///< on the screen
 };
 

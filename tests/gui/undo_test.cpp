@@ -2,7 +2,6 @@
 #include "platform/qt/canvas_surface.h"
 
 #include <gtest/gtest.h>
-#include <ranges>
 
 namespace schemlet {
 
@@ -12,11 +11,14 @@ constexpr QSize window(300, 200);
 
 struct CanvasUndo : testing::TestWithParam<double> {
     CanvasSurface canvas;
+    std::vector<InkChange> steps;
+    std::vector<std::pair<QImage, QImage>> images; ///< before each step and at the end
 
     CanvasUndo()
     {
         canvas.growTo(window);
         canvas.setRatio(GetParam());
+        images.emplace_back(canvas.picture(), canvas.screenImage());
     }
 
     InkChange draw()
@@ -24,6 +26,22 @@ struct CanvasUndo : testing::TestWithParam<double> {
         canvas.line({1000, 1003}, {3500, 2011});
         canvas.print("12.5 mOhm", false);
         return canvas.takeChange();
+    }
+
+    void endStep()
+    {
+        steps.push_back(canvas.takeChange());
+        EXPECT_FALSE(steps.back().empty());
+        EXPECT_TRUE(canvas.takeChange().empty());
+        images.emplace_back(canvas.picture(), canvas.screenImage());
+    }
+
+    void exchange(std::size_t step, std::size_t image)
+    {
+        canvas.exchange(steps[step]);
+        EXPECT_EQ(canvas.picture(), images[image].first) << step;
+        EXPECT_EQ(canvas.screenImage(), images[image].second) << step;
+        EXPECT_TRUE(canvas.takeChange().empty());
     }
 };
 
@@ -35,65 +53,37 @@ QImage colorfulPicture(QSize size)
     return picture;
 }
 
-using Step = void (*)(CanvasSurface&);
-
-constexpr Step steps[] = {
-    [](CanvasSurface& canvas) {
-        canvas.circle({1500, 1500}, 10);
-    },
-    [](CanvasSurface& canvas) {
-        canvas.box({-100, -100}, {4490, 2990});
-    },
-    [](CanvasSurface& canvas) { canvas.setBackColor(0x0000FF); },
-    [](CanvasSurface& canvas) {
-        canvas.arc({1600, 1500}, 500, 0, 3);
-    },
-    [](CanvasSurface& canvas) {
-        canvas.setPicture(colorfulPicture({700, 150}));
-    },
-    [](CanvasSurface& canvas) {
-        canvas.line({8000, 2000}, {12000, 2900});
-    }, // in what the window does not show
-    [](CanvasSurface& canvas) {
-        canvas.setBackColor(white);
-        canvas.clear();
-    },
-    [](CanvasSurface& canvas) {
-        canvas.setCurrent({300, 300});
-        canvas.print("WiLlIaM", true);
-    },
-    [](CanvasSurface& canvas) {
-        canvas.setPicture(colorfulPicture({100, 100}));
-    },
-};
-
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Ratio, CanvasUndo, testing::Values(1, 1.25, 2));
 
 TEST_P(CanvasUndo, BringsBackEveryPixelOfPictureAndScreen)
 {
-    std::vector<InkChange> changes;
-    std::vector<std::pair<QImage, QImage>> images{{canvas.picture(), canvas.screenImage()}};
-    for (const Step step : steps) {
-        step(canvas);
-        changes.push_back(canvas.takeChange());
-        EXPECT_FALSE(changes.back().empty());
-        EXPECT_TRUE(canvas.takeChange().empty());
-        images.emplace_back(canvas.picture(), canvas.screenImage());
+    canvas.circle({1500, 1500}, 10);
+    endStep();
+    canvas.box({-100, -100}, {4490, 2990});
+    endStep();
+    canvas.setBackColor(0x0000FF);
+    endStep();
+    canvas.arc({1600, 1500}, 500, 0, 3);
+    endStep();
+    canvas.setPicture(colorfulPicture({700, 150}));
+    endStep();
+    canvas.line({8000, 2000}, {12000, 2900}); // in what the window does not show
+    endStep();
+    canvas.setBackColor(white);
+    canvas.clear();
+    endStep();
+    canvas.setCurrent({300, 300});
+    canvas.print("WiLlIaM", true);
+    endStep();
+    canvas.setPicture(colorfulPicture({100, 100}));
+    endStep();
+    for (std::size_t step = steps.size(); step-- > 0;) {
+        exchange(step, step);
     }
-    const auto expectImages = [&](std::size_t step) {
-        EXPECT_EQ(canvas.picture(), images[step].first) << step;
-        EXPECT_EQ(canvas.screenImage(), images[step].second) << step;
-        EXPECT_TRUE(canvas.takeChange().empty());
-    };
-    for (std::size_t step = changes.size(); step-- > 0;) {
-        canvas.exchange(changes[step]);
-        expectImages(step);
-    }
-    for (std::size_t step = 0; step < changes.size(); ++step) {
-        canvas.exchange(changes[step]);
-        expectImages(step + 1);
+    for (std::size_t step = 0; step < steps.size(); ++step) {
+        exchange(step, step + 1);
     }
 }
 

@@ -1,4 +1,6 @@
+#include "platform/qt/accessibility.h"
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/colors.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/text.h"
 #include "shell/product_picture.h"
@@ -11,33 +13,19 @@
 #include "ui_Form4.h"
 #include "ui_Form6.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMetaProperty>
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace schemlet {
 
-// Every control is there, whole, and every text can be read, whatever colours the user gives the canvas and the
-// desktop. Contrast is measured on the pixels.
+// Every control is there and whole, every text can be read, and a screen reader knows every name, whatever colours the
+// user gives the canvas and the desktop. Contrast is measured on the pixels.
 
 namespace {
-
-double luminance(QRgb color)
-{
-    const auto linear = [](int value) {
-        return value <= 10 ? value / 255.0 / 12.92 : std::pow((value / 255.0 + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
-
-/// From 1, the same, to 21, black and white.
-double contrast(QRgb one, QRgb other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
 
 /// The contrast of a text's strokes to what is there without them; 0 if nothing of it is to be seen.
 double textContrast(QWidget& widget, const char* property)
@@ -52,7 +40,7 @@ double textContrast(QWidget& widget, const char* property)
     double best = 0;
     visit(with, [&](int x, int y) {
         if (with.pixel(x, y) != without.pixel(x, y)) {
-            best = std::max(best, contrast(with.pixel(x, y), without.pixel(x, y)));
+            best = std::max(best, contrast(with.pixelColor(x, y), without.pixelColor(x, y)));
         }
     });
     return best;
@@ -82,6 +70,18 @@ void expectWholeAndReadable(const QWidget& window, std::span<const Name> names)
     for (const auto* const control : window.findChildren<QWidget*>()) {
         EXPECT_EQ(control->size(), control->size().expandedTo(control->minimumSizeHint())) << control;
         EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry())) << control;
+    }
+}
+
+/// Adds the names of a control and of all in it.
+void addNames(const QAccessibleInterface& each, std::map<QAccessible::Role, std::string>& names)
+{
+    const std::string name = each.text(QAccessible::Name).simplified().toStdString();
+    EXPECT_TRUE(!name.empty() || each.role() == QAccessible::Window || each.role() == QAccessible::Client);
+    EXPECT_NE(name, "•");
+    names[each.role()] += name + "; ";
+    for (int i = 0; i < each.childCount(); ++i) {
+        addNames(*each.child(i), names);
     }
 }
 
@@ -126,7 +126,7 @@ void expectBordered(QWidget& frame)
     const QPoint middle = edge.center();
     for (const QPoint side : {QPoint(0, middle.y()), QPoint(edge.right(), middle.y()), QPoint(middle.x(), 0),
                               QPoint(middle.x(), edge.bottom())}) {
-        EXPECT_GE(contrast(picture.pixel(side), picture.pixel(3, 3)), 4.5) << side.x() << ' ' << side.y();
+        EXPECT_GE(contrast(picture.pixelColor(side), picture.pixelColor(3, 3)), 4.5) << side.x() << ' ' << side.y();
     }
 }
 
@@ -205,6 +205,9 @@ TEST(Windows, AreWholeAndReadableOnEveryDesktopAndGrowWithItsFont)
 
 TEST(Windows, AreReadableAndBorderedOnEveryColourOfTheCanvas)
 {
+    EXPECT_NEAR(contrast(Qt::white, Qt::black), 21, 0.001);
+    EXPECT_NEAR(contrast(Qt::white, QColor(0x76, 0x76, 0x76)), 4.542, 0.001);
+    EXPECT_NEAR(contrast(Qt::red, Qt::blue), 2.148, 0.001);
     std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
     for (Color i = 0; i < 64; ++i) {
         colors.push_back(85 * (i % 4) | 85 * (i / 4 % 4) << 8 | 85 * (i / 16) << 16);
@@ -222,12 +225,39 @@ TEST(Windows, AreReadableAndBorderedOnEveryColourOfTheCanvas)
             const QRgb chosen = main.markOf(*main.form.Option3);
             const QRgb other = main.markOf(*main.form.Option2); // dark on a dark canvas
             EXPECT_GE(contrast(chosen, other), 3);
-            EXPECT_EQ(luminance(chosen) > luminance(other),
+            EXPECT_EQ(qGray(chosen) > qGray(other),
                       main.form.Option3->palette().color(QPalette::WindowText) == QColor(Qt::white));
             const auto& field = main.form.Text11->palette();
-            EXPECT_GE(contrast(field.color(QPalette::Base).rgb(), field.color(QPalette::Highlight).darker(125).rgb()),
-                      3);
+            EXPECT_GE(contrast(field.color(QPalette::Base), field.color(QPalette::Highlight).darker(125)), 3);
         }
+    }
+}
+
+TEST(Windows, TellAScreenReaderTheNameOfEveryControlButNoDecoration)
+{
+    using enum QAccessible::Role;
+    installAccessibility();
+    FullWindow main;
+    Shown<QDialog, Ui::Form2> help;
+    Shown<QDialog, Ui::Form4> output;
+    const std::tuple<QWidget&, QAccessible::Role, const char*> cases[] = {
+        {main.view, Canvas, "Canvas; "},
+        {main.view, Grouping, "ToolBox; Supply and battery; Supply; Battery; "},
+        {main.view, RadioButton, "Voltage; Current; Positive; Negative; "},
+        {main.view, EditableText, "Value; "},
+        {main.view, StatusBar, "Status bar; "},
+        {main.view, Graphic, ""},
+        {help.view, Dialog, "Help; "},
+        {help.view, CheckBox, "View Shortcut Keys; "},
+        {output.view, EditableText,
+         "Total Resistance ( in ohm ); Total Inductance ( in henry ); Total Capacitance ( in farad ); "
+         "Resonance Frequency; Quality Factor is; Inductive Reactance; Capacitive Reactance; "
+         "Supplied Voltage ( in volts ); Supplied Current ( in ampere ); "},
+    };
+    for (const auto& [window, role, expected] : cases) {
+        std::map<QAccessible::Role, std::string> names;
+        addNames(*QAccessible::queryAccessibleInterface(&window), names);
+        EXPECT_EQ(names[role], expected);
     }
 }
 

@@ -8,15 +8,13 @@ namespace schemlet {
 
 namespace {
 
-enum class Sheet { same, larger, afresh };
-
-/// Two lines, after the image got its size and its paper.
+/// Two lines that are one step.
 struct Step {
     const char* title = "";
     ink::Sheet sheet{};
     ink::Place from{}, via{}, to{};
     std::uint32_t pixel = 1;
-    Sheet made = Sheet::same;
+    bool isAfresh = false; ///< the sheet is blank at first, or else at most larger than before
 };
 
 constexpr ink::Sheet window{56, 44};
@@ -26,74 +24,60 @@ constexpr Step steps[] = {
     {"the same in another color", {40, 36}, {4, 4}, {6, 10}, {20, 12}, 2},
     {"to all edges", {40, 36}, {-20, 20}, {60, 20}, {-20, 28}, 3},
     {"to the corner and beside the first line", {40, 36}, {38, 34}, {32, 16}, {4, 2}},
-    {"in more room", window, {20, 42}, {54, 40}, {54, 4}, 4, Sheet::larger},
-    {"on other paper", {56, 44, 5}, {20, 16}, {20, 2}, {30, 2}, 1, Sheet::afresh},
+    {"in more room", window, {20, 42}, {54, 40}, {54, 4}, 4},
+    {"on other paper", {56, 44, 5}, {20, 16}, {20, 2}, {30, 2}, 1, true},
     {"from the last square to the first", {56, 44, 5}, {50, 42}, {20, 2}, {2, 2}},
-    {"on a smaller sheet", {33, 20, 5}, {30, 18}, {30, 18}, {4, 4}, 2, Sheet::afresh},
-    {"on a larger sheet", {64, 48, 5}, {60, 46}, {60, 46}, {60, 20}, 2, Sheet::afresh},
+    {"on a smaller sheet", {33, 20, 5}, {30, 18}, {30, 18}, {4, 4}, 2, true},
+    {"on a larger sheet", {64, 48, 5}, {60, 46}, {60, 46}, {60, 20}, 2, true},
 };
 
-/// An image that is a part of a larger one.
+/// An image in the corner of a larger one, which is blank outside.
 struct InkedImage {
-    static constexpr std::uint32_t outside = 9;
     Paper room{70, 50};
     ink::Sheet sheet;
     ink::Changes changes{0};
 
     [[nodiscard]] ink::Image image() { return {room.pixels.data(), sheet.width, sheet.height, room.width}; }
 
-    void fit(const ink::Sheet& fitting, bool afresh)
+    /// Keeps what was on the sheet, as far as there is room for it.
+    void fit(const ink::Sheet& fitting)
     {
         for (int y = 0; y < room.height; ++y) {
             for (int x = 0; x < room.width; ++x) {
-                const bool isNew = afresh || x >= sheet.width || y >= sheet.height;
-                const bool isOutside = x >= fitting.width || y >= fitting.height;
-                std::uint32_t& pixel = room.pixels[room.index(x, y)];
-                pixel = isOutside ? outside : isNew ? fitting.paper : pixel;
+                if (x >= std::min(sheet.width, fitting.width) || y >= std::min(sheet.height, fitting.height)) {
+                    room.pixels[room.index(x, y)] = fitting.paper;
+                }
             }
         }
         sheet = fitting;
     }
 
-    void grow(const ink::Sheet& larger)
+    [[nodiscard]] ink::Patch draw(const Step& step)
     {
-        fit(larger, false);
-        changes.grow(larger.width, larger.height);
-    }
-
-    ink::Patch draw(const Step& step)
-    {
-        if (step.made == Sheet::afresh) {
-            fit(step.sheet, true);
+        if (step.isAfresh) {
+            sheet = {};
         }
+        fit(step.sheet);
         changes.mark(ink::line(image(), {step.pixel, 2}, step.from, step.via));
         changes.mark(ink::line(image(), {step.pixel, 2}, step.via, step.to));
         return changes.take(image(), sheet.paper);
     }
 
-    /// As the program does it, whose window is never smaller again.
+    /// As the program does it: its window never shrinks.
     void exchange(ink::Patch& patch)
     {
         ink::Patch reverse = ink::reverse(image(), sheet.paper, patch);
         const auto& before = patch.before;
-        fit({std::max(before.width, window.width), std::max(before.height, window.height), before.paper}, false);
+        fit({std::max(before.width, window.width), std::max(before.height, window.height), before.paper});
         changes.put(image(), sheet.paper, patch);
         patch = std::move(reverse);
     }
 
-    /// What nobody marked.
+    /// The changes that nobody marked.
     [[nodiscard]] ink::Patch overlooked()
     {
         changes.mark({0, 0, sheet.width, sheet.height});
         return changes.take(image(), sheet.paper);
-    }
-
-    /// Beyond its edges too.
-    [[nodiscard]] std::vector<std::uint32_t> pixels() const
-    {
-        auto all = room.pixels;
-        std::ranges::replace(all, outside, sheet.paper);
-        return all;
     }
 };
 
@@ -119,7 +103,7 @@ std::string written(const ink::Patch& patch)
     return text;
 }
 
-/// Steps made one: for a screen that stays, and for another one at the end.
+/// The text of several steps as one, on one screen and then on another.
 std::string joined(const std::vector<ink::Patch>& patches)
 {
     InkChange all{patches.front(), patches.front(), 1};
@@ -137,30 +121,30 @@ std::string joined(const std::vector<ink::Patch>& patches)
 void recordChanges(Record& record)
 {
     InkedImage drawing;
-    drawing.grow(steps[0].sheet);
     std::vector<ink::Patch> patches;
     std::vector<std::vector<std::uint32_t>> images;
     for (const Step& step : steps) {
-        if (step.made == Sheet::larger) {
-            drawing.grow(step.sheet);
+        if (!step.isAfresh) {
+            drawing.changes.grow(step.sheet.width, step.sheet.height);
         }
-        images.push_back(drawing.pixels());
+        images.push_back(drawing.room.pixels);
         patches.push_back(drawing.draw(step));
         record.push_back({std::string("Change, ") + step.title,
                           written(patches.back()) + "overlooked " + written(drawing.overlooked())});
     }
-    images.push_back(drawing.pixels());
+    images.push_back(drawing.room.pixels);
     record.push_back({"Changes in one", joined({patches.begin() + 2, patches.end()})});
     std::string text;
-    for (std::size_t i = patches.size(); i-- > 0;) {
-        drawing.exchange(patches[i]);
-        text += drawing.pixels() == images[i] ? "taken back\n" : drawing.room.text();
+    const auto exchange = [&](std::size_t step, std::size_t image) {
+        drawing.exchange(patches[step]);
+        text += drawing.room.pixels == images[image] ? "as it was\n" : drawing.room.text();
         text += "overlooked " + written(drawing.overlooked());
+    };
+    for (std::size_t step = patches.size(); step-- > 0;) {
+        exchange(step, step);
     }
-    for (std::size_t i = 0; i < patches.size(); ++i) {
-        drawing.exchange(patches[i]);
-        text += drawing.pixels() == images[i + 1] ? "done again\n" : drawing.room.text();
-        text += "overlooked " + written(drawing.overlooked());
+    for (std::size_t step = 0; step < patches.size(); ++step) {
+        exchange(step, step + 1);
     }
     const ink::Area area = ink::line(drawing.image(), {7, 2}, {2, 2}, {50, 2});
     drawing.changes.accept(drawing.image(), drawing.sheet.paper, area);

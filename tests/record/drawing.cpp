@@ -75,31 +75,18 @@ void addComponents(Record& record)
     }
 }
 
-struct Ahead {
-    const char* title = "";
-    int autoJumper = 0;
-    std::optional<Color> color; ///< none: the canvas ends
-    const char* reply = "no";
-    int eraseMode = 0;
-};
-
 void addArrowKeys(Record& record)
 {
-    const Color wire = NotingRig(heading::right).form.wireColor;
-    for (const Ahead& ahead : {Ahead{"a wire ahead", 0, wire}, Ahead{"a wire ahead, jumper", 1, wire, "yes"},
-                               Ahead{"a wire ahead, no jumper", 1, wire}, Ahead{"other ink ahead", 1, wire + 1},
-                               Ahead{"the edge ahead", 1, {}}, Ahead{"erase mode", 1, wire, "yes", 1}}) {
-        for (const auto& arrow : {std::pair{"Right", "right"}, {"Left", "left"}, {"Up", "up"}, {"Down", "down"}}) {
-            NotingRig rig(heading::right, ahead.reply);
-            rig.form.autoJumper = ahead.autoJumper;
-            rig.form.eraseMode = ahead.eraseMode;
-            rig.surface.underPoint = ahead.color;
-            std::string body;
-            for (int i = 0; i < 2; ++i) {
-                body += rig.after(arrow.second);
-                body += "heading " + wayOf(rig.form.heading) + ", looked at " + rig.surface.probedAt + "\n";
-            }
-            record.push_back({std::string(arrow.first) + " arrow, " + ahead.title, body});
+    for (const auto& [ahead, script, reply] : {std::tuple{"a wire ahead", "ahead 116", "no"},
+                                               {"a wire ahead, jumper", "j; ahead 116", "yes"},
+                                               {"a wire ahead, no jumper", "j; ahead 116", "no"},
+                                               {"other ink ahead", "j; ahead 117", "no"},
+                                               {"the edge ahead", "j", "no"},
+                                               {"erase mode", "j; e; ahead 116", "yes"}}) {
+        for (const std::string arrow : {"right", "left", "up", "down"}) {
+            NotingRig rig(heading::right, reply);
+            rig.run(script);
+            record.push_back({"Arrow " + arrow + ", " + ahead, rig.after(arrow) + rig.after(arrow)});
         }
     }
 }

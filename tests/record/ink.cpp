@@ -21,7 +21,10 @@ constexpr Shape shapes[] = {
     {"level line", {-3, 7.2}, {9.7, 7.2}},
     {"steep line", {12.2, 20}, {6, 4.7}},
     {"flat line", {4, 11}, {30, 5.5}},
+    // The dots of a wire are 2/3 of a pixel apart: these are all there are. Together they are solid and even.
     {"wire's dot", {7, 6}, {}, 10 / 15.0},
+    {"wire's next dot", {7 + 2 / 3.0, 6 + 1 / 3.0}, {}, 10 / 15.0},
+    {"wire's third dot", {8 + 1 / 3.0, 6 + 2 / 3.0}, {}, 10 / 15.0},
     {"circle", {8.1, 6.7}, {}, 6.2},
     {"circle over the edge", {15, 1}, {}, 7},
     {"level hop", {8, 8}, {}, 100 / 15.0, 3.5, 0},

@@ -108,6 +108,8 @@ void Rig::happen(std::string_view line)
     const std::string_view verb = words[0];
     if (verb == "canvas") {
         window.canvas = {number(words[1]), number(words[2])};
+    } else if (verb == "ahead") {
+        surface.ahead = static_cast<Color>(number(words[1]));
     } else if (verb == "text") {
         window.at("Text11").text = line.substr(5);
     } else if (verb == "choose") {

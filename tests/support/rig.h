@@ -61,6 +61,7 @@ struct Rig {
     ///     text 12V                 typed into the panel
     ///     source V 12              a whole source: A or V for a supply, + or - for a battery, and its value
     ///     canvas 9000 1450         the canvas's size
+    ///     ahead 0                  the pen has ink of this colour ahead, wherever it stands
     void run(std::string_view script);
 
 private:

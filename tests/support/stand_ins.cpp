@@ -118,9 +118,11 @@ void RecordingSurface::print(std::string_view text, bool endLine)
 
 std::optional<Color> RecordingSurface::point(Point probed) const
 {
-    probedAt = m_notes.kept ? placed(probed.x, probed.y) : "";
-    if (underPoint) {
-        return underPoint;
+    if (ahead) {
+        if (m_notes.kept) {
+            m_notes.add("looks at " + placed(probed.x, probed.y));
+        }
+        return ahead;
     }
     const ink::Place place = pixel(probed);
     if (place.x < 0 || place.y < 0 || place.x >= width || place.y >= height) {

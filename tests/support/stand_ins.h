@@ -66,8 +66,7 @@ public:
     explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
 
     std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
-    std::optional<Color> underPoint; ///< what point() finds anywhere, if set
-    mutable std::string probedAt;    ///< where point() looked last
+    std::optional<Color> ahead;      ///< what point() finds wherever it looks, if set
 
     void line(Point from, Point to) override { stroke("line", from, to); }
     void box(Point from, Point to) override { stroke("box", from, to); }
