@@ -97,8 +97,8 @@ private:
             add(form.*number);
         }
         const Point nextText = surface.current();
-        for (const double place :
-             {form.x, form.y, form.markerLeft, form.markerTop, double(nextText.x), double(nextText.y)}) {
+        for (const double place : {form.x, form.y, form.walkX, form.walkY, form.markerLeft, form.markerTop,
+                                   double(nextText.x), double(nextText.y)}) {
             add(place);
         }
         for (const auto number : {Color(form.heading), Color(form.penMoved), Color(form.diodeCount),

@@ -261,6 +261,7 @@ void StandInWindow::addMenuItem(int depth, const MenuItem& row)
 
 void StandInWindow::addShortcut(const Shortcut& shortcut)
 {
+    m_controls[shortcut.name.text()];
     toolRows += std::string(shortcut.keys) + (shortcut.repeats ? ", repeating: " : ": ") +
                 std::string(shortcut.name.text()) + "\n";
 }
