@@ -27,7 +27,7 @@ constexpr Step steps[] = {
     {"in more room", window, {20, 42}, {54, 40}, {54, 4}, 4},
     {"on other paper", {56, 44, 5}, {20, 16}, {20, 2}, {30, 2}, 1, true},
     {"from the last square to the first", {56, 44, 5}, {50, 42}, {20, 2}, {2, 2}},
-    {"on a smaller sheet", {33, 20, 5}, {30, 18}, {30, 18}, {4, 4}, 2, true},
+    {"on a smaller, upright sheet", {20, 33, 5}, {18, 30}, {18, 30}, {4, 4}, 2, true},
     {"on a larger sheet", {64, 48, 5}, {60, 46}, {60, 46}, {60, 20}, 2, true},
 };
 

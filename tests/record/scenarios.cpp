@@ -72,7 +72,7 @@ constexpr Scenario scenarios[] = {
     // That needs the sum to come back to 0. Without capacitance the frequency stays, too.
     {"Without resistance the last three results stay",
      "R < 10; I < 1; C < 4; click output; R < -10; I < 3; click output; R < 5; C < -4; click output; C < 1; "
-     "click output"},
+     "click output; I < -4; click output"},
     {"Frequency needs both inductance and capacitance", "I < 1; click output; C < 4; click output"},
     {"Supplies are totals", "source V 5; source V 7; source A 0.5; click output; source V -12; click output"},
     {"Negative values have a frequency if both are", "I < -1; C < -4; R < -2; click output"},

@@ -7,7 +7,9 @@
 #include "shell/about.h"
 #include "shell/help.h"
 #include "shell/splash.h"
+#include "tests/support/paper.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <deque>
@@ -63,7 +65,11 @@ private:
 /// Draws, too, for undo: on a small image, and texts as lines.
 class RecordingSurface final : public Surface {
 public:
-    explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
+    explicit RecordingSurface(Notes& notes) : m_notes(notes)
+    {
+        std::ranges::fill(m_paper.pixels, white);
+        m_inkChanges.grow(m_paper.width, m_paper.height);
+    }
 
     std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
     std::optional<Color> ahead;      ///< what point() finds, wherever it looks; none: the canvas ends there
@@ -84,13 +90,9 @@ public:
     void setCurrent(Point place) override { m_current = place; }
     [[nodiscard]] InkChange takeChange() override;
     void exchange(InkChange& change) override;
-    [[nodiscard]] const std::vector<std::uint32_t>& pixels() const { return m_pixels; }
+    [[nodiscard]] const std::vector<std::uint32_t>& pixels() const { return m_paper.pixels; }
 
 private:
-    static constexpr int width = 192; // pixels
-    static constexpr int height = 128;
-
-    [[nodiscard]] ink::Image image() { return {m_pixels.data(), width, height, width}; }
     void draw(Point from, Point to);
     void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
     void stroke(const char* what, Point from, Point to);
@@ -100,12 +102,8 @@ private:
     Point m_current;
     Color m_foreColor = black;
     Color m_backColor = white;
-    std::vector<std::uint32_t> m_pixels = std::vector<std::uint32_t>(std::size_t{width} * height, white);
-    ink::Changes m_inkChanges = [] {
-        ink::Changes changes(white);
-        changes.grow(width, height);
-        return changes;
-    }();
+    Paper m_paper{192, 128};
+    ink::Changes m_inkChanges{white};
 };
 
 enum class Asked { box, text, color, file };
