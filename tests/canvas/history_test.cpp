@@ -8,7 +8,7 @@ namespace schemlet {
 
 namespace {
 
-/// Takes back all steps, and names them from the last to the first.
+/// Undoes all steps. Returns their names, the last step first.
 std::string takenBack(Rig& rig)
 {
     std::string names;
@@ -71,7 +71,7 @@ TEST(History, ForgetsTheOldestStepsBeyondItsMemoryButNeverTheLast)
     const auto draw = [&rig](const char* component, std::size_t bytes) {
         rig.run(component + std::string(" < ") + std::string(bytes, '0') + "5");
     };
-    // Each step has the text typed last, before and after it. 64 MB are eight of these, or almost.
+    // A step stores the last text twice, before and after it. So eight steps take about 64 MB.
     for (const std::string y : {"300", "700", "1100"}) {
         rig.run("press left 1500 " + y + "; release left 1500 " + y);
         draw("r", 4 << 20);

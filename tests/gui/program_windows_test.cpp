@@ -6,7 +6,7 @@
 
 namespace schemlet {
 
-// Windows and menus as they come and go on a real screen.
+// Windows, menus and the toolbox on a real screen.
 
 TEST(Program, SplashMakesWayForTheMainWindowAndHelpThatLeavesTheKeyboardAndSlidesOpen)
 {
@@ -98,7 +98,7 @@ TEST(Program, ToolboxFollowsTheMouse)
         program.moveMouse(place, place);
         waitUntil("the toolbox", [&] { return corner() == QPoint(place, place); });
     }
-    program.moveMouse(202, 202); // which is over it now, and stops it
+    program.moveMouse(202, 202); // over the toolbox, which stops
     program.click(1, 100, 500);
     program.keys("Down Down");
     waitUntil("wire from there", [&] { return program.inked(100, 505); });

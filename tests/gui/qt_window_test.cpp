@@ -16,7 +16,7 @@
 
 namespace schemlet {
 
-// What the main window makes of keys and mouse where that takes better timing than a person has.
+// Keys and mouse in the main window, in sequences that need exact timing.
 
 namespace {
 
@@ -32,7 +32,7 @@ struct QtWindowTest : testing::Test, Shown<QMainWindow, Ui::Form1> {
         return *view.findChild<QMenu*>("rcMenu");
     }
 
-    /// It shows that it has the keyboard.
+    /// The frame shows that the canvas has the keyboard.
     [[nodiscard]] bool canvasIsFramed() const
     {
         return form.Canvas->grab().toImage().pixelColor(0, 300) != QColor(Qt::white);
@@ -125,7 +125,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
         EXPECT_EQ(form.Canvas->mapFromGlobal(menu.pos()), place);
         menu.close();
     }
-    view.activateWindow(); // without a window manager a menu does not give the keyboard back
+    view.activateWindow(); // without a window manager, a closed menu leaves no window active
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     window->show({Frame2, panel, sup, Text11});
     for (QWidget* const focus : std::initializer_list<QWidget*>{form.Canvas, form.Image1, form.Option2}) {
@@ -135,7 +135,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
     }
     form.Text11->setFocus();
     QTest::keyClick(screen, Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text's own
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text box's own menu
     QApplication::activePopupWidget()->close();
     QTest::keyClick(screen, Qt::Key_F10);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "fileMenu");
@@ -165,7 +165,7 @@ TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArr
     EXPECT_FALSE(canvasIsFramed());
     QTest::keyClick(view.focusWidget(), Qt::Key_Space);
     EXPECT_EQ(noted(), "click Image70\n");
-    window->focus(Canvas); // not by Tab
+    window->focus(Canvas); // no frame without Tab
     EXPECT_FALSE(canvasIsFramed());
     form.Canvas->setFocus(Qt::TabFocusReason);
     QTest::mouseClick(form.Canvas, Qt::LeftButton);

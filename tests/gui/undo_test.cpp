@@ -69,7 +69,7 @@ TEST_P(CanvasUndo, BringsBackEveryPixelOfPictureAndScreen)
     endStep();
     canvas.setPicture(colorfulPicture({700, 150}));
     endStep();
-    canvas.line({8000, 2000}, {12000, 2900}); // in what the window does not show
+    canvas.line({8000, 2000}, {12000, 2900}); // in a part that the window does not show
     endStep();
     canvas.setBackColor(white);
     canvas.clear();

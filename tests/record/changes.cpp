@@ -14,7 +14,7 @@ struct Step {
     ink::Sheet sheet{};
     ink::Place from{}, via{}, to{};
     std::uint32_t pixel = 1;
-    bool isAfresh = false; ///< the sheet is blank at first, or else at most larger than before
+    bool isAfresh = false; ///< starts with a blank sheet; otherwise the sheet stays or grows
 };
 
 constexpr ink::Sheet window{56, 44};
@@ -63,7 +63,7 @@ struct InkedImage {
         return changes.take(image(), sheet.paper);
     }
 
-    /// As the program does it: its window never shrinks.
+    /// Swaps the pixels as the program does. Its image is never smaller than the window.
     void exchange(ink::Patch& patch)
     {
         ink::Patch reverse = ink::reverse(image(), sheet.paper, patch);
