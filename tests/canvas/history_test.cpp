@@ -21,7 +21,7 @@ std::string takenBack(Rig& rig)
 
 } // namespace
 
-TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
+TEST(History, MakesOneStepOfWhatAPersonSeesAsOne)
 {
     for (const auto& [script, steps] : std::initializer_list<std::pair<const char*, const char*>>{
              {"right; right; right", "wire"},
@@ -64,7 +64,7 @@ TEST(History, KeepsAsOneStepWhatIsOneToAPerson)
     }
 }
 
-TEST(History, ForgetsTheOldestStepsBeyondItsMemoryButNeverTheLast)
+TEST(History, ForgetsOldStepsToLimitItsMemoryButNeverTheLast)
 {
     Rig rig;
     rig.ink.kept = false;

@@ -24,7 +24,7 @@ struct PanelAndToolbox : testing::Test, Shown<QMainWindow, Ui::Form1> {
 
 } // namespace
 
-TEST_F(PanelAndToolbox, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
+TEST_F(PanelAndToolbox, ToolboxReportsMovesOverItselfEvenIfAButtonIsHeld)
 {
     window->show({Frame2});
     const auto moveTo = [&](QPoint place) { QTest::mouseMove(view.windowHandle(), form.Frame2->mapTo(&view, place)); };
@@ -39,7 +39,7 @@ TEST_F(PanelAndToolbox, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
     EXPECT_EQ(noted(), "hover Frame20\nhover Frame20\n");
 }
 
-TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOthers)
+TEST_F(PanelAndToolbox, MouseReachesTheCanvasOnlyThroughTheLabelOfEraseMode)
 {
     window->show({Frame2, Label27, panel, bat});
     QCoreApplication::processEvents();
@@ -63,7 +63,7 @@ TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOt
     EXPECT_EQ(window->value(Option4), 0);
 }
 
-TEST_F(PanelAndToolbox, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
+TEST_F(PanelAndToolbox, PanelTakesTheFarthestFreeCorner)
 {
     window->show({panel, sup, bat, Text11});
     const std::tuple<QSize, QPoint, bool, bool, Qt::Alignment> cases[] = {
@@ -94,7 +94,7 @@ TEST_F(PanelAndToolbox, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorTo
     }
 }
 
-TEST_F(PanelAndToolbox, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
+TEST_F(PanelAndToolbox, PanelsVisibleButtonsHaveNoGaps)
 {
     window->show({panel, sup, bat, Text11});
     const QRect field = form.Text11->geometry();
@@ -109,7 +109,7 @@ TEST_F(PanelAndToolbox, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
     }
 }
 
-TEST_F(PanelAndToolbox, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
+TEST_F(PanelAndToolbox, ToolboxStaysAtTheRightUntilItIsMovedAndNeverLeavesTheCanvas)
 {
     window->show({Frame2});
     const auto& toolbox = *form.Frame2;

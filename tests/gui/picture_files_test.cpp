@@ -62,7 +62,7 @@ protected:
 
 } // namespace
 
-TEST_F(PictureFiles, LoadsWholePicturesUprightAndOnWhiteAndRefusesPartsOfThem)
+TEST_F(PictureFiles, LoadsWholePicturesUprightAndOnWhite)
 {
     const QImage image = colourful(17, 11);
     const QImage mono = image.convertToFormat(QImage::Format_Mono);
@@ -150,7 +150,7 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
     EXPECT_EQ(contents(path("new")).mid(28, 2).toHex(), "1800");
 }
 
-TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
+TEST_F(PictureFiles, KeepsTheOldFileIfSavingFails)
 {
     makeFolderAndPipe();
     const QByteArray old = written(colourful(9, 9), "bmp");

@@ -106,7 +106,7 @@ QImage page(const QString& file)
 
 } // namespace
 
-TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
+TEST(Printing, PrintsSharplyOnOnePageInNaturalSizeOrShrunkToFit)
 {
     struct Case {
         QSize picture;
@@ -137,7 +137,7 @@ TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
     }
 }
 
-TEST(Printing, LeavesOutWhatGuidesTheHand)
+TEST(Printing, OmitsFocusMarkerAndOutline)
 {
     PrintServer server;
     const auto printed = [&server](auto& shown) {
@@ -166,7 +166,7 @@ TEST(Printing, LeavesOutWhatGuidesTheHand)
     EXPECT_TRUE(main.form.Picture1->isOn() && main.form.Shape1->isOn());
 }
 
-TEST(Printing, TellsWhatKeepsAJobFromThePrinter)
+TEST(Printing, SaysWhyAJobDoesNotReachThePrinter)
 {
     const auto print = [] { printPicture(colourful(30, 30), "drawing"); };
     {

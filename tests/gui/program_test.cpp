@@ -30,7 +30,7 @@ void choose(Program& program, const char* dialog, const QString& name)
 
 } // namespace
 
-TEST(Program, StartsWithABlinkingMarkerAndLaysSolidWireWithShiftAndOnTheNumberPadTooButForNoOtherKey)
+TEST(Program, BlinksItsMarkerAndDrawsSolidWireForArrowKeysOnly)
 {
     Program program;
     program.keys("ctrl+t"); // without the toolbox
@@ -59,7 +59,7 @@ TEST(Program, StartsWithABlinkingMarkerAndLaysSolidWireWithShiftAndOnTheNumberPa
     EXPECT_TRUE(below.copy(106, 0, 66, 3) == solid);
 }
 
-TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
+TEST(Program, JumperQuestionIgnoresTheWalksArrowKeysAndReturnsTheKeyboard)
 {
     Program program;
     program.keys("j");
@@ -75,7 +75,7 @@ TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
               [&] { return program.inked(122, 95) && !program.inked(116, 104) && program.inked(116, 87); });
 }
 
-TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
+TEST(Program, DrawsAndUndoesTypedValuesByKeyboardAlone)
 {
     Program program;
     program.open("r", "RESISTANCE");
@@ -123,7 +123,7 @@ TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
     waitUntil("the wire", [&] { return program.inked(182, 100); });
 }
 
-TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
+TEST(Program, PencilDrawsEveryPointAndInkOutlivesChangesOfTheWindowsSize)
 {
     Program program;
     program.keys("ctrl+t"); // without the toolbox
@@ -164,7 +164,7 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     waitUntil("a line and wire", [&] { return program.inked(1025, 500) && program.inked(1004, 399); });
 }
 
-TEST(Program, SavesReopensAndSavesAgainPixelForPixelUntilItsEnd)
+TEST(Program, SavesAndOpensEveryPixel)
 {
     Program program;
     const auto waitForCanvas = [&](const QImage& picture) { // the marker blinks

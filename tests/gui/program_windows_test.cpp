@@ -8,7 +8,7 @@ namespace schemlet {
 
 // Windows, menus and the toolbox on a real screen.
 
-TEST(Program, SplashMakesWayForTheMainWindowAndHelpThatLeavesTheKeyboardAndSlidesOpen)
+TEST(Program, ShowsSplashThenMainWindowThenHelpWithoutTheKeyboard)
 {
     Program program(Program::Stage::splash);
     program.waitForHelp();
@@ -34,7 +34,7 @@ TEST(Program, SplashMakesWayForTheMainWindowAndHelpThatLeavesTheKeyboardAndSlide
     }
 }
 
-TEST(Program, EndsWithItsMainWindowWhateverElseIsOpen)
+TEST(Program, EndsWithItsMainWindowEvenIfOthersAreOpen)
 {
     Program program;
     program.open("F1", "Help");
@@ -50,7 +50,7 @@ TEST(Program, EndsWithItsMainWindowWhateverElseIsOpen)
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
-TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
+TEST(Program, EndsOnSignalsAndLeavesNothingAtHome)
 {
     for (const auto& [signal, key, window] : {std::tuple{SIGTERM, "ctrl+s", "Save"},
                                               {SIGINT, "ctrl+f", "Color of wires"},
@@ -66,7 +66,7 @@ TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
     }
 }
 
-TEST(Program, MenusOpenByKeyboardAndShortCutsWork)
+TEST(Program, OpensMenusAndWindowsByKeyboard)
 {
     Program program;
     for (const auto& [keys, window] : {std::pair{"alt+f Right Right Up Return", "Output"},

@@ -44,7 +44,7 @@ void sendToBox(const std::vector<Press>& presses)
 
 } // namespace
 
-TEST(QtDialogs, TakeFreshKeysAndTheirRepeatsButNoneOfKeysHeldFromBefore)
+TEST(QtDialogs, IgnoreRepeatsOfKeysThatWereAlreadyHeld)
 {
     QWidget window;
     QtDialogs dialogs(window, window);
@@ -72,7 +72,7 @@ TEST(QtDialogs, TakeFreshKeysAndTheirRepeatsButNoneOfKeysHeldFromBefore)
     }
 }
 
-TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsTypedBeforeTheDialogIsGone)
+TEST(QtDialogs, ProposeTheLastFolderAndReturnTheAcceptedFile)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("drawing.jpeg");
@@ -100,7 +100,7 @@ TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsT
               folder.filePath("new.JPEG").toStdString());
 }
 
-TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
+TEST(QtDialogs, TakeTypedColoursAndMeanNoIfClosed)
 {
     QWidget window;
     QtDialogs dialogs(window, window);
@@ -117,7 +117,7 @@ TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
     EXPECT_EQ(dialogs.messageBox("?", Box::walkQuestion, ""), answer::no);
 }
 
-TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
+TEST(QtDialogs, ReturnTheKeyboardToTheCanvasExceptAfterWarnings)
 {
     QWidget window;
     QWidget canvas(&window);

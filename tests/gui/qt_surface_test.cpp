@@ -72,7 +72,7 @@ QImage after(decltype(ink::enlarge)& bring, const CanvasSurface& surface)
 
 } // namespace
 
-TEST_F(QtSurfaceTest, FindsAgainTheColourThatWasDrawnOnItAndNothingBeyond)
+TEST_F(QtSurfaceTest, ReadsBackColoursButNoneOutside)
 {
     surface.setForeColor(0x1234AB); // red AB, blue 12
     surface.line({300, 750}, {1200, 750});
@@ -93,7 +93,7 @@ TEST_F(QtSurfaceTest, ReportsOnlyThePartThatChanged)
     EXPECT_EQ(changed, QRect(99, 99, 2, 2));
 }
 
-TEST_F(QtSurfaceTest, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
+TEST_F(QtSurfaceTest, PrintsTextWithoutSoftEdgesAtTheCurrentPoint)
 {
     surface.setForeColor(0x0000FF);
     surface.setCurrent({1500, 1500});
@@ -128,7 +128,7 @@ TEST_F(QtSurfaceTest, KeepsAPictureWiderOrTallerThanQtPaints)
 
 INSTANTIATE_TEST_SUITE_P(Ratio, SharpCanvas, testing::Values(1.25, 1.5, 1.75, 2, 3));
 
-TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
+TEST_P(SharpCanvas, HasTheSamePictureOnEveryScreen)
 {
     CanvasSurface plain;
     plain.growTo({300, 200});
@@ -150,7 +150,7 @@ TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
     EXPECT_LT(differing(canvas.screenImage(), fine.image()), fromBlocks);
 }
 
-TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
+TEST_P(SharpCanvas, KeepsPictureAndScreenImageAlike)
 {
     const QImage picture = colourful(500, 70);
     for (const double ratio : {2.25, GetParam(), 1.0}) {
@@ -182,7 +182,7 @@ TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
     }
 }
 
-TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
+TEST(Sharpness, WindowShowsEveryPixelOfTheImage)
 {
     QWidget window;
     CanvasWidget canvas(&window);

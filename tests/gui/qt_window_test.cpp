@@ -41,7 +41,7 @@ struct QtWindowTest : testing::Test, Shown<QMainWindow, Ui::Form1> {
 
 } // namespace
 
-TEST_F(QtWindowTest, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
+TEST_F(QtWindowTest, ReportsEveryReleaseOfAMouseButtonWhereverItHappens)
 {
     const QPoint place = form.Canvas->mapTo(&view, QPoint(100, 200));
     QTest::mouseMove(screen, place);
@@ -82,7 +82,7 @@ TEST_F(QtWindowTest, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
     EXPECT_EQ(noted(), "hover Canvas0\n");
 }
 
-TEST_F(QtWindowTest, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
+TEST_F(QtWindowTest, IgnoresADoubleClickIfItsFirstPressClosedSomethingOtherThanAMenu)
 {
     window->show({Frame2});
     addPopup();
@@ -114,7 +114,7 @@ TEST_F(QtWindowTest, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayB
     }
 }
 
-TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
+TEST_F(QtWindowTest, OpensThePopupMenuOnTheCanvasForEveryMenuKey)
 {
     window->addMenuItem(0, {"file", "&File"});
     window->addMenuItem(1, {"new", "&New"});
@@ -145,7 +145,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
     EXPECT_EQ(noted(), "");
 }
 
-TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
+TEST_F(QtWindowTest, TabVisitsPanelAndToolboxInOrderWhileArrowsAndLettersGoToTheCanvas)
 {
     window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
     window->enable({Text11, Command3, Command7, Command8});
@@ -172,7 +172,7 @@ TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArr
     EXPECT_FALSE(canvasIsFramed());
 }
 
-TEST_F(QtWindowTest, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
+TEST_F(QtWindowTest, ReturnsTheKeyboardToTheCanvasWhenAControlVanishes)
 {
     window->show({Frame2, panel, sup, Text11, Command3});
     for (const auto& [focus, goes] :
@@ -186,7 +186,7 @@ TEST_F(QtWindowTest, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
     }
 }
 
-TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
+TEST_F(QtWindowTest, OnlyTheProgramPressesToolButtonsAndTheirColoursAreSharp)
 {
     window->addToolButton("Line", "", Look::unchecked);
     window->addToolButton("Fore", "", Look::plain);
@@ -213,7 +213,7 @@ TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEvery
     }
 }
 
-TEST_F(QtWindowTest, LeavesTheMarkOfAMenuItemToTheProgramAndHidesItsBars)
+TEST_F(QtWindowTest, OnlyTheProgramMarksMenuItemsAndBarsCanBeHidden)
 {
     window->addMenuItem(0, {"askc", "Ask Confirmation"});
     window->addMenuItem(1, {"gg", "Gates", "", Look::checked});

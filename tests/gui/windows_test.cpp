@@ -261,7 +261,7 @@ TEST(Windows, TellAScreenReaderTheNameOfEveryControlButNoDecoration)
     }
 }
 
-TEST(Windows, StatusBarCutsNoTextButDropsWhatMattersLeast)
+TEST(Windows, StatusBarHidesTheLeastImportantPanelsAndCutsNoText)
 {
     constexpr auto none = "no direction, press an arrow key";
     constexpr auto counted = "Counted but not drawn: no direction";
@@ -310,7 +310,7 @@ TEST(Windows, StayOnTheScreenWhenTheyGrow)
     EXPECT_EQ(help.view.frameGeometry().bottom(), screen.bottom());
 }
 
-TEST(Windows, HelpLiesBesideTheMainOneOrAtTheEndOfItsCanvas)
+TEST(Windows, HelpOpensBesideTheMainWindowOrAtTheBottomOfItsCanvas)
 {
     struct Case {
         QSize screen;

@@ -107,7 +107,7 @@ std::vector<std::string> wholePictures()
 
 } // namespace
 
-TEST(PictureCheck, MissesEveryByteThatIsMissingAndCopesWithAnyByteAnywhere)
+TEST(PictureCheck, NoticesEveryMissingByteAndSurvivesAnyDamage)
 {
     for (const std::string& whole : wholePictures()) {
         SCOPED_TRACE(testing::PrintToString(whole.substr(0, 60)));
@@ -126,7 +126,7 @@ TEST(PictureCheck, MissesEveryByteThatIsMissingAndCopesWithAnyByteAnywhere)
     }
 }
 
-TEST(PictureCheck, BelievesNoHeader)
+TEST(PictureCheck, DoesNotTrustHeaders)
 {
     const std::string some = filler(99);
     const std::string runs = "\x9\1\0\0\x9\2"s; // without an end mark: the header has their length
