@@ -9,7 +9,7 @@
 
 namespace schemlet {
 
-// What texts mean as numbers, against the C library and a regular expression that says which texts are numbers at all.
+// Compares the reading of numbers with the C library, and with a regular expression for what is a number.
 
 namespace {
 
@@ -20,7 +20,7 @@ void demand(bool holds)
     }
 }
 
-/// None where it is too large, not a number where it is none.
+/// Nothing if the number is too large, and not-a-number if the text is none.
 template <double (*convert)(std::string_view)> std::optional<double> converted(std::string_view text)
 {
     try {
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     static const std::regex leading(R"(^[ \t\n\r]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
     static const std::regex trailing(R"([ \t\n\r]*)");
     if (size > 400) {
-        return 0; // regular expressions recurse for every character, and longer texts hold nothing new
+        return 0; // regular expressions recurse for every character
     }
     const std::string text(reinterpret_cast<const char*>(bytes), size);
     std::smatch match;
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const bool all = found && std::regex_match(match.suffix().str(), trailing);
     const std::optional<double> read = converted<leadingNumber>(text);
     const double value =
-        found ? std::strtod(match[1].str().c_str(), nullptr) : 0; // in the locale C, as nothing sets another
+        found ? std::strtod(match[1].str().c_str(), nullptr) : 0; // in the locale C: nothing sets another
     demand(read == (std::isinf(value) ? std::nullopt : std::optional(value)));
     const std::optional<double> whole = converted<toNumber>(text);
     demand(all ? whole == read : whole && std::isnan(*whole));

@@ -22,7 +22,7 @@ std::optional<Fault> faultOf(std::string_view text)
 
 } // namespace
 
-TEST(Numbers, AreReadWholeOrAsTheLongestOneAtTheStart)
+TEST(Numbers, AreReadFromWholeTextsOrFromTheirBeginnings)
 {
     const std::pair<std::string, double> whole[] = {
         {"10", 10}, {" 0.5 ", 0.5}, {"+3", 3},       {"-2.5", -2.5},      {".5", 0.5},
@@ -69,7 +69,7 @@ TEST(ToText, IsAsShortAsFifteenDigitsAllow)
     }
 }
 
-TEST(Numbers, DoNotCareForTheLocale)
+TEST(Numbers, DoNotDependOnTheLocale)
 {
     struct Comma : std::numpunct<char> {
         [[nodiscard]] char do_decimal_point() const override { return ','; }

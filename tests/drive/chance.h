@@ -23,7 +23,7 @@ public:
 
     Color color() { return oneIn(2) ? of(std::array{black, white}) : static_cast<Color>(below(0x1000000)); }
 
-    /// Mostly on the canvas, now and then far away from it.
+    /// Mostly on the canvas, sometimes far away from it.
     float place()
     {
         const auto fine = static_cast<float>(below(200'000)) / 8 - 2000;

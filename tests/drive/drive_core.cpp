@@ -1,5 +1,5 @@
-// Drives the program without a toolkit, as a user without a plan and with no luck:  drive_core SEED EVENTS
-// What breaks is told with the number of its event; the same seed with as many events gets there again.
+// Sends random events to the program, without a toolkit:  drive_core SEED EVENTS
+// A failure names its event. The same seed with as many events fails again.
 
 #include "circuit/output_window.h"
 #include "shell/confirmations.h"
@@ -51,11 +51,10 @@ public:
         }
     }
 
-    /// Takes back some steps and brings them again. On the way, drawing and state are what they were between two
-    /// events.
+    /// Undoes some steps and redoes them. After each of them, drawing and state are as they were after some event.
     void undoAndRedo(long most)
     {
-        for (const int held : {button::left, button::middle, button::right}) { // a step may be going on
+        for (const int held : {button::left, button::middle, button::right}) { // which would keep a step open
             deliver({.kind = Event::Kind::mouseUp, .code = held});
         }
         const auto walk = [this](Name command, long steps) {
@@ -65,9 +64,9 @@ public:
             };
             for (auto place = m_seen.rbegin(); done < steps && !left().empty(); ++done) {
                 events.deliver({.kind = Event::Kind::click, .name = command.text()});
-                // Undo goes back in the order of the events.
+                // Undo passes the events' states in their order.
                 place = std::find(command == control::undo ? place : m_seen.rbegin(), m_seen.rend(), digest());
-                demand(place != m_seen.rend(), "undo or redo leads to what never was");
+                demand(place != m_seen.rend(), "undo or redo leads to a state that never was");
             }
             return done;
         };
@@ -84,7 +83,7 @@ private:
         m_seen.push_back(digest());
     }
 
-    /// Of all that undo takes back.
+    /// A number for the state that undo restores.
     [[nodiscard]] std::size_t digest() const
     {
         std::size_t sum = 0;
@@ -156,7 +155,7 @@ private:
         return {.kind = m_chance.of(kinds), .code = buttons, .place = {m_chance.place(), m_chance.place()}};
     }
 
-    /// The toolkit changes a control before it tells of the click.
+    /// The toolkit changes a control before it reports the click.
     Event click()
     {
         const auto& [name, clicked] = m_chance.of(m_windows);
@@ -166,7 +165,7 @@ private:
         return {Event::Kind::click, name, control};
     }
 
-    /// One of the clocks that run.
+    /// A tick of one of the timers that run.
     Event tick()
     {
         std::vector<Event> running;
@@ -207,7 +206,7 @@ private:
         demand(window.visible(control::Label27) == (form.eraseMode == 1), "the erase label is wrong");
         demand(window.visible(control::panel) == (window.visible(control::sup) || window.visible(control::bat)),
                "the panel does not follow its families");
-        demand((form.statusDue == 1) == (window.intervals.at("statusTimer") != 0), "the status bar waits for no clock");
+        demand((form.statusDue == 1) == (window.intervals.at("statusTimer") != 0), "no timer updates the status bar");
     }
 
     void checkNumbers() const
@@ -229,7 +228,7 @@ private:
                                                                                 {form3::window.text(), about},
                                                                                 {form4::window.text(), output}}};
     Event m_event{};
-    std::vector<std::size_t> m_seen; ///< the digests after all events
+    std::vector<std::size_t> m_seen; ///< the digests after each event
 };
 
 } // namespace
@@ -254,7 +253,7 @@ int main(int argc, char* argv[])
                 drive.undoAndRedo(event % 1'000'000 == 999'999 ? events : 300);
             }
         }
-        constexpr std::size_t most = 100 << 20; // bytes, for the history above all
+        constexpr std::size_t most = 100 << 20; // bytes, mostly for the history
         demand(mallinfo2().uordblks <= most, "memory grows");
     } catch (const std::exception& error) {
         const Event& last = drive.lastEvent();

@@ -44,9 +44,9 @@ Desk::Desk()
     const QByteArray number = waitForLine(m_server);
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");
-    // A bus of the session would be started for this display, and outlive it.
+    // Otherwise a session bus would be started for this display, and would outlive it.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    // A window that opens while the manager still starts may never be shown.
+    // A window that opens before the window manager is ready may never be shown.
     m_manager.start("openbox", {"--startup", "echo ready"});
     waitForLine(m_manager);
 }

@@ -5,22 +5,22 @@
 
 namespace schemlet {
 
-inline constexpr int patience = 15000; // milliseconds, for a busy machine; nothing waits that long by design
+inline constexpr int patience = 15000; // milliseconds; a busy machine needs them
 
-/// Waits for the first line of a process that says so when it is ready.
+/// Waits for the first line of a process. It writes one when it is ready.
 QByteArray waitForLine(QProcess& process);
 void end(QProcess& process);
 
-/// Ended with this object.
+/// A process that ends with this object.
 struct Process : QProcess {
     ~Process() override { end(*this); }
 };
 
-/// Waits until a condition holds; ends the test with these words and a picture of the screen if it never does.
+/// Waits until a condition holds. If it never does, saves a picture of the screen and ends the test with these words.
 void waitUntil(const char* what, const std::function<bool()>& condition);
 
-/// A screen of our own: an X server without a monitor and a window manager on it, ended with this object. Must be made
-/// before the application object, which then looks at the same screen.
+/// A screen for the tests: an X server without a monitor, and a window manager. Create it before the application
+/// object, which then uses the same screen.
 class Desk {
 public:
     Desk();

@@ -8,7 +8,7 @@
 
 namespace schemlet {
 
-// What lies over the canvas.
+// The controls that lie over the canvas.
 
 namespace {
 
@@ -24,7 +24,7 @@ struct PanelAndToolbox : testing::Test, Shown<QMainWindow, Ui::Form1> {
 
 } // namespace
 
-TEST_F(PanelAndToolbox, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
+TEST_F(PanelAndToolbox, ToolboxReportsMovesOverItselfEvenIfAButtonIsHeld)
 {
     window->show({Frame2});
     const auto moveTo = [&](QPoint place) { QTest::mouseMove(view.windowHandle(), form.Frame2->mapTo(&view, place)); };
@@ -34,12 +34,12 @@ TEST_F(PanelAndToolbox, ToolboxCountsEveryMoveOverItselfWithAButtonHeldToo)
     QTest::mousePress(view.windowHandle(), Qt::LeftButton, {}, form.Frame2->mapTo(&view, edge));
     moveTo(edge + QPoint(0, 1));
     moveTo(edge + QPoint(0, 2));
-    moveTo(form.Image1->geometry().center()); // is not over the frame itself
-    moveTo({-50, 0});                         // nor is this
+    moveTo(form.Image1->geometry().center()); // over a button, not the frame itself
+    moveTo({-50, 0});                         // outside the frame
     EXPECT_EQ(noted(), "hover Frame20\nhover Frame20\n");
 }
 
-TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOthers)
+TEST_F(PanelAndToolbox, MouseReachesTheCanvasOnlyThroughTheLabelOfEraseMode)
 {
     window->show({Frame2, Label27, panel, bat});
     QCoreApplication::processEvents();
@@ -52,7 +52,7 @@ TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOt
     EXPECT_EQ(noteOfClick(*form.Label1), "hover Label10\nclick Label10\n");
     EXPECT_EQ(noteOfClick(*form.Image1), "hover Image10\nclick Image10\n");
     EXPECT_EQ(noteOfClick(*form.Option4), "hover 0\nclick Option40\n");
-    // A label is clicked by the left button alone, and only if that comes up over it.
+    // Only the left button clicks a label, and only if it is released over the label.
     const QPoint label = form.Label1->mapTo(&view, form.Label1->rect().center());
     QTest::mouseClick(view.windowHandle(), Qt::RightButton, {}, label);
     QTest::mousePress(view.windowHandle(), Qt::LeftButton, {}, label);
@@ -63,7 +63,7 @@ TEST_F(PanelAndToolbox, MouseGoesThroughTheLabelOfEraseModeAndNoFurtherThanTheOt
     EXPECT_EQ(window->value(Option4), 0);
 }
 
-TEST_F(PanelAndToolbox, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorToolbox)
+TEST_F(PanelAndToolbox, PanelTakesTheFarthestFreeCorner)
 {
     window->show({panel, sup, bat, Text11});
     const std::tuple<QSize, QPoint, bool, bool, Qt::Alignment> cases[] = {
@@ -94,7 +94,7 @@ TEST_F(PanelAndToolbox, PanelLiesInTheFarthestCornerWhereItCoversNeitherPenNorTo
     }
 }
 
-TEST_F(PanelAndToolbox, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
+TEST_F(PanelAndToolbox, PanelsVisibleButtonsHaveNoGaps)
 {
     window->show({panel, sup, bat, Text11});
     const QRect field = form.Text11->geometry();
@@ -109,7 +109,7 @@ TEST_F(PanelAndToolbox, PanelsButtonsHaveNoGapsBetweenThemWhicheverShow)
     }
 }
 
-TEST_F(PanelAndToolbox, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWithinReach)
+TEST_F(PanelAndToolbox, ToolboxStaysAtTheRightUntilItIsMovedAndNeverLeavesTheCanvas)
 {
     window->show({Frame2});
     const auto& toolbox = *form.Frame2;
@@ -121,7 +121,7 @@ TEST_F(PanelAndToolbox, ToolboxKeepsToTheRightUntilItIsDroppedThenWhereItIsButWi
     }
     const QPoint dropped(900, 20);
     for (const auto& [hidden, widths, stays] : {std::tuple<bool, QList<int>, bool>{false, {1050}, true},
-                                                {true, {600, 1000}, true}, // nobody sees it there
+                                                {true, {600, 1000}, true}, // hidden while the window is too narrow
                                                 {false, {600}, false},
                                                 {true, {600}, false}}) {
         resize(1000, 700);

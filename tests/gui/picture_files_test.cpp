@@ -18,7 +18,7 @@ namespace {
 
 using testing::ThrowsMessage;
 
-/// Files grow up to this size only, as on a disk that is full.
+/// Lets files grow only to this size, as a full disk does.
 void limitFiles(rlim_t bytes)
 {
     const rlimit limit{bytes, RLIM_INFINITY};
@@ -62,13 +62,13 @@ protected:
 
 } // namespace
 
-TEST_F(PictureFiles, LoadsWholePicturesUprightAndOnWhiteAndRefusesPartsOfThem)
+TEST_F(PictureFiles, LoadsWholePicturesUprightAndOnWhite)
 {
     const QImage image = colourful(17, 11);
     const QImage mono = image.convertToFormat(QImage::Format_Mono);
-    QImage large(8192, 4100, QImage::Format_RGBX64); // 256.25 MB; on its own, Qt stops at 256
+    QImage large(8192, 4100, QImage::Format_RGBX64); // 256.25 MB; Qt's own limit is 256
     large.fill(Qt::green);
-    QImage wide(40000, 2, QImage::Format_ARGB32); // than Qt paints
+    QImage wide(40000, 2, QImage::Format_ARGB32); // wider than Qt can paint
     wide.fill(Qt::transparent);
     wide.setPixel(39999, 1, qRgba(255, 0, 0, 128));
     QImage wideOnWhite(wide.size(), QImage::Format_RGB32);
@@ -102,7 +102,7 @@ TEST_F(PictureFiles, NamesTheFileAndTheCause)
     makeFolderAndPipe();
     const QByteArray bmp = written(colourful(9, 9), "bmp");
     QFile large(store("large.bmp", bmp));
-    ASSERT_TRUE(large.resize(10'000'000'000)); // most of which takes no room on the disk
+    ASSERT_TRUE(large.resize(10'000'000'000)); // a sparse file
     const auto huge =
         QByteArray::fromHex("89504E470D0A1A0A0000000D494844520000EA600000EA600800000000A5B92A9E0000000049444154");
     const std::pair<QString, std::string> cases[] = {
@@ -150,7 +150,7 @@ TEST_F(PictureFiles, SavesABmpUnderExactlyThisPath)
     EXPECT_EQ(contents(path("new")).mid(28, 2).toHex(), "1800");
 }
 
-TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
+TEST_F(PictureFiles, KeepsTheOldFileIfSavingFails)
 {
     makeFolderAndPipe();
     const QByteArray old = written(colourful(9, 9), "bmp");
@@ -170,7 +170,7 @@ TEST_F(PictureFiles, LeavesTheOldFileAloneWhereItCannotSave)
         allow("old.bmp", file);
         allow(".", folder);
         constexpr uid_t nobody = 65534;
-        const bool isRoot = setresuid(nobody, nobody, 0) == 0; // who may write anywhere
+        const bool isRoot = setresuid(nobody, nobody, 0) == 0; // root may write anywhere
         expectNotSaved("old.bmp", cause);
         EXPECT_TRUE(!isRoot || setresuid(0, 0, 0) == 0);
     }

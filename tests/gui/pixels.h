@@ -4,7 +4,7 @@
 
 namespace schemlet {
 
-/// Looks at each pixel's place, row by row.
+/// Calls look(x, y) for each pixel, row by row.
 template <typename Look> void visit(const QImage& image, Look look)
 {
     for (int y = 0; y < image.height(); ++y) {
@@ -33,7 +33,7 @@ inline int inkedPixels(const QImage& image)
     return pixels;
 }
 
-/// The smallest part that holds all ink.
+/// The smallest rectangle that contains all ink.
 inline QRect inkedPart(const QImage& image)
 {
     QRect part;

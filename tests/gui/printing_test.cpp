@@ -24,9 +24,9 @@ using testing::ThrowsMessage;
 constexpr int dotsPerPoint = 2;
 constexpr auto queue = "Desk_Printer";
 
-/// A print service of our own with one queue, the default one, on A4 with margins of 18, 24, 24 and 36 points at the
-/// left, top, right and bottom. It has no network port and keeps to one folder. CUPS_SERVER shows this process the way
-/// to it; afterwards it leads nowhere, so that no test ever reaches a real printer.
+/// A print service for the tests. It has one queue, the default one, on A4 with margins of 18, 24, 24 and 36 points
+/// (left, top, right, bottom). It has no network port and writes to one folder only. CUPS_SERVER stays set after it has
+/// ended, so that no test ever reaches a real printer.
 class PrintServer {
 public:
     PrintServer();
@@ -34,11 +34,11 @@ public:
     /// Calls one of the commands that change a queue.
     static void run(const char* command)
     {
-        // These are an administrator's, in a folder that others do not search.
+        // These commands are for administrators: the search path may lack their folder.
         EXPECT_EQ(QProcess::execute(QString("/usr/sbin/") + command, {queue}), 0) << command;
     }
 
-    /// The printed files, the last one at the end, once no job is waiting any more.
+    /// Waits until no job is left. Returns the printed files; the last one is the newest.
     [[nodiscard]] QStringList printedFiles() const
     {
         waitUntil("a job's end", [] {
@@ -68,15 +68,15 @@ PrintServer::PrintServer()
         QByteArray text = contents(QString(SCHEMLET_PRINT_SERVER_SETTINGS "/") + name);
         store(folder.filePath(name), text.replace('@', QFile::encodeName(folder.path())));
     }
-    // A copy, as a security profile may confine the installed one to the folders of the system.
+    // A copy, because a security profile may confine the installed program to the system's folders.
     const QString program = folder.filePath("cupsd");
     QFile::copy("/usr/sbin/cupsd", program);
     m_server.setStandardErrorFile(folder.filePath("log"));
     m_server.start(program, {"-f", "-c", folder.filePath("cupsd.conf"), "-s", folder.filePath("cups-files.conf")});
     const QByteArray socket = QFile::encodeName(folder.filePath("socket"));
     qputenv("CUPS_SERVER", socket);
-    cupsSetServer(socket.constData()); // where the variable has been read before
-    // Who runs the tests may have a favourite printer, by these ways.
+    cupsSetServer(socket.constData()); // if the variable has been read before
+    // The user's own settings may name another printer.
     qputenv("CUPS_SERVERROOT", QFile::encodeName(folder.path()));
     qputenv("HOME", QFile::encodeName(folder.path()));
     qunsetenv("LPDEST");
@@ -88,38 +88,38 @@ PrintServer::PrintServer()
     });
 }
 
-/// The picture as it lies in a printed file, before any printer scales it.
+/// The picture in a printed file, before any printer scales it.
 QImage printedPicture(const QString& file)
 {
     EXPECT_EQ(QProcess::execute("pdfimages", {"-png", file, file}), 0);
     return QImage(file + "-000.png").convertToFormat(QImage::Format_RGB32);
 }
 
-/// The paper as it lies in the printer's tray.
+/// The page as it looks on paper.
 QImage page(const QString& file)
 {
     const QString resolution = QString::number(72 * dotsPerPoint);
     EXPECT_EQ(QProcess::execute("pdftoppm", {"-r", resolution, "-png", file, file}), 0);
-    EXPECT_FALSE(QFile::exists(file + "-2.png")); // there is one page
+    EXPECT_FALSE(QFile::exists(file + "-2.png")); // there is only one page
     return QImage(file + "-1.png");
 }
 
 } // namespace
 
-TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
+TEST(Printing, PrintsSharplyOnOnePageInNaturalSizeOrShrunkToFit)
 {
     struct Case {
         QSize picture;
         QSize paper;
-        QRect inked; ///< in points; 96 pixels are 72 of them
+        QRect inked; ///< in points; 72 points are 96 pixels
         double ratio = 1;
     };
     const Case cases[] = {
         {{300, 400}, {595, 842}, {182, 24, 225, 300}},
         {{640, 400}, {842, 595}, {181, 24, 480, 300}},
-        {{2000, 1000}, {842, 595}, {36, 24, 770, 385}}, // the edges of the upright page, 36 and 18, now at the sides
+        {{2000, 1000}, {842, 595}, {36, 24, 770, 385}}, // the margins turn with the page
         {{1000, 4000}, {595, 842}, {197, 24, 195, 782}},
-        {{600, 800}, {595, 842}, {182, 24, 225, 300}, 2}, // from a sharp screen: as large, only finer
+        {{600, 800}, {595, 842}, {182, 24, 225, 300}, 2}, // a sharp screen: the same size, but finer
     };
     PrintServer server;
     for (const Case& c : cases) {
@@ -137,7 +137,7 @@ TEST(Printing, PutsThePictureSharplyOnOnePageInItsNaturalSizeOrShrunkToFit)
     }
 }
 
-TEST(Printing, LeavesOutWhatGuidesTheHand)
+TEST(Printing, OmitsFocusMarkerAndOutline)
 {
     PrintServer server;
     const auto printed = [&server](auto& shown) {
@@ -146,7 +146,7 @@ TEST(Printing, LeavesOutWhatGuidesTheHand)
     };
     Shown<QDialog, Ui::Form4> output;
     const QImage page = printed(output);
-    EXPECT_LT(differing(page, output.view.grab().toImage()), 1000); // but for what shows where the focus is
+    EXPECT_LT(differing(page, output.view.grab().toImage()), 1000); // only the focus ring differs
     QWidget* const first = output.view.focusWidget();
     QTest::keyClick(&output.view, Qt::Key_Tab);
     EXPECT_NE(output.view.focusWidget(), first);
@@ -166,14 +166,14 @@ TEST(Printing, LeavesOutWhatGuidesTheHand)
     EXPECT_TRUE(main.form.Picture1->isOn() && main.form.Shape1->isOn());
 }
 
-TEST(Printing, TellsWhatKeepsAJobFromThePrinter)
+TEST(Printing, SaysWhyAJobDoesNotReachThePrinter)
 {
     const auto print = [] { printPicture(colourful(30, 30), "drawing"); };
     {
         const PrintServer server;
         PrintServer::run("cupsdisable");
-        print(); // waits until the queue runs again, which has room for this one only
-        // Nobody could know this beforehand, and the service says why.
+        print(); // waits in the queue, which has room for one job
+        // Only the service knows this, and its answer says why.
         EXPECT_THAT(print, ThrowsMessage<RuntimeError>(testing::StartsWith(
                                "Printer error\n\nThe printer Desk_Printer did not get the job:\n")));
         PrintServer::run("cupsenable");

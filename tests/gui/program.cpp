@@ -133,7 +133,7 @@ void Program::findCanvas()
         return place;
     };
     const QPoint inside(60, 200);
-    const QPoint bottom = paperEnds(inside, {0, 1}) - QPoint(0, 4); // below toolbox and drawing
+    const QPoint bottom = paperEnds(inside, {0, 1}) - QPoint(0, 4); // below the toolbox and the drawing
     m_canvas.setTopLeft({paperEnds(bottom, {-1, 0}).x(), paperEnds(inside, {0, -1}).y()});
     m_canvas.setBottomRight({paperEnds(bottom, {1, 0}).x(), bottom.y() + 4});
 }

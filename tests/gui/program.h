@@ -19,7 +19,7 @@ public:
         drawing, ///< the main window has it, and the help window is closed
     };
 
-    /// Starts it in a home folder of its own, and waits until it has come so far.
+    /// Starts the program in a home folder of its own, and waits for this stage.
     explicit Program(Stage until = Stage::drawing);
 
     /// Presses keys one after the other, by the names that xdotool has for them.
@@ -51,7 +51,7 @@ public:
 
     /// Call while the splash is open: waits for the main window, and for the help window that opens after it.
     void waitForHelp();
-    /// Call after that. Then the canvas can be looked at.
+    /// Call after waitForHelp(), and before anything that needs the canvas.
     void closeHelp();
 
     [[nodiscard]] QDir home() const { return QDir(m_home.path()); }

@@ -8,12 +8,12 @@
 
 namespace schemlet {
 
-// Drawings, from the start to the disk. Places are canvas pixels: the pen starts at (106, 100), a step is 3 1/3 pixels
-// long.
+// Drawings, from the first wire to the file. Places are canvas pixels. The pen starts at (106, 100), and a step is
+// 3 1/3 pixels long.
 
 namespace {
 
-/// Answers the question that a short-cut brings.
+/// Presses a shortcut and answers the question that it opens.
 void command(Program& program, const char* key, const char* reply)
 {
     program.open(key, "Schemlet 2.0");
@@ -30,7 +30,7 @@ void choose(Program& program, const char* dialog, const QString& name)
 
 } // namespace
 
-TEST(Program, StartsWithABlinkingMarkerAndLaysSolidWireWithShiftAndOnTheNumberPadTooButForNoOtherKey)
+TEST(Program, BlinksItsMarkerAndDrawsSolidWireForArrowKeysOnly)
 {
     Program program;
     program.keys("ctrl+t"); // without the toolbox
@@ -59,7 +59,7 @@ TEST(Program, StartsWithABlinkingMarkerAndLaysSolidWireWithShiftAndOnTheNumberPa
     EXPECT_TRUE(below.copy(106, 0, 66, 3) == solid);
 }
 
-TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
+TEST(Program, JumperQuestionIgnoresTheWalksArrowKeysAndReturnsTheKeyboard)
 {
     Program program;
     program.keys("j");
@@ -68,14 +68,14 @@ TEST(Program, JumperQuestionIsNotForTheWalksArrowKeysAndGivesTheKeyboardBack)
     program.keys("Left", 3);
     program.keys("Up", 9);
     program.waitForWindow("POINT (or) LINE AHEAD...");
-    program.keys("Up", 3); // the walk's last ones, which would move the focus from Yes to No
+    program.keys("Up", 3); // still of the walk; they would move the focus from Yes to No
     program.answer("POINT (or) LINE AHEAD...", "Return");
     program.keys("Up");
     waitUntil("the hop's bulge, and the next step",
               [&] { return program.inked(122, 95) && !program.inked(116, 104) && program.inked(116, 87); });
 }
 
-TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
+TEST(Program, DrawsAndUndoesTypedValuesByKeyboardAlone)
 {
     Program program;
     program.open("r", "RESISTANCE");
@@ -85,14 +85,14 @@ TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
               [&] { return program.inked(169, 113) && inkedPixels(program.canvas().copy(137, 116, 14, 10)) > 5; });
     EXPECT_LE(inkedPixels(program.canvas().copy(153, 116, 14, 10)), 5); // not "4710": the preset was selected
 
-    const auto waitForPanel = [&](bool shown) { // in the corner at the bottom
+    const auto waitForPanel = [&](bool shown) { // at the bottom of the canvas
         waitUntil("the panel", [&] { return (inkedPart(program.canvas()).bottom() > 400) == shown; });
     };
     program.keys("s");
     waitForPanel(true);
     program.keys("Right Right Right"); // the canvas still has the keyboard
     waitUntil("wire", [&] { return program.inked(182, 100); });
-    program.keys("alt+v 1 ctrl+z 2 Return"); // Alt+V is the View menu's too, and Ctrl+Z takes back the 1 alone
+    program.keys("alt+v 1 ctrl+z 2 Return"); // Alt+V could also open the View menu, and Ctrl+Z undo the wire
     waitUntil("the circle", [&] { return program.inked(197, 87) && program.inked(197, 113); });
     waitForPanel(false);
     program.keys("Right Right");
@@ -116,14 +116,14 @@ TEST(Program, ValuesAndSourcesAreTypedDrawnAndUndoneByKeyboardAlone)
     waitForResistance(true);
     program.keys("s alt+v");
     waitForPanel(true);
-    program.keys("ctrl+y ctrl+shift+z Escape"); // the field's own
+    program.keys("ctrl+y ctrl+shift+z Escape"); // these go to the text box
     waitForPanel(false);
     EXPECT_FALSE(program.inked(182, 100));
     program.keys("ctrl+shift+z");
     waitUntil("the wire", [&] { return program.inked(182, 100); });
 }
 
-TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
+TEST(Program, PencilDrawsEveryPointAndInkOutlivesChangesOfTheWindowsSize)
 {
     Program program;
     program.keys("ctrl+t"); // without the toolbox
@@ -133,7 +133,7 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     };
     waitForMenu(true);
     program.keys("p");
-    waitForMenu(false); // it no longer holds the mouse
+    waitForMenu(false); // it has released the mouse
     QList<QPoint> places{{200, 400}};
     QString fastStroke;
     for (int i = 1; i < 2000; ++i) {
@@ -144,7 +144,7 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
     program.moveMouse(200, 400);
     program.xdotool("mousedown 1");
     program.moveMouse(198, 398);
-    waitUntil("ink, as the window manager has let the press through", [&] { return program.inked(198, 398); });
+    waitUntil("the press has passed the window manager, and draws", [&] { return program.inked(198, 398); });
     program.moveMouse(200, 400);
     program.xdotool(fastStroke + "mouseup 1");
     waitUntil("every point, and the marker at the end", [&] {
@@ -160,11 +160,11 @@ TEST(Program, MouseToolsDrawEveryPointOfWhatOutlivesSmallerAndLargerWindows)
               [&] { return program.canvas().copy(0, 300, 900, 300) == before && !program.inked(1025, 500); });
     program.keys("ctrl+l");
     program.drag(1000, 400, 1050, 600);
-    program.keys("Right Right"); // the pen went along to the last press of the left button
+    program.keys("Right Right"); // the pen was moved by the last press of the left button
     waitUntil("a line and wire", [&] { return program.inked(1025, 500) && program.inked(1004, 399); });
 }
 
-TEST(Program, SavesReopensAndSavesAgainPixelForPixelUntilItsEnd)
+TEST(Program, SavesAndOpensEveryPixel)
 {
     Program program;
     const auto waitForCanvas = [&](const QImage& picture) { // the marker blinks

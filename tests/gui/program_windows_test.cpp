@@ -6,9 +6,9 @@
 
 namespace schemlet {
 
-// Windows and menus as they come and go on a real screen.
+// Windows, menus and the toolbox on a real screen.
 
-TEST(Program, SplashMakesWayForTheMainWindowAndHelpThatLeavesTheKeyboardAndSlidesOpen)
+TEST(Program, ShowsSplashThenMainWindowThenHelpWithoutTheKeyboard)
 {
     Program program(Program::Stage::splash);
     program.waitForHelp();
@@ -34,7 +34,7 @@ TEST(Program, SplashMakesWayForTheMainWindowAndHelpThatLeavesTheKeyboardAndSlide
     }
 }
 
-TEST(Program, EndsWithItsMainWindowWhateverElseIsOpen)
+TEST(Program, EndsWithItsMainWindowEvenIfOthersAreOpen)
 {
     Program program;
     program.open("F1", "Help");
@@ -50,7 +50,7 @@ TEST(Program, EndsWithItsMainWindowWhateverElseIsOpen)
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
-TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
+TEST(Program, EndsOnSignalsAndLeavesNothingAtHome)
 {
     for (const auto& [signal, key, window] : {std::tuple{SIGTERM, "ctrl+s", "Save"},
                                               {SIGINT, "ctrl+f", "Color of wires"},
@@ -66,7 +66,7 @@ TEST(Program, SignalsEndItWhateverIsOpenAndNothingIsLeftAtHome)
     }
 }
 
-TEST(Program, MenusOpenByKeyboardAndShortCutsWork)
+TEST(Program, OpensMenusAndWindowsByKeyboard)
 {
     Program program;
     for (const auto& [keys, window] : {std::pair{"alt+f Right Right Up Return", "Output"},
@@ -98,7 +98,7 @@ TEST(Program, ToolboxFollowsTheMouse)
         program.moveMouse(place, place);
         waitUntil("the toolbox", [&] { return corner() == QPoint(place, place); });
     }
-    program.moveMouse(202, 202); // which is over it now, and stops it
+    program.moveMouse(202, 202); // over the toolbox, which stops
     program.click(1, 100, 500);
     program.keys("Down Down");
     waitUntil("wire from there", [&] { return program.inked(100, 505); });

@@ -18,7 +18,7 @@ struct Press {
     enum { fresh, repeat, markedRepeat } kind = fresh; ///< the toolkit marks some repeats
 };
 
-/// Once the next box is open; then clicks its default button.
+/// Waits for the next box, sends it these keys, and presses Enter.
 void sendToBox(const std::vector<Press>& presses)
 {
     QTimer::singleShot(0, qApp, [presses] {
@@ -33,7 +33,7 @@ void sendToBox(const std::vector<Press>& presses)
         for (const Press& press : presses) {
             static quint64 time = 0;
             ++time;
-            if (press.kind == Press::repeat) { // X11 tells of it as a release and a press at the same time
+            if (press.kind == Press::repeat) { // X11 reports a release and a press at the same time
                 send(QEvent::KeyRelease, press, time);
             }
             send(QEvent::KeyPress, press, time);
@@ -44,7 +44,7 @@ void sendToBox(const std::vector<Press>& presses)
 
 } // namespace
 
-TEST(QtDialogs, TakeFreshKeysAndTheirRepeatsButNoneOfKeysHeldFromBefore)
+TEST(QtDialogs, IgnoreRepeatsOfKeysThatWereAlreadyHeld)
 {
     QWidget window;
     QtDialogs dialogs(window, window);
@@ -72,7 +72,7 @@ TEST(QtDialogs, TakeFreshKeysAndTheirRepeatsButNoneOfKeysHeldFromBefore)
     }
 }
 
-TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsTypedBeforeTheDialogIsGone)
+TEST(QtDialogs, ProposeTheLastFolderAndReturnTheAcceptedFile)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("drawing.jpeg");
@@ -100,7 +100,7 @@ TEST(QtDialogs, ProposeTheFolderUsedLastAndTakeTheFileThatWasAcceptedWhateverIsT
               folder.filePath("new.JPEG").toStdString());
 }
 
-TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
+TEST(QtDialogs, TakeTypedColoursAndMeanNoIfClosed)
 {
     QWidget window;
     QtDialogs dialogs(window, window);
@@ -117,7 +117,7 @@ TEST(QtDialogs, TakeAColourThatIsTypedAndAClosedFrameForNo)
     EXPECT_EQ(dialogs.messageBox("?", Box::walkQuestion, ""), answer::no);
 }
 
-TEST(QtDialogs, GiveTheKeyboardToTheCanvasButLeaveItWhereAWarningCameFrom)
+TEST(QtDialogs, ReturnTheKeyboardToTheCanvasExceptAfterWarnings)
 {
     QWidget window;
     QWidget canvas(&window);

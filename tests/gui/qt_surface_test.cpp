@@ -13,7 +13,7 @@ namespace schemlet {
 
 namespace {
 
-/// 200 x 200 pixels, and what of them changed.
+/// A surface of 200 x 200 pixels, and the part that changed.
 struct QtSurfaceTest : testing::Test {
     QtSurface surface;
     QRect changed;
@@ -25,7 +25,7 @@ struct QtSurfaceTest : testing::Test {
     }
 };
 
-/// A bit of everything that leaves ink or wipes it, at places between the pixels and over the edges too.
+/// Draws and wipes with every kind of stroke, also between pixels and over the edges.
 void drawEverything(Surface& surface)
 {
     drawProductPicture(surface);
@@ -39,7 +39,7 @@ void drawEverything(Surface& surface)
         const auto at = static_cast<float>(37 * i);
         surface.line({at, 2400 + at / 3}, {at + 37, 2400 + (at + 37) / 3});
     }
-    for (int i = 0; i < 15; ++i) { // in the end in white, each at another place of the same pixels
+    for (int i = 0; i < 15; ++i) { // each at another place in the same pixels, the last ones in white
         const auto at = static_cast<float>(2200 + i);
         surface.setForeColor(i < 7 ? black : white);
         surface.circle({at + 1500, at}, 300);
@@ -49,14 +49,14 @@ void drawEverything(Surface& surface)
     }
 }
 
-/// 300 x 200 pixels, as a screen of some ratio shows them.
+/// A canvas of 300 x 200 pixels.
 struct SharpCanvas : testing::TestWithParam<double> {
     CanvasSurface canvas;
     SharpCanvas() { canvas.growTo({300, 200}); }
 };
 
-/// The screen image after the core's ink brought all of it into line with the picture once more. To enlarge is to show
-/// the picture's own pixels; to reconcile changes nothing if each stroke was reconciled.
+/// The screen image after one more call of ink::enlarge or ink::reconcile for all of it. enlarge() shows the picture's
+/// own pixels; reconcile() changes nothing if every stroke was reconciled.
 QImage after(decltype(ink::enlarge)& bring, const CanvasSurface& surface)
 {
     const auto pixels = [](QImage& image, double scale) {
@@ -72,7 +72,7 @@ QImage after(decltype(ink::enlarge)& bring, const CanvasSurface& surface)
 
 } // namespace
 
-TEST_F(QtSurfaceTest, FindsAgainTheColourThatWasDrawnOnItAndNothingBeyond)
+TEST_F(QtSurfaceTest, ReadsBackColoursButNoneOutside)
 {
     surface.setForeColor(0x1234AB); // red AB, blue 12
     surface.line({300, 750}, {1200, 750});
@@ -93,7 +93,7 @@ TEST_F(QtSurfaceTest, ReportsOnlyThePartThatChanged)
     EXPECT_EQ(changed, QRect(99, 99, 2, 2));
 }
 
-TEST_F(QtSurfaceTest, PrintsHardEdgedFromTheCurrentPointAndEndsTheLineOrNot)
+TEST_F(QtSurfaceTest, PrintsTextWithoutSoftEdgesAtTheCurrentPoint)
 {
     surface.setForeColor(0x0000FF);
     surface.setCurrent({1500, 1500});
@@ -128,12 +128,12 @@ TEST_F(QtSurfaceTest, KeepsAPictureWiderOrTallerThanQtPaints)
 
 INSTANTIATE_TEST_SUITE_P(Ratio, SharpCanvas, testing::Values(1.25, 1.5, 1.75, 2, 3));
 
-TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
+TEST_P(SharpCanvas, HasTheSamePictureOnEveryScreen)
 {
     CanvasSurface plain;
     plain.growTo({300, 200});
     drawEverything(plain);
-    EXPECT_EQ(&plain.screenImage(), &plain.picture()); // one image and no more
+    EXPECT_EQ(&plain.screenImage(), &plain.picture()); // no second image
     EXPECT_GT(inkedPixels(plain.picture()), 2000);
 
     canvas.setRatio(GetParam());
@@ -150,7 +150,7 @@ TEST_P(SharpCanvas, PictureIsTheSameOnEveryScreenWhichShowsItFiner)
     EXPECT_LT(differing(canvas.screenImage(), fine.image()), fromBlocks);
 }
 
-TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
+TEST_P(SharpCanvas, KeepsPictureAndScreenImageAlike)
 {
     const QImage picture = colourful(500, 70);
     for (const double ratio : {2.25, GetParam(), 1.0}) {
@@ -169,7 +169,8 @@ TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
         EXPECT_EQ(canvas.screenImage(), after(ink::enlarge, canvas));
         drawEverything(canvas);
         canvas.growTo(canvas.picture().size() + QSize(60, 20));
-        EXPECT_EQ(canvas.screenImage(), after(ink::reconcile, canvas)); // the picture's hidden part too
+        EXPECT_EQ(canvas.screenImage(),
+                  after(ink::reconcile, canvas)); // also where the window did not show the picture
         canvas.clear();
         EXPECT_EQ(inkedPixels(canvas.screenImage()), 0);
         canvas.line({4000, 2000}, {8800, 3500});
@@ -181,16 +182,16 @@ TEST_P(SharpCanvas, PaperPicturesLargerWindowsAndOtherScreensReachBothImages)
     }
 }
 
-TEST(Sharpness, WindowShowsTheImagePixelByPixelHoweverItIsRepainted)
+TEST(Sharpness, WindowShowsEveryPixelOfTheImage)
 {
     QWidget window;
     CanvasWidget canvas(&window);
-    canvas.setGeometry(7, 11, 301, 203); // between the screen's pixels where the ratio is odd
+    canvas.setGeometry(7, 11, 301, 203); // between two screen pixels at some ratios
     window.resize(320, 230);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     canvas.report = [](const Event&) {};
-    for (int i = 0; i < 100; ++i) { // many little repaints
+    for (int i = 0; i < 100; ++i) { // many small repaints
         const auto step = static_cast<float>(i);
         canvas.surface().setForeColor(static_cast<Color>(i * 4000));
         canvas.surface().circle({300 + 37 * step, 300 + 17 * step}, 20 + 7 * step);

@@ -16,7 +16,7 @@
 
 namespace schemlet {
 
-// What the main window makes of keys and mouse where that takes better timing than a person has.
+// Keys and mouse in the main window, in sequences that need exact timing.
 
 namespace {
 
@@ -32,7 +32,7 @@ struct QtWindowTest : testing::Test, Shown<QMainWindow, Ui::Form1> {
         return *view.findChild<QMenu*>("rcMenu");
     }
 
-    /// It shows that it has the keyboard.
+    /// The frame shows that the canvas has the keyboard.
     [[nodiscard]] bool canvasIsFramed() const
     {
         return form.Canvas->grab().toImage().pixelColor(0, 300) != QColor(Qt::white);
@@ -41,7 +41,7 @@ struct QtWindowTest : testing::Test, Shown<QMainWindow, Ui::Form1> {
 
 } // namespace
 
-TEST_F(QtWindowTest, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
+TEST_F(QtWindowTest, ReportsEveryReleaseOfAMouseButtonWhereverItHappens)
 {
     const QPoint place = form.Canvas->mapTo(&view, QPoint(100, 200));
     QTest::mouseMove(screen, place);
@@ -82,7 +82,7 @@ TEST_F(QtWindowTest, TellsTheCanvasOfEveryButtonThatComesUpWhereverThatIs)
     EXPECT_EQ(noted(), "hover Canvas0\n");
 }
 
-TEST_F(QtWindowTest, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayButAMenu)
+TEST_F(QtWindowTest, IgnoresADoubleClickIfItsFirstPressClosedSomethingOtherThanAMenu)
 {
     window->show({Frame2});
     addPopup();
@@ -114,7 +114,7 @@ TEST_F(QtWindowTest, DropsADoubleClickWhoseFirstPressWasOnSomethingThatWentAwayB
     }
 }
 
-TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt)
+TEST_F(QtWindowTest, OpensThePopupMenuOnTheCanvasForEveryMenuKey)
 {
     window->addMenuItem(0, {"file", "&File"});
     window->addMenuItem(1, {"new", "&New"});
@@ -125,7 +125,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
         EXPECT_EQ(form.Canvas->mapFromGlobal(menu.pos()), place);
         menu.close();
     }
-    view.activateWindow(); // without a window manager a menu does not give the keyboard back
+    view.activateWindow(); // without a window manager, a closed menu leaves no window active
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     window->show({Frame2, panel, sup, Text11});
     for (QWidget* const focus : std::initializer_list<QWidget*>{form.Canvas, form.Image1, form.Option2}) {
@@ -135,7 +135,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
     }
     form.Text11->setFocus();
     QTest::keyClick(screen, Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text's own
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr); // the text box's own menu
     QApplication::activePopupWidget()->close();
     QTest::keyClick(screen, Qt::Key_F10);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "fileMenu");
@@ -145,7 +145,7 @@ TEST_F(QtWindowTest, OpensThePopupMenuAtAPlaceOrTheCanvasesEdgeWhenAKeyAsksForIt
     EXPECT_EQ(noted(), "");
 }
 
-TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArrowsAndLettersToTheCanvas)
+TEST_F(QtWindowTest, TabVisitsPanelAndToolboxInOrderWhileArrowsAndLettersGoToTheCanvas)
 {
     window->show({Frame2, panel, sup, bat, Text11, Command3, Command7, Command8});
     window->enable({Text11, Command3, Command7, Command8});
@@ -165,14 +165,14 @@ TEST_F(QtWindowTest, TabGoesThroughPanelAndToolboxAsTheyLookWhoseButtonsLeaveArr
     EXPECT_FALSE(canvasIsFramed());
     QTest::keyClick(view.focusWidget(), Qt::Key_Space);
     EXPECT_EQ(noted(), "click Image70\n");
-    window->focus(Canvas); // not by Tab
+    window->focus(Canvas); // no frame without Tab
     EXPECT_FALSE(canvasIsFramed());
     form.Canvas->setFocus(Qt::TabFocusReason);
     QTest::mouseClick(form.Canvas, Qt::LeftButton);
     EXPECT_FALSE(canvasIsFramed());
 }
 
-TEST_F(QtWindowTest, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
+TEST_F(QtWindowTest, ReturnsTheKeyboardToTheCanvasWhenAControlVanishes)
 {
     window->show({Frame2, panel, sup, Text11, Command3});
     for (const auto& [focus, goes] :
@@ -186,7 +186,7 @@ TEST_F(QtWindowTest, GivesTheKeyboardStraightToTheCanvasWhenAControlGoesAway)
     }
 }
 
-TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEveryScreen)
+TEST_F(QtWindowTest, OnlyTheProgramPressesToolButtonsAndTheirColoursAreSharp)
 {
     window->addToolButton("Line", "", Look::unchecked);
     window->addToolButton("Fore", "", Look::plain);
@@ -213,7 +213,7 @@ TEST_F(QtWindowTest, ToolButtonsArePressedByTheProgramAloneAndShowColoursOnEvery
     }
 }
 
-TEST_F(QtWindowTest, LeavesTheMarkOfAMenuItemToTheProgramAndHidesItsBars)
+TEST_F(QtWindowTest, OnlyTheProgramMarksMenuItemsAndBarsCanBeHidden)
 {
     window->addMenuItem(0, {"askc", "Ask Confirmation"});
     window->addMenuItem(1, {"gg", "Gates", "", Look::checked});

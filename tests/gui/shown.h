@@ -10,7 +10,7 @@
 
 namespace schemlet {
 
-/// A window on the toolkit, with a note of every event in place of the program behind it.
+/// A window without the program behind it. It notes every event.
 template <typename View, typename Form> struct Shown {
     View view;
     Form form = [this] {
@@ -30,7 +30,7 @@ template <typename View, typename Form> struct Shown {
         events.clear();
     }
 
-    /// What came since the last call.
+    /// The events since the last call.
     [[nodiscard]] std::string noted()
     {
         constexpr const char* kinds[] = {"keyDown", "keyPress", "mouseDown", "mouseMove", "mouseUp",

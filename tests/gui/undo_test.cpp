@@ -57,7 +57,7 @@ QImage colorfulPicture(QSize size)
 
 INSTANTIATE_TEST_SUITE_P(Ratio, CanvasUndo, testing::Values(1, 1.25, 2));
 
-TEST_P(CanvasUndo, BringsBackEveryPixelOfPictureAndScreen)
+TEST_P(CanvasUndo, RestoresEveryPixelOfPictureAndScreen)
 {
     canvas.circle({1500, 1500}, 10);
     endStep();
@@ -69,7 +69,7 @@ TEST_P(CanvasUndo, BringsBackEveryPixelOfPictureAndScreen)
     endStep();
     canvas.setPicture(colorfulPicture({700, 150}));
     endStep();
-    canvas.line({8000, 2000}, {12000, 2900}); // in what the window does not show
+    canvas.line({8000, 2000}, {12000, 2900}); // in a part that the window does not show
     endStep();
     canvas.setBackColor(white);
     canvas.clear();
@@ -87,7 +87,7 @@ TEST_P(CanvasUndo, BringsBackEveryPixelOfPictureAndScreen)
     }
 }
 
-TEST_P(CanvasUndo, KeepsTheRoomOfALargerWindowWithThatPapersColor)
+TEST_P(CanvasUndo, FillsTheRoomOfALargerWindowWithPaper)
 {
     InkChange line = draw();
     canvas.setBackColor(0x0000FF);
@@ -107,7 +107,7 @@ TEST_P(CanvasUndo, KeepsTheRoomOfALargerWindowWithThatPapersColor)
     EXPECT_EQ(canvas.screenImage(), redScreen);
 }
 
-TEST_P(CanvasUndo, KnowsInkThatCameJustBeforeTheWindowGrewOrWentToAnotherScreen)
+TEST_P(CanvasUndo, UndoesInkFromBeforeTheWindowGrewOrChangedScreens)
 {
     for (const double ratio : {GetParam(), 1.75}) {
         const float edge = static_cast<float>(canvas.picture().width() * twipsPerPixel);

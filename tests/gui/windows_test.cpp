@@ -27,7 +27,7 @@ namespace schemlet {
 
 namespace {
 
-/// The contrast of a text's strokes to what is there without them; 0 if nothing of it is to be seen.
+/// The best contrast of a text to the same place without it; 0 if the text is invisible.
 double textContrast(QWidget& widget, const char* property)
 {
     QWidget& window = *widget.window();
@@ -53,7 +53,7 @@ void expectReadable(const QWidget& window)
             const auto* const type = widget->metaObject();
             const QString text = widget->property(property).toString().trimmed();
             const bool seen = widget->isVisible() && widget->width() > 0; // a status bar panel may have no room
-            // A progress bar's text is not to be written, and not to be seen.
+            // A progress bar has a text that cannot be set and is not shown.
             if (seen && !text.isEmpty() && type->property(type->indexOfProperty(property)).isWritable()) {
                 EXPECT_GE(textContrast(*widget, property), 4.5) << text.toStdString();
             }
@@ -73,7 +73,7 @@ void expectWholeAndReadable(const QWidget& window, std::span<const Name> names)
     }
 }
 
-/// Adds the names of a control and of all in it.
+/// Adds the names of a control and of everything in it.
 void addNames(const QAccessibleInterface& each, std::map<QAccessible::Role, std::string>& names)
 {
     const std::string name = each.text(QAccessible::Name).simplified().toStdString();
@@ -85,7 +85,7 @@ void addNames(const QAccessibleInterface& each, std::map<QAccessible::Role, std:
     }
 }
 
-/// The main window with everything that is ever to be seen on the canvas.
+/// The main window with everything that can be visible on the canvas.
 struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     FullWindow()
     {
@@ -93,7 +93,7 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
             window->setVisible(name, true);
             window->setEnabled(name, true);
         }
-        window->setVisible(control::Label28, false); // the other prompt lies over it
+        window->setVisible(control::Label28, false); // another prompt has the same place
         window->setText(control::Text11, "10");
         window->setText(control::sb, "Press F1 for Help");
         window->setBackColor(control::Frame2, 0xE0E0E0);
@@ -118,7 +118,7 @@ struct FullWindow : Shown<QMainWindow, Ui::Form1> {
     }
 };
 
-/// All four sides of a frame stand out from what lies in it.
+/// All four sides of a frame must stand out from its inside.
 void expectBordered(QWidget& frame)
 {
     const QImage picture = frame.grab().toImage();
@@ -130,7 +130,7 @@ void expectBordered(QWidget& frame)
     }
 }
 
-/// The colours and the size of a desktop's font. It has no soft edges, so that each pixel of it has the text's colour.
+/// A desktop's font size and colours. The font is not antialiased, so each of its pixels has the text's colour.
 struct Desktop {
     int points;
     QRgb ground, text;
@@ -208,7 +208,7 @@ TEST(Windows, AreReadableAndBorderedOnEveryColourOfTheCanvas)
     EXPECT_NEAR(contrast(Qt::white, Qt::black), 21, 0.001);
     EXPECT_NEAR(contrast(Qt::white, QColor(0x76, 0x76, 0x76)), 4.542, 0.001);
     EXPECT_NEAR(contrast(Qt::red, Qt::blue), 2.148, 0.001);
-    std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // where black and white are about as good
+    std::vector<Color> colors{0x757575, 0x767676, 0x777777}; // black and white have about the same contrast on these
     for (Color i = 0; i < 64; ++i) {
         colors.push_back(85 * (i % 4) | 85 * (i / 4 % 4) << 8 | 85 * (i / 16) << 16);
     }
@@ -261,14 +261,14 @@ TEST(Windows, TellAScreenReaderTheNameOfEveryControlButNoDecoration)
     }
 }
 
-TEST(Windows, StatusBarCutsNoTextButDropsWhatMattersLeast)
+TEST(Windows, StatusBarHidesTheLeastImportantPanelsAndCutsNoText)
 {
     constexpr auto none = "no direction, press an arrow key";
     constexpr auto counted = "Counted but not drawn: no direction";
     struct Case {
-        int points, width; // of the desktop's font and of the window
+        int points, width; // the desktop's font, the window
         const char *heading, *notice, *off;
-        int shown; // so many of the panels below
+        int shown; // the number of visible panels
     };
     for (const Case& c : {Case{9, 784, "→ Right", "", "", 7}, Case{9, 784, none, counted, "", 4},
                           Case{9, 460, none, counted, "off the canvas", 2}, Case{9, 1024, none, counted, "", 7},
@@ -279,13 +279,8 @@ TEST(Windows, StatusBarCutsNoTextButDropsWhatMattersLeast)
         FullWindow main;
         main.view.resize(1280, 600);
         main.view.resize(c.width, 600);
-        const std::pair<Name, const char*> texts[] = {
-            {control::sb, " Press F1 for Help "},  {control::sbNotice, c.notice},
-            {control::sbPen, "-888888, 888888"},   {control::sbHeading, c.heading},
-            {control::sbOffCanvas, c.off},         {control::sbJumpers, "Jumpers"},
-            {control::sbPointer, "1234, 1234 px"}, {control::sbErase, "Normal mode"},
-            {control::sbTool, "Rectangle"}};
-        for (const auto& [part, text] : texts) {
+        for (const auto& [part, text] :
+             {std::pair{control::sbNotice, c.notice}, {control::sbHeading, c.heading}, {control::sbOffCanvas, c.off}}) {
             main.window->setText(part, text);
             main.window->setVisible(part, *text != 0);
         }
@@ -315,7 +310,7 @@ TEST(Windows, StayOnTheScreenWhenTheyGrow)
     EXPECT_EQ(help.view.frameGeometry().bottom(), screen.bottom());
 }
 
-TEST(Windows, HelpLiesBesideTheMainOneOrAtTheEndOfItsCanvas)
+TEST(Windows, HelpOpensBesideTheMainWindowOrAtTheBottomOfItsCanvas)
 {
     struct Case {
         QSize screen;

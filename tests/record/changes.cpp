@@ -14,7 +14,7 @@ struct Step {
     ink::Sheet sheet{};
     ink::Place from{}, via{}, to{};
     std::uint32_t pixel = 1;
-    bool isAfresh = false; ///< the sheet is blank at first, or else at most larger than before
+    bool isAfresh = false; ///< starts with a blank sheet; otherwise the sheet stays or grows
 };
 
 constexpr ink::Sheet window{56, 44};
@@ -27,7 +27,7 @@ constexpr Step steps[] = {
     {"in more room", window, {20, 42}, {54, 40}, {54, 4}, 4},
     {"on other paper", {56, 44, 5}, {20, 16}, {20, 2}, {30, 2}, 1, true},
     {"from the last square to the first", {56, 44, 5}, {50, 42}, {20, 2}, {2, 2}},
-    {"on a smaller sheet", {33, 20, 5}, {30, 18}, {30, 18}, {4, 4}, 2, true},
+    {"on a smaller, upright sheet", {20, 33, 5}, {18, 30}, {18, 30}, {4, 4}, 2, true},
     {"on a larger sheet", {64, 48, 5}, {60, 46}, {60, 46}, {60, 20}, 2, true},
 };
 
@@ -63,7 +63,7 @@ struct InkedImage {
         return changes.take(image(), sheet.paper);
     }
 
-    /// As the program does it: its window never shrinks.
+    /// Swaps the pixels as the program does. Its image is never smaller than the window.
     void exchange(ink::Patch& patch)
     {
         ink::Patch reverse = ink::reverse(image(), sheet.paper, patch);

@@ -14,7 +14,7 @@ std::string wayOf(int heading)
     return name.empty() ? "that is none" : std::string(name);
 }
 
-/// One section for each run of headings that mean the same.
+/// Adds a section for all headings that have the same effect.
 template <typename Body> void addByHeading(Record& record, const std::string& title, Body bodyFor)
 {
     Record sections;
@@ -30,7 +30,7 @@ template <typename Body> void addByHeading(Record& record, const std::string& ti
     record.insert(record.end(), sections.begin(), sections.end());
 }
 
-/// The switches that keep an item from asking.
+/// The switches that turn off an item's question.
 std::string silencers(const Item& asking)
 {
     std::string names;
@@ -42,7 +42,7 @@ std::string silencers(const Item& asking)
     return names;
 }
 
-/// Twice in a row: the second time nothing is asked that can be switched off.
+/// Places a component twice, the second time with all questions turned off.
 std::string placedTwice(const std::string& script, int heading)
 {
     NotingRig rig(heading);
@@ -59,7 +59,7 @@ void addComponents(Record& record)
         NotingRig refusing(heading::right, "no");
         const std::string refused = refusing.after(item.click());
         if (refusing.window.visible(control::panel)) {
-            continue; // its kinds are below
+            continue; // its kinds follow below
         }
         addByHeading(record, item.title, [&](int heading) { return placedTwice(item.click(), heading); });
         if (refused.starts_with("asks ")) {
@@ -145,7 +145,7 @@ void addClicks(Record& record)
         std::string body;
         for (const std::string verb : {"hover ", "click "}) {
             NotingRig rig(heading::right, "no");
-            rig.form.penMoved = 1; // Open does something only then
+            rig.form.penMoved = 1; // otherwise Open does nothing
             const std::string event = verb + std::string(name);
             const std::string facts = played(rig, event + "; tick statusTimer");
             body += facts.empty() ? "" : "> " + event + "\n" + facts;
@@ -156,7 +156,7 @@ void addClicks(Record& record)
     }
 }
 
-/// The program's own.
+/// Adds the pictures in the toolbox and on the splash.
 void addPictures(Record& record)
 {
     const Rig program;

@@ -1,5 +1,5 @@
-// The text file beside this one says what the program draws and decides; no other test repeats that. After a change
-// that is meant, `cmake --build --preset dev --target write_golden_record` writes it anew: its diff is the change.
+// golden_record.txt says what the program draws and decides. No other test repeats that. After an intended change,
+// `cmake --build --preset dev --target write_golden_record` writes the file again, and its diff shows the change.
 
 #include "tests/record/record.h"
 

@@ -11,7 +11,7 @@ namespace {
 
 struct Shape {
     const char* title = "";
-    ink::Place from{}, to{}; ///< or the centre alone
+    ink::Place from{}, to{}; ///< or only the centre
     double radius = 0;       ///< 0: a line
     double start = 0, end = 0;
 };
@@ -21,7 +21,7 @@ constexpr Shape shapes[] = {
     {"level line", {-3, 7.2}, {9.7, 7.2}},
     {"steep line", {12.2, 20}, {6, 4.7}},
     {"flat line", {4, 11}, {30, 5.5}},
-    // The dots of a wire are 2/3 of a pixel apart: these are all there are. Together they are solid and even.
+    // The dots of a wire are 2/3 of a pixel apart, so these three repeat. Together, they are solid and even.
     {"wire's dot", {7, 6}, {}, 10 / 15.0},
     {"wire's next dot", {7 + 2 / 3.0, 6 + 1 / 3.0}, {}, 10 / 15.0},
     {"wire's third dot", {8 + 1 / 3.0, 6 + 2 / 3.0}, {}, 10 / 15.0},
@@ -54,8 +54,8 @@ ink::Area draw(Paper& paper, const ink::Pen& pen, const Shape& shape, double asi
                                     : ink::arc(paper.image(), pen, from, shape.radius, shape.start, shape.end);
 }
 
-/// Over other ink, on a screen of finer pixels that has more of them than the canvas needs; then the same shape a
-/// little aside in another colour.
+/// Draws a shape over other ink on a screen with finer pixels, which is a little larger than the canvas. Then draws it
+/// again a little aside, in another colour.
 std::string shownFiner(const Shape& shape, double penWidth, double scale)
 {
     Paper canvas{18, 15};

@@ -40,7 +40,7 @@ template <typename Fields> std::string changed(const Fields& fields, const State
     return text;
 }
 
-/// The fields that are otherwise than before.
+/// The fields that have changed.
 std::string differences(const State& before, const State& now)
 {
     std::string text = changed(switches, before, now) + changed(colors, before, now) + changed(texts, before, now) +
@@ -74,7 +74,7 @@ std::string penAndInk(const Rig& rig)
     return "pen " + placed(rig.form.x, rig.form.y) + ", " + nextInk(rig.surface) + "\n";
 }
 
-/// Strokes only where they are few: the record has those of every component in sections of their own.
+/// Counts strokes if there are many: the record has those of every component in sections of their own.
 std::string inShort(const std::vector<std::string>& ink)
 {
     const auto isStroke = [](const std::string& line) {

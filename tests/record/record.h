@@ -19,27 +19,27 @@ struct Item {
     [[nodiscard]] std::string click() const { return "click " + std::string(name.text()); }
 };
 
-/// All of them below these menus of the bar.
+/// All items of these menus.
 std::vector<Item> itemsOf(std::initializer_list<Name> menus);
 
-/// Answers all questions alike; has a colour of its own for each family, for wires, for the canvas and for what is
-/// drawn before a colour is chosen.
+/// A rig that gives every question the same answer. Families, wires and the canvas have different colours, and so has
+/// everything that is drawn before a colour is set.
 struct NotingRig : Rig {
     static constexpr Color colorInHand = 100;
 
     explicit NotingRig(int heading, const char* reply = "yes");
 
-    /// What is drawn and asked, and how that leaves the canvas.
+    /// The strokes and questions of a script, and the state of the canvas after it.
     std::string after(std::string_view script);
 };
 
-/// All that an event did: strokes, questions, and what is otherwise than before.
+/// Everything that an event did: strokes, questions, and changes.
 std::string played(Rig& rig, std::string_view event);
 
-// Each adds its sections.
-void recordDrawing(Record& record);   ///< each call that reaches the canvas, and what it leaves there
-void recordClicks(Record& record);    ///< menus, hints and what follows a click
-void recordChanges(Record& record);   ///< which squares a stroke changed, and taking that back
+// Each function adds its sections.
+void recordDrawing(Record& record);   ///< the strokes of every component and tool
+void recordClicks(Record& record);    ///< menus, hints and the effects of clicks
+void recordChanges(Record& record);   ///< the squares that strokes change, undo and redo
 void recordInk(Record& record);       ///< the pixels of strokes
 void recordScenarios(Record& record); ///< what the program decides, event by event
 

@@ -2,7 +2,7 @@
 
 namespace schemlet {
 
-// What the program decides. A scenario is a script, as Rig::run takes it; the record has all that each event did.
+// What the program decides. A scenario is a script for Rig::run. The record has everything that each event did.
 
 namespace {
 
@@ -88,10 +88,10 @@ constexpr Scenario scenarios[] = {
     // The Output window
     {"Batteries count for nothing in the Output window", "click output; source + 9; source - 9; click output"},
     {"Capacitances count by their reciprocals", "C < 2; C < 2; click output; R < 10; click output"},
-    // That needs the sum to come back to 0. Without capacitance the frequency stays, too.
+    // The sum must come back to 0 for that. Without capacitance, the frequency stays, too.
     {"Without resistance the last three results stay",
      "R < 10; I < 1; C < 4; click output; R < -10; I < 3; click output; R < 5; C < -4; click output; C < 1; "
-     "click output"},
+     "click output; I < -4; click output"},
     {"Frequency needs both inductance and capacitance", "I < 1; click output; C < 4; click output"},
     {"Supplies are totals", "source V 5; source V 7; source A 0.5; click output; source V -12; click output"},
     {"Negative values have a frequency if both are", "I < -1; C < -4; R < -2; click output"},

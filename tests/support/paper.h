@@ -20,7 +20,7 @@ struct Paper {
         return static_cast<std::size_t>(x + y * std::ptrdiff_t{width});
     }
     [[nodiscard]] int at(int x, int y) const { return static_cast<int>(pixels[index(x, y)]); }
-    /// A character for each pixel, a line for each row.
+    /// One character for each pixel, one line for each row.
     [[nodiscard]] std::string text() const
     {
         std::string out;

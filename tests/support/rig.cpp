@@ -13,7 +13,7 @@ float number(std::string_view word)
     return word.empty() ? 0 : std::stof(std::string(word));
 }
 
-/// What a script's words tell of; the event's names are parts of them.
+/// The event that a script's words describe. Its names point into these words.
 Event eventOf(std::span<const std::string_view> words)
 {
     using enum Event::Kind;
@@ -47,7 +47,7 @@ Event eventOf(std::span<const std::string_view> words)
     return event;
 }
 
-/// Of a whole source those that place it, of all else itself.
+/// The steps that place a source, or else the event itself.
 std::vector<std::string> stepsOf(std::string_view event)
 {
     static const std::map<char, std::pair<const char*, const char*>> sources{{'A', {"S", "choose Option2"}},
@@ -78,12 +78,12 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
 Rig::Rig(Start start)
 {
     for (const std::string_view label : output.names()) {
-        output.at(label).visible = false; // they appear with the window
+        output.at(label).visible = false; // output() shows them
     }
     dialogs.meanwhile = [this](std::string_view event) { happen(event); };
     form6::load(splash);
     if (start == Start::behindIt) {
-        run("close Form6; hover"); // after any event the status bar is due
+        run("close Form6; hover"); // the first event makes the status bar due
         ink.take();
         changes.take();
     }

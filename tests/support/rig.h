@@ -8,7 +8,7 @@
 
 namespace schemlet {
 
-/// What the Output window adds up, the values typed last, and what follows from them.
+/// The sums of the Output window, the last values, and the results.
 inline constexpr std::pair<const char*, double Drawing::*> sumsAndResults[] = {
     {"resist", &Drawing::resist},
     {"induc", &Drawing::induc},
@@ -26,7 +26,7 @@ inline constexpr std::pair<const char*, double Drawing::*> sumsAndResults[] = {
     {"frequencyCapac", &Drawing::frequencyCapac},
     {"capacitiveReactance", &Drawing::capacitiveReactance}};
 
-/// The program without a toolkit, and what a user and the clock do to it.
+/// The program without a toolkit, driven by scripts.
 struct Rig {
     enum class Start { atSplash, behindIt };
 
@@ -45,7 +45,7 @@ struct Rig {
 
     explicit Rig(Start start = Start::behindIt);
 
-    /// Does what a script says: events with "; " between them, each with the replies to its questions behind it.
+    /// Runs a script: events separated by "; ". Replies to an event's questions follow it, each after " < ".
     ///
     ///     right                    an arrow key; so are left, up and down
     ///     r                        any one character
@@ -57,7 +57,7 @@ struct Rig {
     ///     tick Timer2 5            five times
     ///     click new < yes < /a/b   two questions are answered
     ///     r < meanwhile down < 5   before the answer, an arrow key is pressed
-    ///     choose Option3           is on before its click is reported, as the toolkit does it
+    ///     choose Option3           a click on an option, which is on before the click is reported
     ///     text 12V                 typed into the panel
     ///     source V 12              a whole source: A or V for a supply, + or - for a battery, and its value
     ///     canvas 9000 1450         the canvas's size

@@ -1,7 +1,5 @@
 #include "tests/support/stand_ins.h"
 
-#include <algorithm>
-
 namespace schemlet {
 
 namespace {
@@ -62,27 +60,28 @@ void RecordingSurface::note(const char* what, std::initializer_list<float> numbe
 void RecordingSurface::circle(Point centre, float radius)
 {
     note("circle", {centre.x, centre.y, radius});
-    m_inkChanges.mark(ink::circle(image(), {m_foreColor, double(m_drawWidth)}, pixel(centre), radius / twipsPerPixel));
+    m_inkChanges.mark(
+        ink::circle(m_paper.image(), {m_foreColor, double(m_drawWidth)}, pixel(centre), radius / twipsPerPixel));
 }
 
 void RecordingSurface::arc(Point centre, float radius, float start, float end)
 {
     note("arc", {centre.x, centre.y, radius, start, end});
-    m_inkChanges.mark(
-        ink::arc(image(), {m_foreColor, double(m_drawWidth)}, pixel(centre), radius / twipsPerPixel, start, end));
+    m_inkChanges.mark(ink::arc(m_paper.image(), {m_foreColor, double(m_drawWidth)}, pixel(centre),
+                               radius / twipsPerPixel, start, end));
 }
 
 void RecordingSurface::setBackColor(Color color)
 {
     note("back", {static_cast<float>(color)});
     m_backColor = color;
-    std::ranges::fill(m_pixels, color);
-    m_inkChanges.mark({0, 0, width, height});
+    std::ranges::fill(m_paper.pixels, color);
+    m_inkChanges.mark({0, 0, m_paper.width, m_paper.height});
 }
 
 InkChange RecordingSurface::takeChange()
 {
-    return {.picture = m_inkChanges.take(image(), m_backColor), .screen = {}};
+    return {.picture = m_inkChanges.take(m_paper.image(), m_backColor), .screen = {}};
 }
 
 void RecordingSurface::exchange(InkChange& change)
@@ -90,15 +89,15 @@ void RecordingSurface::exchange(InkChange& change)
     if (!change.empty()) {
         m_notes.add("exchange");
     }
-    ink::Patch reverse = ink::reverse(image(), m_backColor, change.picture);
+    ink::Patch reverse = ink::reverse(m_paper.image(), m_backColor, change.picture);
     m_backColor = change.picture.before.paper;
-    m_inkChanges.put(image(), m_backColor, change.picture);
+    m_inkChanges.put(m_paper.image(), m_backColor, change.picture);
     change.picture = std::move(reverse);
 }
 
 void RecordingSurface::draw(Point from, Point to)
 {
-    m_inkChanges.mark(ink::line(image(), {m_foreColor, double(m_drawWidth)}, pixel(from), pixel(to)));
+    m_inkChanges.mark(ink::line(m_paper.image(), {m_foreColor, double(m_drawWidth)}, pixel(from), pixel(to)));
 }
 
 void RecordingSurface::stroke(const char* what, Point from, Point to)
@@ -125,10 +124,10 @@ std::optional<Color> RecordingSurface::point(Point probed) const
         return ahead;
     }
     const ink::Place place = pixel(probed);
-    if (place.x < 0 || place.y < 0 || place.x >= width || place.y >= height) {
+    if (place.x < 0 || place.y < 0 || place.x >= m_paper.width || place.y >= m_paper.height) {
         return {};
     }
-    return m_pixels[static_cast<std::size_t>(place.y) * width + static_cast<std::size_t>(place.x)];
+    return m_paper.pixels[m_paper.index(static_cast<int>(place.x), static_cast<int>(place.y))];
 }
 
 std::optional<std::string> ScriptedDialogs::reply(Asked asked, const std::string& question)

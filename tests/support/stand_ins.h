@@ -7,7 +7,9 @@
 #include "shell/about.h"
 #include "shell/help.h"
 #include "shell/splash.h"
+#include "tests/support/paper.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <deque>
@@ -24,7 +26,7 @@
 
 namespace schemlet {
 
-/// A text in bars, or the shortest text that no other number has.
+/// A text between bars, or a number in as few digits as tell it from all others.
 template <typename Value> std::string written(const Value& value)
 {
     if constexpr (std::is_arithmetic_v<Value>) {
@@ -41,15 +43,15 @@ inline std::string placed(double x, double y)
     return written(x) + " " + written(y);
 }
 
-/// What the program did, one text line each, such as "line 1600 1500 1600 1750" or "Label27 shown".
+/// What the program did, one line each, such as "line 1600 1500 1600 1750" or "Label27 shown".
 class Notes {
 public:
-    bool kept = true; ///< off for long walks
+    bool kept = true; ///< off for random events
 
     void add(const std::string& line) { change("", "", line); }
-    /// A fact that replaces another about the same thing. One that comes back to what it was is no change.
+    /// Replaces an earlier note about the same thing. If a thing is as before again, its note is dropped.
     void change(const std::string& thing, const std::string& before, const std::string& now);
-    /// Those since the last call.
+    /// The notes since the last call.
     std::vector<std::string> takeLines();
     std::string take();
 
@@ -60,12 +62,16 @@ private:
     std::vector<Note> m_notes;
 };
 
-/// Draws, too, for undo: on a small image, and texts as lines.
+/// Notes every stroke. Also draws on a small image, for undo; a text becomes a line there.
 class RecordingSurface final : public Surface {
 public:
-    explicit RecordingSurface(Notes& notes) : m_notes(notes) {}
+    explicit RecordingSurface(Notes& notes) : m_notes(notes)
+    {
+        std::ranges::fill(m_paper.pixels, white);
+        m_inkChanges.grow(m_paper.width, m_paper.height);
+    }
 
-    std::optional<Color> notedColor; ///< a line goes before the first thing that is drawn in another colour
+    std::optional<Color> notedColor; ///< the color of the last stroke; a change is noted
     std::optional<Color> ahead;      ///< what point() finds wherever it looks, if set
 
     void line(Point from, Point to) override { stroke("line", from, to); }
@@ -85,13 +91,9 @@ public:
     void setCurrent(Point place) override { m_current = place; }
     [[nodiscard]] InkChange takeChange() override;
     void exchange(InkChange& change) override;
-    [[nodiscard]] const std::vector<std::uint32_t>& pixels() const { return m_pixels; }
+    [[nodiscard]] const std::vector<std::uint32_t>& pixels() const { return m_paper.pixels; }
 
 private:
-    static constexpr int width = 192; // pixels
-    static constexpr int height = 128;
-
-    [[nodiscard]] ink::Image image() { return {m_pixels.data(), width, height, width}; }
     void draw(Point from, Point to);
     void note(const char* what, std::initializer_list<float> numbers, std::string_view text = {});
     void stroke(const char* what, Point from, Point to);
@@ -101,24 +103,20 @@ private:
     Point m_current;
     Color m_foreColor = black;
     Color m_backColor = white;
-    std::vector<std::uint32_t> m_pixels = std::vector<std::uint32_t>(std::size_t{width} * height, white);
-    ink::Changes m_inkChanges = [] {
-        ink::Changes changes(white);
-        changes.grow(width, height);
-        return changes;
-    }();
+    Paper m_paper{192, 128};
+    ink::Changes m_inkChanges{white};
 };
 
 enum class Asked { box, text, color, file };
 
-/// Notes what it is asked. A question without a reply fails the test.
+/// Notes every question. A question without a reply fails the test.
 class ScriptedDialogs final : public Dialogs {
 public:
     explicit ScriptedDialogs(Notes& notes) : m_notes(notes) {}
 
-    std::deque<std::string> replies;                 ///< to the next questions; a box that has only OK takes none
-    std::function<void(std::string_view)> meanwhile; ///< what a reply that starts with this word brings about
-    std::function<std::string(Asked)> replyTo;       ///< if set, it replies to all; "cancel" is Cancel, or else No
+    std::deque<std::string> replies;                 ///< to the next questions; a box with only OK needs none
+    std::function<void(std::string_view)> meanwhile; ///< runs the event of a reply "meanwhile EVENT"
+    std::function<std::string(Asked)> replyTo;       ///< if set, replies to all; "cancel" is Cancel or No
 
     int messageBox(std::string_view prompt, Box style, std::string_view title) override;
     std::optional<std::string> inputBox(std::string_view prompt, std::string_view title,
@@ -134,7 +132,7 @@ private:
     Notes& m_notes;
 };
 
-/// Cannot read or write anything in the folder /broken/.
+/// Fails to read or write anything in the folder /broken/.
 class StandInPictures final : public Pictures {
 public:
     StandInPictures(Notes& notes, const RecordingSurface& surface) : m_notes(notes), m_surface(surface) {}
@@ -150,7 +148,7 @@ private:
     const RecordingSurface& m_surface;
 };
 
-// Every named control of a form; a test of the forms themselves finds each of them there.
+// The named controls of the forms. Another test looks for each of them in the real forms.
 inline constexpr Name formControls[] = {
     "Canvas",  "Picture1",  "Shape1",   "Label27",   "sb",          "sbPen",     "sbHeading", "sbTool",
     "sbErase", "sbJumpers", "sbNotice", "sbPointer", "sbOffCanvas", "statusBar", "Toolbar1",  "panel",
@@ -162,7 +160,7 @@ inline constexpr Name helpControls[] = {form2::control::Check1, form2::control::
 inline constexpr Name aboutControls[] = {form3::control::Picture1, form3::control::Command1, form3::control::Command2};
 inline constexpr Name splashControls[] = {form6::control::Picture1, form6::control::ProgressBar1};
 
-/// Notes what changes. A name that the program's windows do not have fails the test.
+/// Notes every change. An unknown name fails the test.
 class StandInWindow final : public MainWindow {
 public:
     struct Control {
@@ -177,7 +175,7 @@ public:
         void (*picture)(Surface&) = nullptr;
         double left = 0;
         double top = 0;
-        std::string awayFrom; ///< the place that it keeps away from
+        std::string awayFrom; ///< the place that the control keeps away from
     };
 
     StandInWindow(Notes& notes, Name window, std::span<const Name> names, std::span<const Name> more = {});
@@ -190,7 +188,7 @@ public:
 
     [[nodiscard]] Control& at(std::string_view name) { return m_controls.at(name); }
     [[nodiscard]] const Control& at(std::string_view name) const { return m_controls.at(name); }
-    /// Of all controls, menu items and toolbar buttons.
+    /// The names of all controls, menu items and toolbar buttons.
     [[nodiscard]] std::vector<std::string_view> names() const;
 
     void setCaption(std::string_view title) override { note("caption " + written(title)); }
@@ -249,7 +247,7 @@ private:
     }
 
     Notes& m_notes;
-    std::string m_prefix; ///< none for the main window
+    std::string m_prefix; ///< empty for the main window
     int m_height = 0;
     std::string m_cursor;
     std::map<std::string_view, Control> m_controls;
