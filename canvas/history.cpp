@@ -31,41 +31,41 @@ void History::begin(Form1& form, int arrow)
     if (leftIsHeld()) {
         return;
     }
-    m_arrow = arrow;
-    m_restored = false;
-    m_continues = arrow != 0 && arrow == m_run;
-    m_run = m_continues ? arrow : 0;
-    // A held key stays fast: its changes are taken when the run ends. A jumper may end the run at any key.
-    m_deferred = m_continues && form.autoJumper == 0;
-    if (!m_deferred) {
-        finishRun(form);
-        capture(form, m_before);
+    m_event.arrow = arrow;
+    m_event.restored = false;
+    m_event.continues = arrow != 0 && arrow == m_streak.arrow;
+    m_streak.arrow = m_event.continues ? arrow : 0;
+    // A held key stays fast: its changes are taken when the streak ends. A jumper may end the streak at any key.
+    m_event.deferred = m_event.continues && form.autoJumper == 0;
+    if (!m_event.deferred) {
+        finishStreak(form);
+        capture(form, m_event.before);
     }
 }
 
 bool History::end(Form1& form)
 {
-    if (leftIsHeld() || m_restored) {
+    if (leftIsHeld() || m_event.restored) {
         return false;
     }
-    m_blinks = 0; // blinks while the event opened a dialog do not count
-    if (m_deferred) {
-        m_run = m_arrow;
-        m_unfinished = true;
+    m_streak.blinks = 0; // blinks while the event opened a dialog do not count
+    if (m_event.deferred) {
+        m_streak.arrow = m_event.arrow;
+        m_streak.unfinished = true;
         return false;
     }
-    const bool hop = hopped(m_before.drawing, form); // a jumper is a step by itself
-    m_run = hop ? 0 : m_arrow;
-    if (m_continues && !hop) {
-        m_unfinished = true;
+    const bool hop = hopped(m_event.before.drawing, form); // a jumper is a step by itself
+    m_streak.arrow = hop ? 0 : m_event.arrow;
+    if (m_event.continues && !hop) {
+        m_streak.unfinished = true;
         return false;
     }
     InkChange ink = form.surface.takeChange();
-    if (ink.empty() && !isStep(m_before, form)) {
-        m_run = 0;
+    if (ink.empty() && !isStep(m_event.before, form)) {
+        m_streak.arrow = 0;
         return false;
     }
-    Step step{.name = {}, .before = m_before, .after = {}, .ink = std::move(ink)};
+    Step step{.name = {}, .before = m_event.before, .after = {}, .ink = std::move(ink)};
     capture(form, step.after);
     keep(std::move(step));
     return true;
@@ -78,8 +78,8 @@ bool History::leftIsHeld() const
 
 void History::pause()
 {
-    if (++m_blinks == 2) {
-        m_run = 0;
+    if (++m_streak.blinks == 2) {
+        m_streak.arrow = 0;
     }
 }
 
@@ -137,17 +137,17 @@ std::size_t History::bytes(const Step& step)
     return sizeof(step) + step.ink.bytes() + textBytes(step.before.drawing) + textBytes(step.after.drawing);
 }
 
-/// Adds the changes of the run's last keys to its step.
-void History::finishRun(Form1& form)
+/// Adds the changes of the streak's last keys to its step.
+void History::finishStreak(Form1& form)
 {
-    if (!std::exchange(m_unfinished, false)) {
+    if (!std::exchange(m_streak.unfinished, false)) {
         return;
     }
-    Step& run = m_steps.back();
-    m_bytes -= bytes(run);
-    run.ink.add(form.surface.takeChange());
-    capture(form, run.after);
-    m_bytes += bytes(run);
+    Step& step = m_steps.back();
+    m_bytes -= bytes(step);
+    step.ink.add(form.surface.takeChange());
+    capture(form, step.after);
+    m_bytes += bytes(step);
     limitMemory(m_steps.size() - 1);
 }
 
@@ -165,7 +165,7 @@ void History::keep(Step step)
 void History::restore(Form1& form, std::size_t index, const Snapshot& snapshot)
 {
     Step& step = m_steps[index];
-    m_restored = true;
+    m_event.restored = true;
     m_bytes -= bytes(step);
     form.surface.exchange(step.ink);
     m_bytes += bytes(step);

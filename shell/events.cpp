@@ -54,7 +54,7 @@ bool isBlink(const Event& event)
     return event.kind == Event::Kind::tick && event.window == mainWindow.text() && event.name == control::Timer2.text();
 }
 
-/// Whether an event may change the drawing or end a run of an arrow key. Saving does neither.
+/// Whether an event may change the drawing or end a streak of an arrow key. Saving does neither.
 bool mayChangeDrawing(const Event& event)
 {
     using enum Event::Kind;
