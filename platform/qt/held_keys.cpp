@@ -32,11 +32,6 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
             m_ignoresArrows = dialog->property(arrowsProperty).toBool();
         }
         break;
-    case QEvent::KeyRelease: {
-        const auto& release = dynamic_cast<const QKeyEvent&>(*event);
-        m_lastRelease = {release.nativeScanCode(), release.timestamp()};
-        break;
-    }
     case QEvent::ShortcutOverride: // asks whether a widget wants the key before shortcuts get it
     case QEvent::KeyPress:
         if (QApplication::activeModalWidget() != nullptr && isStray(dynamic_cast<const QKeyEvent&>(*event))) {
@@ -49,17 +44,9 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// X11 sends a repeat as a release and a press with the same time. Qt marks them as a repeat only if both have arrived
-/// when it looks, and often misses the first ones.
-bool HeldKeys::isRepeat(const QKeyEvent& press) const
-{
-    return press.isAutoRepeat() ||
-           (press.timestamp() != 0 && m_lastRelease == std::pair(press.nativeScanCode(), press.timestamp()));
-}
-
 bool HeldKeys::isStray(const QKeyEvent& press)
 {
-    if (isRepeat(press) && !m_pressed.contains(press.nativeScanCode())) {
+    if (m_repeats.isRepeat(press) && !m_pressed.contains(press.nativeScanCode())) {
         return true;
     }
     m_pressed.insert(press.nativeScanCode());

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QObject>
-#include <set>
-#include <utility>
+#include "platform/qt/key_repeats.h"
 
-class QKeyEvent;
+#include <set>
 
 namespace schemlet {
 
@@ -22,11 +20,10 @@ public:
 private:
     using Key = quint32; ///< the scan code, which stays the same when Shift changes what the key types
 
-    [[nodiscard]] bool isRepeat(const QKeyEvent& press) const;
     [[nodiscard]] bool isStray(const QKeyEvent& press);
 
-    std::set<Key> m_pressed;               ///< since the last dialog opened, even if released since
-    std::pair<Key, quint64> m_lastRelease; ///< the key and the time in milliseconds
+    KeyRepeats m_repeats;
+    std::set<Key> m_pressed; ///< since the last dialog opened, even if released since
     bool m_ignoresArrows = false;
 };
 

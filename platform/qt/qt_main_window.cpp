@@ -139,8 +139,11 @@ void QtMainWindow::addShortcut(const Shortcut& shortcut)
     auto* const action = new QAction(&form());
     action->setShortcuts(QKeySequence::listFromString(toQString(shortcut.keys), QKeySequence::PortableText));
     action->setAutoRepeat(shortcut.repeats);
-    connect(action, &QAction::triggered, this,
-            [this, name = shortcut.name] { report({.kind = Event::Kind::click, .name = name.text()}); });
+    connect(action, &QAction::triggered, this, [this, shortcut] {
+        if (shortcut.repeats || !m_repeats.isRepeating()) { // some repeats come although the action takes none
+            report({.kind = Event::Kind::click, .name = shortcut.name.text()});
+        }
+    });
     form().addAction(action);
     for (auto* const text : form().findChildren<QLineEdit*>()) {
         new OwnKeys(*text, action->shortcuts());

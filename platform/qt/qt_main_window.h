@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/main_window.h"
+#include "platform/qt/key_repeats.h"
 #include "platform/qt/menu_tree.h"
 #include "platform/qt/qt_window.h"
 
@@ -42,6 +43,7 @@ private:
     CanvasWidget& m_canvas;
     std::string_view m_cursor;
     MenuTree m_menus;
+    KeyRepeats m_repeats;
 };
 
 } // namespace schemlet

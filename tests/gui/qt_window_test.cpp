@@ -14,6 +14,10 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+/// Sends a key to the shortcuts, as the platform's plug-ins do.
+extern bool qt_sendShortcutOverrideEvent(QObject* focus, ulong time, int key, Qt::KeyboardModifiers held,
+                                         const QString& text, bool marked, ushort count);
+
 namespace schemlet {
 
 // Keys and mouse in the main window, in sequences that need exact timing.
@@ -222,6 +226,23 @@ TEST_F(QtWindowTest, OnlyTheProgramMarksMenuItemsAndBarsCanBeHidden)
     EXPECT_TRUE(window->checked("gg"));
     window->hide({Toolbar1, statusBar});
     EXPECT_TRUE(view.findChild<QToolBar*>()->isHidden() && form.statusBar->isHidden());
+}
+
+TEST_F(QtWindowTest, AHeldShortcutRepeatsOnlyIfItShould)
+{
+    window->addShortcut({"dot", "Ctrl+D"});
+    window->addShortcut({"undo", "Ctrl+Z", true});
+    const auto hold = [this](int key) {
+        for (const ulong time : {1UL, 2UL, 3UL}) { // X11 reports each repeat as a release and a press at the same time
+            qt_sendShortcutOverrideEvent(form.Canvas, time, key, Qt::ControlModifier, "", time == 3, 1);
+            QKeyEvent release(QEvent::KeyRelease, key, Qt::ControlModifier);
+            release.setTimestamp(time + 1);
+            QCoreApplication::sendEvent(form.Canvas, &release);
+        }
+        return noted();
+    };
+    EXPECT_EQ(hold(Qt::Key_D), "click dot0\n");
+    EXPECT_EQ(hold(Qt::Key_Z), "click undo0\nclick undo0\nclick undo0\n");
 }
 
 TEST_F(QtWindowTest, ShowsTheWholeNameOfADrawing)
