@@ -184,9 +184,11 @@ TEST(Program, SavesAndOpensEveryPixel)
     const QImage first(program.home().filePath("first.JPEG"));
     waitForCanvas(first);
 
+    program.keys("Up", 9);
+    waitUntil("wire that is not saved", [&] { return program.inked(300, 280); });
     command(program, "ctrl+o", "n");
     choose(program, "Open", "first.JPEG");
-    program.waitForWindow("- Schemlet 2.0 first.JPEG");
+    waitForCanvas(first);
     program.drag(320, 320, 340, 340);
     waitUntil("a box in the box", [&] { return program.inked(330, 339); });
     const QString path = program.home().filePath("second.png");

@@ -73,16 +73,22 @@ void expectWholeAndReadable(const QWidget& window, std::span<const Name> names)
     }
 }
 
-/// Adds the names of a control and of everything in it.
-void addNames(const QAccessibleInterface& each, std::map<QAccessible::Role, std::string>& names)
+/// What a screen reader calls the controls of each role in a window, in their order.
+std::map<QAccessible::Role, std::string> namesIn(QWidget& window)
 {
-    const std::string name = each.text(QAccessible::Name).simplified().toStdString();
-    EXPECT_TRUE(!name.empty() || each.role() == QAccessible::Window || each.role() == QAccessible::Client);
-    EXPECT_NE(name, "•");
-    names[each.role()] += name + "; ";
-    for (int i = 0; i < each.childCount(); ++i) {
-        addNames(*each.child(i), names);
+    std::map<QAccessible::Role, std::string> names;
+    for (std::vector open{QAccessible::queryAccessibleInterface(&window)}; !open.empty();) {
+        const QAccessibleInterface& each = *open.back();
+        open.pop_back();
+        const std::string name = each.text(QAccessible::Name).simplified().toStdString();
+        EXPECT_TRUE(!name.empty() || each.role() == QAccessible::Window || each.role() == QAccessible::Client);
+        EXPECT_NE(name, "•");
+        names[each.role()] += name + "; ";
+        for (int i = each.childCount(); i-- > 0;) {
+            open.push_back(each.child(i));
+        }
     }
+    return names;
 }
 
 /// The main window with everything that can be visible on the canvas.
@@ -255,9 +261,7 @@ TEST(Windows, TellAScreenReaderTheNameOfEveryControlButNoDecoration)
          "Supplied Voltage ( in volts ); Supplied Current ( in ampere ); "},
     };
     for (const auto& [window, role, expected] : cases) {
-        std::map<QAccessible::Role, std::string> names;
-        addNames(*QAccessible::queryAccessibleInterface(&window), names);
-        EXPECT_EQ(names[role], expected);
+        EXPECT_EQ(namesIn(window)[role], expected);
     }
 }
 
