@@ -96,4 +96,15 @@ TEST(History, ForgetsOldStepsToLimitItsMemoryButNeverTheLast)
     EXPECT_EQ(takenBack(rig), "Inductance");
 }
 
+TEST(History, KeepsTheStepJustUndoneEvenIfStepsGrewByUndo)
+{
+    Rig rig;
+    rig.surface.patchRoom = 900'000; // 27 MB
+    rig.run("r < 1; i < 1; c < 1; source V 1; click undo; click undo; click undo");
+    EXPECT_EQ(rig.form.history.undoable(), "");
+    EXPECT_EQ(rig.form.history.redoable(), "Inductance");
+    rig.run("click redo; click redo; click redo");
+    EXPECT_EQ(takenBack(rig), "Capacitance, Inductance");
+}
+
 } // namespace schemlet

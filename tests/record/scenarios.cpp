@@ -124,8 +124,8 @@ constexpr Scenario scenarios[] = {
      "click bc < 255; click backc < 0; tick statusTimer"},
     {"A cancelled color dialog gives the color picked last", "click gatescolor < 255; click forec < cancel"},
     {"Families are black until they get a color",
-     "click motorcolor < cancel; click generatorcolor < cancel; click ar < cancel; click field1 < cancel; "
-     "click buffercolor < cancel; click opampcolor < cancel"},
+     "click dcmotor < yes; click dcgenerator < yes; click armature < yes; click field < yes; click buffering < yes; "
+     "click opamp < yes"},
     {"Questions are switched off and on with their marks", "click gg; click gg; click npnt; click pnpt"},
     {"Every view has its mark",
      "click lll; click lll; click sss; click sss; click toolbox; click toolbox; click Image7; click ToolBox"},

@@ -93,6 +93,7 @@ void RecordingSurface::exchange(InkChange& change)
     m_backColor = change.picture.before.paper;
     m_inkChanges.put(m_paper.image(), m_backColor, change.picture);
     change.picture = std::move(reverse);
+    change.picture.squares.reserve(patchRoom);
 }
 
 void RecordingSurface::draw(Point from, Point to)

@@ -74,6 +74,8 @@ public:
     std::optional<Color> notedColor; ///< the color of the last stroke; a change is noted
     std::optional<Color> ahead;      ///< what point() finds wherever it looks, if set
 
+    std::size_t patchRoom = 0; ///< undo and redo leave patches with room for so many squares
+
     void line(Point from, Point to) override { stroke("line", from, to); }
     void box(Point from, Point to) override { stroke("box", from, to); }
     void circle(Point centre, float radius) override;
