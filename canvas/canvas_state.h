@@ -99,6 +99,12 @@ struct Title {
     std::string title;     ///< the file's name in the window's title
 };
 
+/// A kind of source and its value, which repeat() proposes.
+struct LastSource {
+    Name option;
+    std::string value; ///< the text
+};
+
 /// Settings that New resets. Undoing New restores them.
 struct Modes {
     Color wireColor = black;
@@ -125,8 +131,8 @@ struct CanvasState : Drawing, Title, Modes {
     Color probeColor = black; ///< the colour ahead of the pen at the last arrow key
     int jumperAnswer = 0;     ///< the button that closed the question about a jumper
     Name lastFamily;          ///< the frame of the source panel that was opened last
-    Name lastKind;            ///< the option of the source panel that was chosen last
-    std::string sourceText;   ///< the text entered last in the source panel
+    LastSource lastSupply;    ///< what the source panel was used for last
+    LastSource lastBattery;
 
     int savedMark = 0;     ///< 100 = nothing changed since start or save, 0 = changed
     int printAnswer = 0;   ///< the button that closed the question about printing

@@ -39,12 +39,16 @@ void label(Form1& form)
     if (!text || text->empty()) {
         return;
     }
+    const double width = form.surface.textWidth(*text);
+    const Point place = labelPlace(form, width);
+    const Point end{static_cast<float>(place.x + width), static_cast<float>(place.y + lineHeight)};
+    const bool isVisible = form.window.isOnCanvas(place) || form.window.isOnCanvas(end);
     const Point current = form.surface.current();
     form.surface.setForeColor(form.wireColor);
-    form.surface.setCurrent(labelPlace(form, form.surface.textWidth(*text)));
+    form.surface.setCurrent(place);
     form.surface.print(*text, true);
     form.surface.setCurrent(current);
-    notify(form, "Label drawn: " + *text);
+    notify(form, isVisible ? "Label drawn" : "The label is off the canvas");
 }
 
 } // namespace schemlet

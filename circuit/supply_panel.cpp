@@ -32,11 +32,16 @@ void followFamilies(Form1& form)
     keepPanelAside(form);
 }
 
+LastSource& lastOf(Form1& form, Name family)
+{
+    return family == control::sup ? form.lastSupply : form.lastBattery;
+}
+
 /// Asks for the value.
 void choose(Form1& form, Name option)
 {
     const Kind& kind = *std::ranges::find(kinds, option, &Kind::option);
-    form.lastKind = option;
+    lastOf(form, kind.family).option = option;
     form.window.show({kind.prompt, control::Command3, kind.cancel, control::Text11});
     form.window.enable({control::Command3, kind.cancel, control::Text11});
     form.window.focus(control::Text11);
@@ -140,15 +145,15 @@ void Option5(Form1& form)
 
 void chooseAgain(Form1& form)
 {
-    const auto* const kind = std::ranges::find(kinds, form.lastKind, &Kind::option);
-    if (kind == std::end(kinds) || kind->family != form.lastFamily) {
+    const LastSource last = lastOf(form, form.lastFamily);
+    if (last.option.empty()) {
         return;
     }
-    form.window.setValue(kind->option, 1);
+    form.window.setValue(last.option, 1);
     if (form.window.text(control::Text11).empty()) { // otherwise it was typed later, and cancelled
-        form.window.setText(control::Text11, form.sourceText);
+        form.window.setText(control::Text11, last.value);
     }
-    choose(form, kind->option);
+    choose(form, last.option);
 }
 
 void Command3(Form1& form)
@@ -156,8 +161,14 @@ void Command3(Form1& form)
     const double typed = typedValue(form); // may throw, so it comes before anything is hidden
     form.window.hide({control::Command7, control::Command8, control::Text11, control::Label12, control::Command3});
     form.supplyValue = typed;
-    form.sourceText = form.window.text(control::Text11);
-    if (std::ranges::none_of(kinds, [&form](const Kind& kind) { return isChosen(form, kind.option); })) {
+    bool isAnyChosen = false;
+    for (const Kind& kind : kinds) {
+        if (isChosen(form, kind.option)) {
+            isAnyChosen = true;
+            lastOf(form, kind.family).value = form.window.text(control::Text11);
+        }
+    }
+    if (!isAnyChosen) {
         notify(form, "Nothing drawn: no kind was chosen");
     }
     if (takeChoice(form, control::Option4)) {

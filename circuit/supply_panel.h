@@ -21,8 +21,7 @@ void Option3(Form1& form); ///< voltage
 void Option4(Form1& form); ///< positive
 void Option5(Form1& form); ///< negative
 
-/// Chooses the kind that was chosen last, if the family that was opened last has it, and proposes the value entered
-/// last.
+/// In the family that was opened last, chooses the kind that was chosen last and proposes the value entered last.
 void chooseAgain(Form1& form);
 
 /// Draws the chosen sources with the number at the start of the text, in volt or ampere, 0 if there is none, and closes

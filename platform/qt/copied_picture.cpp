@@ -1,6 +1,5 @@
 #include "platform/qt/copied_picture.h"
 
-#include <QBuffer>
 #include <QPainter>
 #include <algorithm>
 #include <span>
@@ -30,15 +29,6 @@ QRect inkOf(const QImage& picture, QRgb paper)
     return ink;
 }
 
-QByteArray encoded(const QImage& picture, const char* format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    picture.save(&buffer, format);
-    return bytes;
-}
-
 } // namespace
 
 QImage pictureOfInk(const CanvasSurface& surface)
@@ -61,14 +51,6 @@ QImage pictureOfInk(const CanvasSurface& surface)
     }
     painter.drawImage(QPoint(), surface.screenImage());
     return copied;
-}
-
-std::unique_ptr<QMimeData> mimeDataOf(const QImage& picture)
-{
-    auto data = std::make_unique<QMimeData>();
-    data->setData("image/png", encoded(picture, "png"));
-    data->setData("image/bmp", encoded(picture, "bmp"));
-    return data;
 }
 
 } // namespace schemlet

@@ -2,17 +2,11 @@
 
 #include "platform/qt/canvas_surface.h"
 
-#include <QMimeData>
-#include <memory>
-
 namespace schemlet {
 
 /// The part of the canvas that has ink, with a margin of 10 canvas pixels of paper, in the screen's pixels. Its
 /// resolution gives it the same size on paper at every pixel ratio. Null if there is no ink. Ink is what has another
 /// colour than the paper.
 [[nodiscard]] QImage pictureOfInk(const CanvasSurface& surface);
-
-/// A picture for the clipboard, as PNG and as BMP.
-[[nodiscard]] std::unique_ptr<QMimeData> mimeDataOf(const QImage& picture);
 
 } // namespace schemlet

@@ -162,7 +162,11 @@ std::optional<std::string> QtDialogs::inputBox(std::string_view prompt, std::str
     if (runThenFocusCanvas(box) != QDialog::Accepted) {
         return {};
     }
-    return box.textValue().remove('\n').remove('\r').toStdString(); // a pasted text may have line ends
+    QString text = box.textValue();
+    for (const char space : {'\n', '\r', '\t'}) { // pasted; the box shows blanks
+        text.replace(space, ' ');
+    }
+    return text.toStdString();
 }
 
 std::optional<Color> QtDialogs::pickColor(std::string_view title, Color initial)

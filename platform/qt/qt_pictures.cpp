@@ -25,7 +25,7 @@ bool QtPictures::copyInk()
     if (picture.isNull()) {
         return false;
     }
-    QGuiApplication::clipboard()->setMimeData(mimeDataOf(picture).release());
+    QGuiApplication::clipboard()->setImage(picture); // offers PNG and BMP, both with the resolution
     return true;
 }
 

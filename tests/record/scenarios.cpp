@@ -44,7 +44,7 @@ constexpr Scenario scenarios[] = {
      "click repeat < cancel"},
     {"Repeat opens the panel with the kind and the value of the last source",
      "source V 12; click repeat; click Command3; s; choose Option2; text 7; click Command8; click repeat; "
-     "click Command3; source + 9; s; click Command8; click repeat"},
+     "click Command3; source + 9; s; click Command8; click repeat; click Command3; b; click Command7; click repeat"},
     {"Copy says so, or that there is nothing to copy", "click copy; tick statusTimer; right; click copy"},
     // Mouse
     {"Any button that comes up marks the drawing changed",
