@@ -68,6 +68,10 @@ TEST(History, MakesOneStepOfWhatAPersonSeesAsOne)
         Rig rig;
         rig.run(script);
         EXPECT_EQ(takenBack(rig), steps);
+        EXPECT_EQ(std::ranges::count(rig.surface.pixels(), white), std::ssize(rig.surface.pixels()));
+        if (std::string_view(script).find("press") == std::string_view::npos) {
+            EXPECT_EQ(placed(rig.form.x, rig.form.y), "1600 1500");
+        }
     }
 }
 
