@@ -45,7 +45,9 @@ TEST(History, MakesOneStepOfWhatAPersonSeesAsOne)
              {"press left 900 900; right; r < 5; click undo; click ground; release left 900 900", "wire"},
              {"click and < yes; click and < no; left; click and < yes", "wire, AND Gate"},
              {"r < 5; r < cancel; r < abc; r < 0; click Image16 < 2", "Inductance, Resistance"},
-             {"right; click open < no < cancel; r < 5", "Resistance, wire"}, // counted, but not drawn
+             {"right; click open < no < cancel; r < 5; i < 5; c < 5; source A 5; source V 5; source - 5; source + 5; "
+              "click npdiode < yes", // counted, but not drawn
+              "NP Diode, Battery, Battery, Supply, Supply, Capacitance, Inductance, Resistance, wire"},
              {"source V 5; source - 9; s; choose Option3; s; text 5; click Command3", "Battery, Supply"},
              {"click gatescolor < 255; click forec < 255; click gg; click jj; click toolbox; click print < yes", ""},
              {"click output; R < 4; click output", "Resistance"},
@@ -94,6 +96,12 @@ TEST(History, ForgetsOldStepsToLimitItsMemoryButNeverTheLast)
     }
     const auto memory = mallinfo2();
     EXPECT_LT(memory.uordblks + memory.hblkhd, 90 << 20);
+    for (int i = 0; i < 12; ++i) {
+        rig.run("click undo; click undo");
+        draw("r", 4 << 20);
+        draw("r", 4 << 20);
+    }
+    EXPECT_EQ(std::ranges::count(takenBack(rig), 'R'), 7); // steps that redo lost count no more
     draw("r", 40 << 20);
     draw("i", 40 << 20);
     rig.run("click undo; click redo");
