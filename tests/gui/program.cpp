@@ -1,7 +1,9 @@
 #include "tests/gui/program.h"
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPixmap>
+#include <QRasterWindow>
 #include <QRegularExpression>
 #include <QScreen>
 #include <algorithm>
@@ -22,6 +24,14 @@ QString outputOf(const QString& program, const QStringList& words)
     EXPECT_TRUE(process.waitForFinished(patience)) << program.toStdString() << ' ' << words.join(' ').toStdString();
     return QString::fromUtf8(process.readAllStandardOutput()).simplified();
 }
+
+class Cover : public QRasterWindow {
+public:
+    static constexpr Qt::GlobalColor color = Qt::red;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).fillRect(0, 0, width(), height(), color); }
+};
 
 } // namespace
 
@@ -120,6 +130,23 @@ QImage Program::canvas() const
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, m_canvas.x(), m_canvas.y(), m_canvas.width(), m_canvas.height())
         .toImage();
+}
+
+QImage Program::uncoveredCanvas() const
+{
+    Cover cover;
+    cover.setFlags(Qt::BypassWindowManagerHint | Qt::Tool);
+    cover.setGeometry(m_canvas);
+    cover.show();
+    const auto isSeen = [](const QImage& canvas) {
+        return canvas.pixelColor(canvas.rect().center()) == Cover::color ||
+               canvas.pixelColor(canvas.rect().topLeft()) == Cover::color;
+    };
+    waitUntil("the cover", [&] { return isSeen(canvas()); });
+    cover.hide();
+    QImage seen;
+    waitUntil("the cover's end", [&] { return !isSeen(seen = canvas()); });
+    return seen;
 }
 
 std::optional<Accessible> Program::find(const char* role, const QString& name) const

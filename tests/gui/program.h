@@ -35,6 +35,8 @@ public:
     void activate();
 
     [[nodiscard]] QImage canvas() const;
+    /// The first that the canvas shows once a window that covered it has gone.
+    [[nodiscard]] QImage uncoveredCanvas() const;
     /// A place on the screen, on the canvas.
     [[nodiscard]] QRect onCanvas(QRect place) const { return place.translated(-m_canvas.topLeft()); }
     [[nodiscard]] bool inked(int x, int y) const { return canvas().pixelColor(x, y) != Qt::white; }

@@ -137,6 +137,13 @@ TEST(Program, ToolboxHintsAtItsButtonsAndFollowsTheMouse)
     program.moveMouse(100, 500);
     program.waitForText("Press F1 for Help");
     EXPECT_EQ(corner(), QPoint(200, 200));
+
+    program.click(1, 190, 250);
+    const QRect toolbox = program.onCanvas(program.placeOf("panel", "ToolBox"));
+    const QImage before = program.canvas().copy(toolbox);
+    program.keys("Right", 20);
+    waitUntil("wire up to the toolbox", [&] { return program.inked(198, 250); });
+    EXPECT_TRUE(program.canvas().copy(toolbox) == before) << "ink was seen on the toolbox";
 }
 
 TEST(Program, TellsAScreenReaderTheNameOfEveryControlAndWhatItSays)
