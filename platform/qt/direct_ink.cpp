@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
@@ -16,7 +17,7 @@ namespace schemlet {
 namespace {
 
 constexpr int depth = 24; // the bits of a pixel that X11 uses
-constexpr int pixelBytes = 4;
+constexpr std::ptrdiff_t pixelBytes = 4;
 constexpr int mostPixels = 64 * 64; // the toolkit's shared memory is faster for more
 constexpr int repaintDelay = 250;   // milliseconds
 constexpr int joinedSpan = 500'000; // nanoseconds; strokes that come faster are sent together
@@ -51,7 +52,7 @@ bool takesImagePixels(const xcb_setup_t& setup, xcb_visualid_t wanted)
 bool hasChildOver(const QWidget& parent, const QWidget* apartFrom, const QRect& part)
 {
     return std::ranges::any_of(parent.children(), [&](const QObject* child) {
-        const auto* const widget = child->isWidgetType() ? static_cast<const QWidget*>(child) : nullptr;
+        const auto* const widget = qobject_cast<const QWidget*>(child);
         return widget != nullptr && widget != apartFrom && !widget->isWindow() && !widget->isHidden() &&
                widget->geometry().intersects(part);
     });
@@ -154,7 +155,7 @@ void DirectInk::store(const QImage& ink, QPoint place, const QRect& part) const
 {
     QBackingStore& store = *m_widget.backingStore();
     store.beginPaint(part); // waits while the server still reads the part
-    auto& all = *static_cast<QImage*>(store.paintDevice());
+    auto& all = dynamic_cast<QImage&>(*store.paintDevice());
     for (int y = 0; y < ink.height(); ++y) {
         std::copy_n(ink.constScanLine(y), ink.bytesPerLine(), all.scanLine(place.y() + y) + place.x() * pixelBytes);
     }
