@@ -2,6 +2,7 @@
 // same machine before a change.
 
 #include "platform/qt/canvas_widget.h"
+#include "platform/qt/picture_files.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_main_window.h"
 #include "platform/qt/qt_pictures.h"
@@ -14,6 +15,7 @@
 #include "ui_Form6.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 
@@ -65,19 +67,94 @@ void finish(const benchmark::State& state)
     }
 }
 
-/// Runs a benchmark without and with the repaint. The variable ITERATIONS fixes the number of iterations, for tools
-/// that count instructions.
-void variants(benchmark::internal::Benchmark* benchmark)
+/// The variable ITERATIONS fixes the number of iterations, for tools that count instructions.
+void fixIterations(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->ArgName("repaint")->Arg(0)->Arg(1);
     if (const char* const iterations = std::getenv("ITERATIONS")) {
         benchmark->Iterations(std::atoll(iterations));
     }
 }
 
+/// Runs a benchmark without and with the repaint.
+void variants(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("repaint")->Arg(0)->Arg(1);
+    fixIterations(benchmark);
+}
+
+/// A picture without blank paper, 6 to 5.
+QImage picture(int width)
+{
+    QImage picture(width, width * 5 / 6, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < width; ++x) {
+            picture.setPixel(x, y, 0xFF000000 | static_cast<QRgb>(x * y));
+        }
+    }
+    return picture;
+}
+
+/// The pencil on its n-th motion, of which all are alike.
+void movePencil(Program& program, int n)
+{
+    const auto x = static_cast<float>(1500 + n % 200 * 45);
+    const auto y = static_cast<float>(1500 + n % 2 * 105);
+    program.events.deliver({.kind = Event::Kind::mouseMove, .code = button::left, .place = {x, y}});
+}
+
+void pressPencil(Program& program)
+{
+    program.events.deliver({.kind = Event::Kind::click, .name = "pencil1"});
+    program.events.deliver({.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
+}
+
+void drawMillionStrokes(Program& program)
+{
+    pressPencil(program);
+    for (int i = 0; i < 1'000'000; ++i) {
+        if (i % 1000 == 0) { // a new step for undo
+            program.events.deliver({.kind = Event::Kind::mouseUp, .code = button::left, .place = {1500, 1500}});
+            program.events.deliver({.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
+        }
+        movePencil(program, i);
+    }
+    program.events.deliver({.kind = Event::Kind::mouseUp, .code = button::left, .place = {1500, 1500}});
+}
+
+/// What the drawing may have grown to.
+constexpr void (*growths[])(Program&) = {
+    [](Program& /*program*/) {},
+    [](Program& program) { program.main.view.resize(3840, 2160); },
+    [](Program& program) { program.main.form.Canvas->surface().setPicture(picture(6000)); },
+    drawMillionStrokes,
+};
+
+/// Runs a benchmark without and with the repaint, each at the start and after each growth.
+void grownVariants(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgNames({"repaint", "growth"})->ArgsProduct({{0, 1}, {0, 1, 2, 3}});
+    fixIterations(benchmark);
+}
+
+/// Makes what has changed a step of its own, so that it is not measured with the next one.
+void endStep(Program& program)
+{
+    for (int i = 0; i < 2; ++i) {
+        program.events.deliver({.kind = Event::Kind::click, .name = "Eraser"});
+    }
+}
+
+void grow(Program& program, const benchmark::State& state)
+{
+    growths[state.range(1)](program);
+    endStep(program);
+    QCoreApplication::processEvents();
+}
+
 void heldArrowKey(benchmark::State& state)
 {
     Program program;
+    grow(program, state);
     int steps = 0;
     for (auto _ : state) {
         const int code = ++steps % 500 < 250 ? key::right : key::left;
@@ -85,23 +162,20 @@ void heldArrowKey(benchmark::State& state)
         finish(state);
     }
 }
-BENCHMARK(heldArrowKey)->Apply(variants);
+BENCHMARK(heldArrowKey)->Apply(grownVariants);
 
 void pencilMotion(benchmark::State& state)
 {
     Program program;
-    program.events.deliver({.kind = Event::Kind::click, .name = "pencil1"});
-    program.events.deliver({.kind = Event::Kind::mouseDown, .code = button::left, .place = {1500, 1500}});
-    int i = 0;
+    grow(program, state);
+    pressPencil(program);
+    int n = 0;
     for (auto _ : state) {
-        ++i;
-        const auto x = static_cast<float>(1500 + i % 200 * 45);
-        const auto y = static_cast<float>(1500 + i % 2 * 105);
-        program.events.deliver({.kind = Event::Kind::mouseMove, .code = button::left, .place = {x, y}});
+        movePencil(program, ++n);
         finish(state);
     }
 }
-BENCHMARK(pencilMotion)->Apply(variants);
+BENCHMARK(pencilMotion)->Apply(grownVariants);
 
 void symbol(benchmark::State& state)
 {
@@ -136,23 +210,46 @@ void undoWire(benchmark::State& state)
 }
 BENCHMARK(undoWire)->Apply(variants);
 
-/// With a picture that has no blank paper.
+/// Runs a benchmark with pictures of 1, 4 and 16 times the size.
+void sizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgNames({"repaint", "width"})->ArgsProduct({{1}, {1500, 3000, 6000}})->Unit(benchmark::kMillisecond);
+    fixIterations(benchmark);
+}
+
 void undoNew(benchmark::State& state)
 {
     Program program;
-    QImage picture(1920, 1080, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            picture.setPixel(x, y, static_cast<QRgb>(x * y));
-        }
-    }
-    program.main.form.Canvas->surface().setPicture(picture);
-    for (const char* const name : {"Eraser", "New"}) { // the first makes the picture a step of its own
-        program.events.deliver({.kind = Event::Kind::click, .name = name});
-    }
+    program.main.form.Canvas->surface().setPicture(picture(static_cast<int>(state.range(1))));
+    endStep(program);
+    program.events.deliver({.kind = Event::Kind::click, .name = "New"});
     undoAndRedo(program, state);
 }
-BENCHMARK(undoNew)->Apply(variants)->Unit(benchmark::kMillisecond);
+BENCHMARK(undoNew)->Apply(sizes);
+
+void save(benchmark::State& state)
+{
+    Program program;
+    program.main.form.Canvas->surface().setPicture(picture(static_cast<int>(state.range(1))));
+    const QTemporaryDir folder;
+    for (auto _ : state) {
+        program.pictures.saveImage(folder.filePath("picture").toStdString());
+    }
+}
+BENCHMARK(save)->Apply(sizes);
+
+void open(benchmark::State& state)
+{
+    Program program;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("picture");
+    savePicture(picture(static_cast<int>(state.range(1))), path);
+    for (auto _ : state) {
+        program.pictures.loadBackground(path.toStdString());
+        finish(state);
+    }
+}
+BENCHMARK(open)->Apply(sizes);
 
 } // namespace
 

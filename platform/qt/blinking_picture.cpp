@@ -12,6 +12,7 @@ BlinkingPicture::BlinkingPicture(QWidget* parent) : QLabel(parent)
 void BlinkingPicture::setPicture(const QIcon& picture)
 {
     m_picture = picture;
+    m_drawn = {};
     setPixmap(picture.pixmap(size())); // makes it a picture for assistive programs
 }
 
@@ -25,10 +26,13 @@ void BlinkingPicture::setVisible(bool visible)
 
 void BlinkingPicture::paintEvent(QPaintEvent* /*event*/)
 {
-    if (m_on) {
-        QPainter painter(this);
-        m_picture.paint(&painter, rect());
+    if (!m_on) {
+        return;
     }
+    if (m_drawn.isNull() || m_drawn.devicePixelRatio() != devicePixelRatioF()) {
+        m_drawn = m_picture.pixmap(size(), devicePixelRatioF());
+    }
+    QPainter(this).drawPixmap(rect(), m_drawn);
 }
 
 } // namespace schemlet

@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QLabel>
+#include <QPixmap>
 
 namespace schemlet {
 
@@ -26,6 +27,7 @@ protected:
 
 private:
     QIcon m_picture;
+    QPixmap m_drawn; ///< for the present screen, because drawing an icon takes much longer
     bool m_on = true;
 };
 

@@ -37,10 +37,15 @@ CanvasWidget::CanvasWidget(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_StaticContents);
-    m_surface.changed = [this](const QRect& part) {
+    m_surface.changed = [this](const QRect& part) { showInk(part & rect()); };
+}
+
+void CanvasWidget::showInk(const QRect& part)
+{
+    if (m_showsFocus || !m_directInk.show(part, m_surface.screenImage(), m_surface.ratio())) {
         // At a fractional ratio the edges may lie between two screen pixels.
         update(m_surface.ratio() > 1 ? part.adjusted(-1, -1, 1, 1) : part);
-    };
+    }
 }
 
 void CanvasWidget::paintEvent(QPaintEvent* event)

@@ -2,6 +2,7 @@
 
 #include "platform/event.h"
 #include "platform/qt/canvas_surface.h"
+#include "platform/qt/direct_ink.h"
 
 #include <QWidget>
 #include <functional>
@@ -34,6 +35,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void showInk(const QRect& part);
     void drawInk(const QRegion& region);
     void drawFocus();
     void showFocus(bool shown);
@@ -41,6 +43,7 @@ private:
     void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
     CanvasSurface m_surface;
+    DirectInk m_directInk{*this};
     HeldButtons* m_buttons;
     bool m_showsFocus = false;
 };

@@ -240,10 +240,10 @@ QSize QtSurface::scaled(QSize canvas) const
 void QtSurface::report(const ink::Area& area)
 {
     if (area.left < area.right) {
-        m_changes.mark(area);
         if (changed) {
-            changed(toRect(area));
+            changed(toRect(area)); // before anything else, so that the ink shows sooner
         }
+        m_changes.mark(area);
     }
 }
 

@@ -40,7 +40,8 @@ void waitUntil(const char* what, const std::function<bool()>& condition)
 
 Desk::Desk()
 {
-    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
+    const QString screen = "1280x1024x" + qEnvironmentVariable("SCREEN_BITS", "24"); // of a pixel
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset"});
     const QByteArray number = waitForLine(m_server);
     qputenv("DISPLAY", ":" + number);
     qputenv("QT_QPA_PLATFORM", "xcb");

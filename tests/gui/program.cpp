@@ -1,7 +1,9 @@
 #include "tests/gui/program.h"
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPixmap>
+#include <QRasterWindow>
 #include <QScreen>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -25,6 +27,14 @@ QString titleInFront()
 {
     return outputOf("xdotool", {"getactivewindow", "getwindowname"}).simplified();
 }
+
+class Cover : public QRasterWindow {
+public:
+    static constexpr Qt::GlobalColor color = Qt::red;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).fillRect(0, 0, width(), height(), color); }
+};
 
 } // namespace
 
@@ -143,6 +153,23 @@ QImage Program::canvas() const
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, m_canvas.x(), m_canvas.y(), m_canvas.width(), m_canvas.height())
         .toImage();
+}
+
+QImage Program::uncoveredCanvas() const
+{
+    Cover cover;
+    cover.setFlags(Qt::BypassWindowManagerHint | Qt::Tool);
+    cover.setGeometry(m_canvas);
+    cover.show();
+    const auto isSeen = [](const QImage& canvas) {
+        return canvas.pixelColor(canvas.rect().center()) == Cover::color ||
+               canvas.pixelColor(canvas.rect().topLeft()) == Cover::color;
+    };
+    waitUntil("the cover", [&] { return isSeen(canvas()); });
+    cover.hide();
+    QImage seen;
+    waitUntil("the cover's end", [&] { return !isSeen(seen = canvas()); });
+    return seen;
 }
 
 void Program::waitForWindow(const QString& title) const

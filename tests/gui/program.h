@@ -36,6 +36,8 @@ public:
     void activate();
 
     [[nodiscard]] QImage canvas() const;
+    /// What the canvas shows first when a window that covered it has gone.
+    [[nodiscard]] QImage uncoveredCanvas() const;
     [[nodiscard]] bool inked(int x, int y) const { return canvas().pixelColor(x, y) != Qt::white; }
 
     /// Waits until a window with this title has the keyboard.

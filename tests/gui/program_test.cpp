@@ -158,6 +158,13 @@ TEST(Program, PencilDrawsEveryPointAndInkOutlivesChangesOfTheWindowsSize)
     program.resize(1100, 800);
     waitUntil("the same, and paper in the part that is new",
               [&] { return program.canvas().copy(0, 300, 900, 300) == before && !program.inked(1025, 500); });
+    const QRect apart(60, 100, 100, 60); // from the marker
+    program.moveMouse(60, 100);
+    program.xdotool("mousedown 1 mousemove_relative 40 20");
+    waitUntil("another stroke", [&] { return program.inked(80, 110); });
+    const QImage stroke = program.canvas().copy(apart);
+    EXPECT_TRUE(program.uncoveredCanvas().copy(apart) == stroke) << "strokes were seen to vanish";
+    program.xdotool("mouseup 1");
     program.keys("ctrl+l");
     program.drag(1000, 400, 1050, 600);
     program.keys("Right Right"); // the pen was moved by the last press of the left button

@@ -103,6 +103,13 @@ TEST(Program, ToolboxFollowsTheMouse)
     program.keys("Down Down");
     waitUntil("wire from there", [&] { return program.inked(100, 505); });
     EXPECT_EQ(corner(), QPoint(200, 200));
+
+    program.click(1, 190, 250);
+    const QRect toolbox(200, 200, 180, 300);
+    const QImage before = program.canvas().copy(toolbox);
+    program.keys("Right", 20);
+    waitUntil("wire up to the toolbox", [&] { return program.inked(198, 250); });
+    EXPECT_TRUE(program.canvas().copy(toolbox) == before) << "ink was seen on the toolbox";
 }
 
 } // namespace schemlet
