@@ -180,7 +180,7 @@ bool OwnKeys::eventFilter(QObject* watched, QEvent* event)
     // Qt asks whether the text box wants the key before shortcuts get it.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = dynamic_cast<const QKeyEvent&>(*event);
-        if (m_keys.contains(QKeySequence(key.key() | (key.modifiers() & ~Qt::KeypadModifier)))) {
+        if (m_keys.contains(QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(key.key())))) {
             event->accept();
             return true;
         }
