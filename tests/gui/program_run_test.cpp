@@ -7,7 +7,7 @@
 
 namespace schemlet {
 
-TEST(Program, DrawsALoopByTheKeysAndButtonsThatNoMenuShowsAndLeavesTheseKeysToTextBoxes)
+TEST(Program, DrawsALoopByKeysAndButtonsThatNoMenuShows)
 {
     Program program;
     const auto waitForInk = [&](const char* what, int x, int y, bool inked = true) {
