@@ -1,7 +1,9 @@
 #include "platform/ink/ink.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 namespace schemlet {
@@ -77,24 +79,31 @@ void extend(Interval& row, Interval by)
     }
 }
 
-/// The part of the row at height y that lies in the rectangle between a stroke's two round ends.
-Interval rectangleRow(Place from, Place to, double halfWidth, double y)
+using Corners = std::array<Place, 4>;
+
+/// The corners of the rectangle between a stroke's two round ends, in order.
+Corners corners(Place from, Place to, double halfWidth)
 {
     const double length = std::hypot(to.x - from.x, to.y - from.y);
     if (length == 0) {
-        return {0, 0};
+        return {from, from, from, from};
     }
     const double acrossX = -(to.y - from.y) / length * halfWidth;
     const double acrossY = (to.x - from.x) / length * halfWidth;
-    const Place corners[] = {{from.x + acrossX, from.y + acrossY},
-                             {to.x + acrossX, to.y + acrossY},
-                             {to.x - acrossX, to.y - acrossY},
-                             {from.x - acrossX, from.y - acrossY}};
+    return {{{from.x + acrossX, from.y + acrossY},
+             {to.x + acrossX, to.y + acrossY},
+             {to.x - acrossX, to.y - acrossY},
+             {from.x - acrossX, from.y - acrossY}}};
+}
+
+/// The part of the row at height y that lies in a rectangle.
+Interval rectangleRow(const Corners& rectangle, double y)
+{
     Interval row{0, 0};
     bool crossed = false;
-    for (int i = 0; i < 4; ++i) {
-        const Place a = corners[i];
-        const Place b = corners[(i + 1) % 4];
+    for (std::size_t i = 0; i < rectangle.size(); ++i) {
+        const Place a = rectangle[i];
+        const Place b = rectangle[(i + 1) % rectangle.size()];
         if ((a.y <= y) == (b.y <= y)) {
             continue;
         }
@@ -144,9 +153,10 @@ Area line(const Image& image, const Pen& pen, Place from, Place to)
     const double half = pen.width * image.scale / 2;
     const Area area = clipped(image, std::min(from.x, to.x) - half, std::min(from.y, to.y) - half,
                               std::max(from.x, to.x) + half, std::max(from.y, to.y) + half);
+    const Corners rectangle = corners(from, to, half);
     for (int y = area.top; y < area.bottom; ++y) {
         const double middle = y + 0.5;
-        Interval row = rectangleRow(from, to, half, middle);
+        Interval row = rectangleRow(rectangle, middle);
         extend(row, chord(from.x, half, middle - from.y));
         extend(row, chord(to.x, half, middle - to.y));
         inkRow(image, pen, y, row, everyPixel);
