@@ -21,9 +21,9 @@ void HeldButtons::press(const QMouseEvent& event)
 
 bool HeldButtons::eventFilter(QObject* watched, QEvent* event)
 {
-    if (m_held != Qt::NoButton) {
-        // Any mouse event may be the first that shows that a button is up. If the button was released beside an open
-        // dialog, the first sign is that the dialog closes.
+    // Any mouse event may be the first that shows that a button is up. If the button was released beside an open
+    // dialog, the first sign is that the dialog closes.
+    if ((m_held & ~QGuiApplication::mouseButtons()) != 0) {
         if (event->type() == QEvent::WindowUnblocked) {
             release(QCursor::pos());
         } else if (event->isSinglePointEvent()) {
