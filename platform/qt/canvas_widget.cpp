@@ -9,6 +9,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
+#include <utility>
 
 namespace schemlet {
 
@@ -21,6 +22,11 @@ int buttonCode(Qt::MouseButtons buttons)
     code += buttons.testFlag(Qt::RightButton) ? button::right : 0;
     code += buttons.testFlag(Qt::MiddleButton) ? button::middle : 0;
     return code;
+}
+
+bool isPlainArrow(const QKeyEvent& event)
+{
+    return keys::code(event) != 0 && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
 } // namespace
@@ -40,9 +46,37 @@ CanvasWidget::CanvasWidget(QWidget* parent)
     m_surface.changed = [this](const QRect& part) { showInk(part & rect()); };
 }
 
+/// Shows what an event changed in one piece, when the event ends. If it opens a dialog, the canvas first gets the event
+/// WindowBlocked, so what was drawn before is visible beside the dialog.
+bool CanvasWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isPlainArrow(dynamic_cast<const QKeyEvent&>(*event))) {
+        event->accept(); // no shortcut takes it, so the toolkit need not search them
+        return true;
+    }
+    m_isInEvent = true;
+    const bool handled = QWidget::event(event);
+    m_isInEvent = false;
+    showChanges();
+    return handled;
+}
+
 void CanvasWidget::showInk(const QRect& part)
 {
-    if (m_showsFocus || !m_directInk.show(part, m_surface.screenImage(), m_surface.ratio())) {
+    m_changed += part;
+    if (!m_isInEvent) {
+        showChanges();
+    }
+}
+
+void CanvasWidget::showChanges()
+{
+    const QRegion changed = std::exchange(m_changed, {});
+    if (changed.isEmpty() ||
+        (!m_showsFocus && m_directInk.show(changed.boundingRect(), m_surface.screenImage(), m_surface.ratio()))) {
+        return;
+    }
+    for (const QRect& part : changed) {
         // At a fractional ratio the edges may lie between two screen pixels.
         update(m_surface.ratio() > 1 ? part.adjusted(-1, -1, 1, 1) : part);
     }

@@ -4,6 +4,7 @@
 #include "platform/qt/canvas_surface.h"
 #include "platform/qt/direct_ink.h"
 
+#include <QRegion>
 #include <QWidget>
 #include <functional>
 
@@ -25,6 +26,7 @@ public:
     [[nodiscard]] CanvasSurface& surface() { return m_surface; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -36,12 +38,15 @@ protected:
 
 private:
     void showInk(const QRect& part);
+    void showChanges();
     void drawInk(const QRegion& region);
     void drawFocus();
     void showFocus(bool shown);
     void reportPointer() const;
     void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
+    bool m_isInEvent = false;
+    QRegion m_changed; ///< what is not shown yet
     CanvasSurface m_surface;
     DirectInk m_directInk{*this};
     HeldButtons* m_buttons;

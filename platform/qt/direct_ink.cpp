@@ -7,7 +7,6 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
@@ -16,8 +15,7 @@ namespace schemlet {
 
 namespace {
 
-constexpr int depth = 24; // the bits of a pixel that X11 uses
-constexpr std::ptrdiff_t pixelBytes = 4;
+constexpr int depth = 24;           // the bits of a pixel that X11 uses
 constexpr int mostPixels = 64 * 64; // the toolkit's shared memory is faster for more
 constexpr int repaintDelay = 250;   // milliseconds
 constexpr int joinedSpan = 500'000; // nanoseconds; strokes that come faster are sent together
@@ -53,8 +51,8 @@ bool hasChildOver(const QWidget& parent, const QWidget* apartFrom, const QRect& 
 {
     return std::ranges::any_of(parent.children(), [&](const QObject* child) {
         const auto* const widget = qobject_cast<const QWidget*>(child);
-        return widget != nullptr && widget != apartFrom && !widget->isWindow() && !widget->isHidden() &&
-               widget->geometry().intersects(part);
+        return widget != nullptr && widget != apartFrom && widget->geometry().intersects(part) && !widget->isHidden() &&
+               !widget->isWindow();
     });
 }
 
@@ -99,9 +97,9 @@ bool DirectInk::show(const QRect& part, const QImage& image, double ratio)
         return false;
     }
     const QPoint place = m_widget.mapTo(m_widget.window(), part.topLeft());
-    const QImage ink = image.copy(pixels);
-    put(ink, place * ratio);
-    store(ink, place * ratio, {place, part.size()});
+    read(image, pixels);
+    put(pixels.size(), place * ratio);
+    store(pixels.size(), place * ratio, {place, part.size()});
     m_shown |= part;
     if (!m_repaint.isActive()) {
         m_repaint.start();
@@ -132,12 +130,22 @@ bool DirectInk::hasReadyWindow()
     return m_context != 0;
 }
 
-void DirectInk::put(const QImage& ink, QPoint place)
+void DirectInk::read(const QImage& image, const QRect& pixels)
 {
-    xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, m_context, static_cast<std::uint16_t>(ink.width()),
-                  static_cast<std::uint16_t>(ink.height()), static_cast<std::int16_t>(place.x()),
-                  static_cast<std::int16_t>(place.y()), 0, depth, static_cast<std::uint32_t>(ink.sizeInBytes()),
-                  ink.constBits());
+    m_ink.clear();
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        m_ink.insert(m_ink.end(), row + pixels.left(), row + pixels.right() + 1);
+    }
+}
+
+void DirectInk::put(QSize size, QPoint place)
+{
+    xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, m_context,
+                  static_cast<std::uint16_t>(size.width()), static_cast<std::uint16_t>(size.height()),
+                  static_cast<std::int16_t>(place.x()), static_cast<std::int16_t>(place.y()), 0, depth,
+                  static_cast<std::uint32_t>(m_ink.size() * sizeof(QRgb)),
+                  reinterpret_cast<const std::uint8_t*>(m_ink.data()));
     if (!m_sent.isValid() || m_sent.nsecsElapsed() > joinedSpan) {
         send();
     } else if (!m_send.isActive()) {
@@ -151,13 +159,14 @@ void DirectInk::send()
     m_sent.start();
 }
 
-void DirectInk::store(const QImage& ink, QPoint place, const QRect& part) const
+void DirectInk::store(QSize size, QPoint place, const QRect& part)
 {
     QBackingStore& store = *m_widget.backingStore();
     store.beginPaint(part); // waits while the server still reads the part
     auto& all = dynamic_cast<QImage&>(*store.paintDevice());
-    for (int y = 0; y < ink.height(); ++y) {
-        std::copy_n(ink.constScanLine(y), ink.bytesPerLine(), all.scanLine(place.y() + y) + place.x() * pixelBytes);
+    auto ink = m_ink.cbegin();
+    for (int y = place.y(); y < place.y() + size.height(); ++y, ink += size.width()) {
+        std::copy_n(ink, size.width(), reinterpret_cast<QRgb*>(all.scanLine(y)) + place.x());
     }
     store.endPaint();
 }

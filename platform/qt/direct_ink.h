@@ -2,8 +2,10 @@
 
 #include <QElapsedTimer>
 #include <QRect>
+#include <QRgb>
 #include <QTimer>
 #include <cstdint>
+#include <vector>
 
 class QImage;
 class QWidget;
@@ -25,14 +27,16 @@ public:
 
 private:
     [[nodiscard]] bool hasReadyWindow();
-    void put(const QImage& ink, QPoint place);
+    void read(const QImage& image, const QRect& pixels);
+    void put(QSize size, QPoint place);
     void send();
-    void store(const QImage& ink, QPoint place, const QRect& part) const;
+    void store(QSize size, QPoint place, const QRect& part);
 
     QWidget& m_widget;
     xcb_connection_t* m_connection; ///< null on another window system
     std::uint32_t m_window = 0;     ///< the window that the context belongs to
     std::uint32_t m_context = 0;    ///< a graphics context; 0 if the window's pixels differ from the image's
+    std::vector<QRgb> m_ink;        ///< the pixels to show, row by row
     QElapsedTimer m_sent;           ///< since the last strokes were sent
     QTimer m_send;                  ///< runs while strokes wait to be sent
     QRect m_shown;                  ///< contains every part shown since the toolkit's last repaint

@@ -14,7 +14,8 @@ MenuTree::MenuTree(QWidget& form, std::function<void(Name)> clicked) : m_form(fo
 QAction& MenuTree::add(int depth, const MenuItem& item)
 {
     const bool separator = item.caption == "-";
-    auto* const action = new QAction(separator ? QString() : toQString(item.caption), &m_form);
+    QWidget& menu = menuAt(depth);
+    auto* const action = new QAction(separator ? QString() : toQString(item.caption), &menu);
     action->setSeparator(separator);
     action->setShortcuts(QKeySequence::listFromString(toQString(item.shortcut), QKeySequence::PortableText));
     action->setCheckable(item.look == Look::unchecked || item.look == Look::checked);
@@ -31,7 +32,7 @@ QAction& MenuTree::add(int depth, const MenuItem& item)
     if (item.look == Look::hidden) {
         new MenuKeys(m_form, [this, name = item.name] { m_clicked(name); });
     }
-    menuAt(depth).addAction(action);
+    menu.addAction(action);
     m_lastItems.resize(static_cast<std::size_t>(depth));
     m_lastItems.push_back(action);
     return *action;
@@ -44,7 +45,7 @@ QWidget& MenuTree::menuAt(int depth)
     }
     QAction& parent = *m_lastItems.at(static_cast<std::size_t>(depth) - 1);
     if (parent.menu() == nullptr) {
-        auto* const menu = new QMenu(&m_form);
+        auto* const menu = new QMenu(qobject_cast<QWidget*>(parent.parent()));
         menu->setObjectName(parent.objectName() + "Menu");
         menu->setAccessibleName(parent.text().remove('&').trimmed());
         menu->setSeparatorsCollapsible(false); // the last row may be a separator

@@ -68,6 +68,7 @@ QtMainWindow::QtMainWindow(QWidget& form, std::function<void(const Event&)> repo
     new DoubleClicks(m_canvas);
     m_canvas.report = [this](const Event& event) { this->report(event); };
     m_canvas.setFocus();
+    form.setAttribute(Qt::WA_Hover, false); // Qt wants each move of the mouse for dock windows, of which there are none
 }
 
 void QtMainWindow::showWindow()
@@ -136,7 +137,7 @@ void QtMainWindow::addMenuItem(int depth, const MenuItem& item)
 
 void QtMainWindow::addShortcut(const Shortcut& shortcut)
 {
-    auto* const action = new QAction(&form());
+    auto* const action = new QAction(this);
     action->setShortcuts(QKeySequence::listFromString(toQString(shortcut.keys), QKeySequence::PortableText));
     action->setAutoRepeat(shortcut.repeats);
     connect(action, &QAction::triggered, this, [this, shortcut] {
