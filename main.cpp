@@ -22,7 +22,8 @@ namespace {
 
 void prepareToolkit()
 {
-    // Fast pencil strokes need every motion. The platform plug-in turns merging on when it starts, so this comes after.
+    // Fast pencil strokes need every motion. The platform plug-in switches merging on when it starts, so this must come
+    // after the application object.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     // The desktop uses this name to find the menu entry of a window.
     QGuiApplication::setDesktopFileName("org.schemlet.schemlet");

@@ -99,7 +99,7 @@ struct Title {
     std::string title;     ///< the file's name in the window's title
 };
 
-/// A kind of source and its value, which repeat() proposes.
+/// A kind of source and its value, to be proposed again.
 struct LastSource {
     Name option;
     std::string value; ///< the text

@@ -20,7 +20,8 @@ void resetCanvas(Form1& form)
     form.blinkCount = 0;
     form.toolboxFollow = 0;
     form.window.setText(control::sb, " Press F1 for Help ");
-    // Before the pen moves to its start, so the first free-hand line starts at (0, 0), and after New at the old pen.
+    // Set before the pen moves to its start. So the first free-hand line begins at (0, 0) after the program's start,
+    // and at the pen's last place after New.
     form.surface.setCurrent(pointBeside(form));
     form.x = 1600;
     form.y = 1500;

@@ -24,7 +24,7 @@ struct Form1 : CanvasState {
     }
 
     History history;
-    Handler lastComponent = nullptr; ///< the command that repeat() runs
+    Handler lastComponent = nullptr; ///< the command of the last component, to be repeated
     Surface& surface;
     MainWindow& window;
     Dialogs& dialogs;

@@ -65,7 +65,7 @@ private:
     };
 
     /// The event between begin() and end().
-    struct Present {
+    struct CurrentEvent {
         Snapshot before;        ///< the state before the event
         int arrow = 0;          ///< its arrow key
         bool continues = false; ///< it continues the streak
@@ -92,7 +92,7 @@ private:
     std::size_t m_done = 0;  ///< the number of steps that are not undone; they come first
     std::size_t m_bytes = 0; ///< of all steps
     int m_buttons = 0;       ///< the held mouse buttons
-    Present m_event;
+    CurrentEvent m_event;
     Streak m_streak;
 };
 

@@ -78,19 +78,20 @@ double distanceToStart(const Form1& form, const Direction& way)
 
 Reach reachOf(const Form1& form, const Direction& way)
 {
-    constexpr int behind = 5; // pixels
+    constexpr int ownInk = 5; // pixels; nearer ink belongs to what the pen has just drawn
     const Track track(form, way);
     if (!track.isVisible(0)) {
         return {tenSteps, false};
     }
     int pixel = 1;
-    while (track.isVisible(pixel) && (pixel <= behind || !track.isInk(pixel) || track.isInk(pixel - 1))) {
+    while (track.isVisible(pixel) && (pixel <= ownInk || !track.isInk(pixel) || track.isInk(pixel - 1))) {
         ++pixel;
     }
     const bool isInkAhead = track.isVisible(pixel);
     const double end = isInkAhead ? track.distanceToInk(pixel) : std::max(0.0, track.distance(pixel - 1));
     const double start = distanceToStart(form, way);
-    // Nearer than a pixel, the pen is there already. The wire at the walk's start is met in the column itself.
+    // If the start is less than a pixel away, the pen is there already. A run to the start ends in its very column or
+    // row, even if the wire there begins up to a pixel earlier.
     if (start >= twipsPerPixel && start < end + twipsPerPixel) {
         return {start, true};
     }

@@ -9,8 +9,8 @@ namespace schemlet {
 /// outside the visible canvas runs ten steps. In erase mode it only turns.
 ///
 /// Ink joined to the pen's pixel or up to 5 pixels away belongs to what the pen has just drawn and does not end the
-/// run. With automatic jumpers it asks where the arrow key asks. After No it ends at that wire, after Yes it begins
-/// anew behind the jumper.
+/// run. With automatic jumpers on, a run asks at each crossing, as the arrow key does. After No it ends at the crossing
+/// wire; after Yes it starts again behind the jumper.
 void run(Form1& form, int heading);
 
 template <int heading> void run(Form1& form)

@@ -150,7 +150,7 @@ void chooseAgain(Form1& form)
         return;
     }
     form.window.setValue(last.option, 1);
-    if (form.window.text(control::Text11).empty()) { // otherwise it was typed later, and cancelled
+    if (form.window.text(control::Text11).empty()) { // otherwise keep what was typed later and cancelled
         form.window.setText(control::Text11, last.value);
     }
     choose(form, last.option);

@@ -17,7 +17,7 @@ enum class Box {
     yesNoCancelWarning
 };
 
-/// The answers of a message box. The numbers matter, because the answer about saving is stored in the pen's heading.
+/// The answers of a message box. The numbers matter, because callers store them.
 namespace answer {
 inline constexpr int cancel = 2;
 inline constexpr int yes = 6;

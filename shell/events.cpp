@@ -88,8 +88,8 @@ void Events::handle(const Event& event)
     if (!m_form.notice.empty() && isCommand(event.kind)) {
         forgetNotice(m_form); // it is about an earlier command
     }
-    const bool isStep = mayChangeDrawing(event);
-    if (isStep) {
+    const bool mayChange = mayChangeDrawing(event);
+    if (mayChange) {
         m_form.history.begin(m_form, event.kind == Event::Kind::keyDown ? event.code : 0);
     }
     try {
@@ -97,7 +97,7 @@ void Events::handle(const Event& event)
     } catch (const RuntimeError& error) {
         showError(m_form, error);
     }
-    if (isStep) {
+    if (mayChange) {
         endStep(event);
     }
     if (event.kind != Event::Kind::tick) { // otherwise the blinking marker would keep the timer running

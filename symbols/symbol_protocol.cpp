@@ -78,7 +78,7 @@ bool draw(Surface& surface, Pen& pen, std::span<const Branch> branches, std::str
 
 void moveMarkerLeft(Form1& form)
 {
-    // The first call has no effect. It was meant for the top, which therefore stays where it is.
+    // The first call has no effect: only the left edge follows the pen.
     setMarkerLeft(form, form.y - markerRise);
     setMarkerLeft(form, form.x);
 }

@@ -160,16 +160,16 @@ void Changes::markSquare(GridPlace place)
         m_columns = place.column + 1;
         m_isMarked.clear();
         for (const GridPlace marked : m_marked) {
-            isMarked(marked) = true;
+            markOf(marked) = true;
         }
     }
-    if (auto marked = isMarked(place); !marked) {
+    if (auto marked = markOf(place); !marked) {
         marked = true;
         m_marked.push_back(place);
     }
 }
 
-std::vector<bool>::reference Changes::isMarked(GridPlace place)
+std::vector<bool>::reference Changes::markOf(GridPlace place)
 {
     const std::size_t index = static_cast<std::size_t>(place.row) * static_cast<std::size_t>(m_columns) +
                               static_cast<std::size_t>(place.column);
@@ -194,7 +194,7 @@ Patch Changes::take(const Image& image, std::uint32_t paper)
     }
     std::ranges::sort(m_marked);
     for (const GridPlace place : m_marked) {
-        isMarked(place) = false;
+        markOf(place) = false;
         if (!newSheet && areAlike(copy(), image, paper, place)) {
             continue;
         }

@@ -75,7 +75,7 @@ public:
 
 private:
     void markSquare(GridPlace place);
-    [[nodiscard]] std::vector<bool>::reference isMarked(GridPlace place);
+    [[nodiscard]] std::vector<bool>::reference markOf(GridPlace place);
     void start(const Image& image, const Sheet& sheet);
     void followArea(const Image& image, const Area& area);
     void follow(const Image& image, GridPlace place, const SquarePixels& pixels);

@@ -46,25 +46,30 @@ CanvasWidget::CanvasWidget(QWidget* parent)
     m_surface.changed = [this](const QRect& part) { showInk(part & rect()); };
 }
 
-/// Shows what an event changed in one piece, when the event ends. If it opens a dialog, the canvas first gets the event
-/// WindowBlocked, so what was drawn before is visible beside the dialog.
 bool CanvasWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride && isPlainArrow(dynamic_cast<const QKeyEvent&>(*event))) {
         event->accept(); // no shortcut takes it, so the toolkit need not search them
         return true;
     }
-    m_isInEvent = true;
-    const bool handled = QWidget::event(event);
-    m_isInEvent = false;
+    if (event->type() == QEvent::WindowBlocked) {
+        showChanges(); // what was drawn before a dialog opens is visible beside it
+    }
+    return QWidget::event(event);
+}
+
+void CanvasWidget::showTogether(const std::function<void()>& handler)
+{
+    const bool collected = std::exchange(m_collects, true);
+    handler();
+    m_collects = collected;
     showChanges();
-    return handled;
 }
 
 void CanvasWidget::showInk(const QRect& part)
 {
     m_changed += part;
-    if (!m_isInEvent) {
+    if (!m_collects) {
         showChanges();
     }
 }

@@ -25,6 +25,9 @@ public:
 
     [[nodiscard]] CanvasSurface& surface() { return m_surface; }
 
+    /// Calls a handler, and then shows all that it has changed in one piece.
+    void showTogether(const std::function<void()>& handler);
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -45,12 +48,12 @@ private:
     void reportPointer() const;
     void reportMouse(Event::Kind kind, int code, QPointF position, std::string_view name = {}) const;
 
-    bool m_isInEvent = false;
-    QRegion m_changed; ///< what is not shown yet
     CanvasSurface m_surface;
     DirectInk m_directInk{*this};
     HeldButtons* m_buttons;
     bool m_showsFocus = false;
+    bool m_collects = false;
+    QRegion m_changed; ///< what is not shown yet
 };
 
 } // namespace schemlet

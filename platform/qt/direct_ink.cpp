@@ -9,13 +9,15 @@
 #include <cmath>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <xcb/xcb.h>
 
 namespace schemlet {
 
 namespace {
 
-constexpr int depth = 24;           // the bits of a pixel that X11 uses
+constexpr int depth = 24;           // bits of colour
+constexpr int pixelBits = 32;       // with the unused ones
 constexpr int mostPixels = 64 * 64; // the toolkit's shared memory is faster for more
 constexpr int repaintDelay = 250;   // milliseconds
 constexpr int joinedSpan = 500'000; // nanoseconds; strokes that come faster are sent together
@@ -26,12 +28,20 @@ bool isRgb(const xcb_visualtype_t& visual)
            visual.blue_mask == 0xff;
 }
 
-/// Whether the server takes the pixels of QImage::Format_RGB32 as they are for a visual.
+bool hasWholeWords(const xcb_setup_t& setup)
+{
+    const auto* const formats = xcb_setup_pixmap_formats(&setup);
+    return std::any_of(formats, formats + xcb_setup_pixmap_formats_length(&setup), [](const xcb_format_t& format) {
+        return format.depth == depth && format.bits_per_pixel == pixelBits;
+    });
+}
+
+/// Whether a visual's pixels have the layout of QImage::Format_RGB32, so that the server can copy them unchanged.
 bool takesImagePixels(const xcb_setup_t& setup, xcb_visualid_t wanted)
 {
     constexpr auto ourOrder =
         QSysInfo::ByteOrder == QSysInfo::LittleEndian ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST;
-    if (setup.image_byte_order != ourOrder) {
+    if (setup.image_byte_order != ourOrder || !hasWholeWords(setup)) {
         return false;
     }
     for (auto screens = xcb_setup_roots_iterator(&setup); screens.rem > 0; xcb_screen_next(&screens)) {
@@ -118,7 +128,9 @@ bool DirectInk::hasReadyWindow()
     }
     if (const auto number = static_cast<xcb_window_t>(window.internalWinId()); number != m_window) {
         m_window = number;
-        m_context = 0;
+        if (m_context != 0) {
+            xcb_free_gc(m_connection, std::exchange(m_context, 0));
+        }
         const std::unique_ptr<xcb_get_window_attributes_reply_t, decltype(&std::free)> attributes(
             xcb_get_window_attributes_reply(m_connection, xcb_get_window_attributes(m_connection, number), nullptr),
             &std::free);

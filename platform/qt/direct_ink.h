@@ -14,7 +14,7 @@ struct xcb_connection_t;
 namespace schemlet {
 
 /// Shows changed pixels of a widget on X11 without waiting for the toolkit's repaint. It writes them into the window
-/// and into the window's backing store, so that whatever the toolkit copies from there to the window is as new. The
+/// and into the window's backing store, so that the toolkit never copies old pixels from there to the window. The
 /// toolkit's own repaint follows later, once for many strokes.
 class DirectInk {
 public:

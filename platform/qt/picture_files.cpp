@@ -179,7 +179,8 @@ void savePicture(const QImage& image, const QString& path)
     }
     if (!QImageWriter(&file, "bmp").write(picture) || !isOnDisk(file) || !file.commit()) {
         // Qt gives no reason why a write stopped half-way.
-        const bool full = QStorageInfo(info.path()).bytesAvailable() < picture.sizeInBytes();
+        const QStorageInfo disk(info.path());
+        const bool full = disk.isValid() && disk.bytesAvailable() < picture.sizeInBytes();
         refuseToSave(full ? QStringLiteral("disk full") : QStringLiteral("the disk takes no more"));
     }
 }

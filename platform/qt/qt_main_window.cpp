@@ -55,7 +55,9 @@ void labelOverflow(const QWidget& form, const char* button, const char* name)
 } // namespace
 
 QtMainWindow::QtMainWindow(QWidget& form, std::function<void(const Event&)> report)
-    : QtWindow(form, std::move(report)), m_canvas(*form.findChild<CanvasWidget*>()),
+    : QtWindow(form, [this, report = std::move(report)](
+                         const Event& event) { m_canvas.showTogether([&] { report(event); }); }),
+      m_canvas(*form.findChild<CanvasWidget*>()),
       m_menus(form, [this](Name item) { this->report({.kind = Event::Kind::click, .name = item.text()}); })
 {
     for (const auto& [name, object] : named()) {
@@ -83,15 +85,15 @@ void QtMainWindow::printForm()
 {
     std::vector<QWidget*> hidden;
     for (const auto& [name, object] : named()) {
-        auto* const guide = qobject_cast<BlinkingPicture*>(object);
-        if (guide != nullptr && guide->isOn()) {
-            guide->setVisible(false);
-            hidden.push_back(guide);
+        auto* const blinking = qobject_cast<BlinkingPicture*>(object);
+        if (blinking != nullptr && blinking->isOn()) {
+            blinking->setVisible(false);
+            hidden.push_back(blinking);
         }
     }
     const QImage picture = m_canvas.parentWidget()->grab(m_canvas.geometry()).toImage();
-    for (QWidget* const guide : hidden) {
-        guide->setVisible(true);
+    for (QWidget* const blinking : hidden) {
+        blinking->setVisible(true);
     }
     print(picture);
 }
@@ -141,7 +143,7 @@ void QtMainWindow::addShortcut(const Shortcut& shortcut)
     action->setShortcuts(QKeySequence::listFromString(toQString(shortcut.keys), QKeySequence::PortableText));
     action->setAutoRepeat(shortcut.repeats);
     connect(action, &QAction::triggered, this, [this, shortcut] {
-        if (shortcut.repeats || !m_repeats.isRepeating()) { // some repeats come although the action takes none
+        if (shortcut.repeats || !m_repeats.isRepeating()) { // Qt lets some repeats through
             report({.kind = Event::Kind::click, .name = shortcut.name.text()});
         }
     });

@@ -241,7 +241,7 @@ void QtSurface::report(const ink::Area& area)
 {
     if (area.left < area.right) {
         if (changed) {
-            changed(toRect(area)); // before anything else, so that the ink shows sooner
+            changed(toRect(area));
         }
         m_changes.mark(area);
     }

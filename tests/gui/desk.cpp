@@ -34,7 +34,8 @@ void waitUntil(const char* what, const std::function<bool()>& condition)
         const QString picture =
             QString("%1/screen-%2.png").arg(QDir::tempPath()).arg(QCoreApplication::applicationPid());
         QGuiApplication::primaryScreen()->grabWindow().save(picture);
-        throw std::runtime_error("see " + picture.toStdString() + ", never came: " + what);
+        throw std::runtime_error(std::string("timed out waiting for: ") + what + "; the screen is in " +
+                                 picture.toStdString());
     }
 }
 

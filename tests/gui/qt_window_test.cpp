@@ -217,15 +217,13 @@ TEST_F(QtWindowTest, OnlyTheProgramPressesToolButtonsAndTheirColoursAreSharp)
     }
 }
 
-TEST_F(QtWindowTest, OnlyTheProgramMarksMenuItemsAndBarsCanBeHidden)
+TEST_F(QtWindowTest, OnlyTheProgramMarksMenuItems)
 {
     window->addMenuItem(0, {"askc", "Ask Confirmation"});
     window->addMenuItem(1, {"gg", "Gates", "", Look::checked});
     view.findChild<QAction*>("gg")->trigger();
     EXPECT_EQ(noted(), "click gg0\n");
     EXPECT_TRUE(window->checked("gg"));
-    window->hide({Toolbar1, statusBar});
-    EXPECT_TRUE(view.findChild<QToolBar*>()->isHidden() && form.statusBar->isHidden());
 }
 
 TEST_F(QtWindowTest, AHeldShortcutRepeatsOnlyIfItShould)

@@ -96,11 +96,11 @@ constexpr Scenario scenarios[] = {
     {"Supplies are totals", "source V 5; source V 7; source A 0.5; click output; source V -12; click output"},
     {"Negative values have a frequency if both are", "I < -1; C < -4; R < -2; click output"},
     {"Very large and very small totals", "R < 1E+15; I < 1E-05; click output"},
-    {"No root of a negative number: what comes before is shown", "source V 5; I < -1; C < 4; click output"},
-    {"A result too large: what comes before is shown", "source V 5; I < 1E+300; C < 1E-300; click output"},
+    {"Values before the root of a negative number are shown", "source V 5; I < -1; C < 4; click output"},
+    {"Values before a result that is too large are shown", "source V 5; I < 1E+300; C < 1E-300; click output"},
     {"The Output window prints itself", "click Form4.print"},
     // The status bar
-    {"The status bar follows once for all events of a moment",
+    {"One update of the status bar serves all events before it",
      "canvas 9000 1450; up; e; j; click rectan; move none 6194 4575; tick statusTimer; e; j; left; hover; "
      "tick statusTimer"},
     {"The status bar says that there is no direction", "right; click open < no < cancel; tick statusTimer"},
@@ -144,7 +144,7 @@ constexpr Scenario scenarios[] = {
      "right; click undo; click redo; R < 4; click output; I < 2; click output; tick statusTimer; click undo; "
      "click undo; tick statusTimer; click redo; source V 5; source - 9; click pndoide < yes; click undo; click undo; "
      "click undo; click undo"},
-    {"Undo leaves alone what is the hand's",
+    {"Undo leaves tools, colors and settings alone",
      "right; click forec < 255; click linee; e; click gg; click jj; click save < /a/b.JPEG; click undo"},
     {"Undoing New brings back all that it reset",
      "right; click save < /a/b.JPEG; click bc < 255; R < 4; click forec < 255; click eraser; click gg; click Label1; "
@@ -168,7 +168,7 @@ constexpr Scenario scenarios[] = {
     {"New proposes no name", "right; click save < /a/b.JPEG; click new; click save < cancel"},
     {"New asks only after a change, and Cancel keeps the drawing",
      "right; click new < cancel; click new < yes < /a/b.JPEG; click new"},
-    {"New brings back the start, but keeps what is the hand's",
+    {"New restores the start, but keeps tool, component colors and jumpers",
      "right; click bc < 255; click gatescolor < 255; click forec < 255; click linee; click jj; click gg; click eraser; "
      "click Label1; move left 900 900; s; choose Option2; click new < no; tick statusTimer"},
     {"New sets every total and result to 0",
