@@ -49,12 +49,10 @@ void sayWhyNotDrawn(Form1& form, const Symbol& symbol)
     if (headingName(form.heading).empty()) {
         return notify(form, noDirection);
     }
-    std::string headings;
-    for (const Branch& branch : symbol.branches) {
-        headings += headings.empty() ? "" : " or ";
-        headings += headingName(branch.heading);
-    }
-    notify(form, nameOf(symbol) + " needs the pen heading " + headings);
+    // Symbols have branches for all four headings, for one, or the same for any.
+    std::string reason = nameOf(symbol) + " needs the pen heading ";
+    reason += headingName(symbol.branches.front().heading);
+    notify(form, reason);
 }
 
 } // namespace
