@@ -52,8 +52,8 @@ private:
     DirectInk m_directInk{*this};
     HeldButtons* m_buttons;
     bool m_showsFocus = false;
-    bool m_collects = false;
-    QRegion m_changed; ///< what is not shown yet
+    bool m_collects = false; ///< while a handler runs
+    QRegion m_changed;       ///< what is not shown yet
 };
 
 } // namespace schemlet

@@ -14,6 +14,7 @@ MenuTree::MenuTree(QWidget& form, std::function<void(Name)> clicked) : m_form(fo
 QAction& MenuTree::add(int depth, const MenuItem& item)
 {
     const bool separator = item.caption == "-";
+    // The menu owns the row, not the window: DirectInk looks through the window's children for each stroke.
     QWidget& menu = menuAt(depth);
     auto* const action = new QAction(separator ? QString() : toQString(item.caption), &menu);
     action->setSeparator(separator);

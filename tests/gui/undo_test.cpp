@@ -49,13 +49,15 @@ struct CanvasUndo : testing::TestWithParam<double> {
         EXPECT_EQ(canvas.screenImage(), images[image].second) << step;
         EXPECT_TRUE(canvas.takeChange().empty());
         if (before.size() == canvas.picture().size()) {
-            QRegion differing;
+            QRect differing;
             visit(before, [&](int x, int y) {
-                differing += before.pixel(x, y) == canvas.picture().pixel(x, y) ? QRect() : QRect(x, y, 1, 1);
+                if (before.pixel(x, y) != canvas.picture().pixel(x, y)) {
+                    differing |= QRect(x, y, 1, 1);
+                    EXPECT_TRUE(reported.contains(QPoint(x, y))) << step;
+                }
             });
-            EXPECT_TRUE(differing.subtracted(reported).isEmpty()) << step;
             if (GetParam() == 1) { // on a sharp screen, undo of a picture makes the screen's image again
-                EXPECT_TRUE(differing.boundingRect().adjusted(-9, -9, 9, 9).contains(reported.boundingRect())) << step;
+                EXPECT_TRUE(differing.adjusted(-9, -9, 9, 9).contains(reported.boundingRect())) << step;
             }
         }
     }
